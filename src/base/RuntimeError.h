@@ -19,6 +19,7 @@ enum class ErrorNumber {
     PathNotFound = 76,
     ObjectNotSet = 91,
     InvalidPropertyValue = 380,
+    InvalidPropertyArrayIndex = 381,
     ArgumentsOfWrongType = 3001,
     NoCurrentRecord = 3021,
     ItemNotFound = 3265,

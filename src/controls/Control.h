@@ -1,0 +1,87 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "controls/Colour.h"
+
+namespace plandesk {
+
+class Form;
+
+enum class ControlKind {
+    TextBox,
+    OptionButton,
+    CheckBox,
+    ComboBox,
+    DatePicker,
+    Label,
+    Button,
+    Image,
+    Frame,
+    TabStrip,
+    Grid,
+    RichText,
+};
+
+std::string_view kindName(ControlKind kind);
+
+/// One named control of a form. It belongs to the form it was declared in and lives exactly as long.
+/// `visible` and `enabled` are what program code set; whether a page or frame hides it on screen is the view's business.
+class Control {
+public:
+    static constexpr int noIndex = -1;
+
+    /// `index`: place in a control array, whose members share one name; noIndex for a control of its own.
+    Control(Form& form, ControlKind kind, std::string_view name, int index);
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    Form& form() const { return owner; }
+    ControlKind kind() const { return controlKind; }
+    const std::string& name() const { return controlName; }
+    int index() const { return arrayIndex; }
+    /// NAME, or NAME(INDEX) for a member of a control array.
+    std::string key() const;
+
+    bool visible() const { return isVisible; }
+    void setVisible(bool on);
+    bool enabled() const { return isEnabled; }
+    void setEnabled(bool on);
+    Colour backColor() const { return back; }
+    void setBackColor(Colour colour);
+
+    /// Whether a user can move the focus here: the kind takes it and the control is visible and enabled.
+    bool takesFocus() const { return kindTakesFocus() && isVisible && isEnabled; }
+    bool focused() const;
+    /// Program code moves the focus here. No leave check runs.
+    void setFocus();
+
+    /// Runs the control's own reaction to the event "Click", "Change", "GotFocus" or "LostFocus".
+    /// False when the control has no such event.
+    virtual bool fire(std::string_view event);
+
+    std::string toolTip;
+    std::function<void()> gotFocus;
+    std::function<void()> lostFocus;
+    /// Asked when the user leaves for another control of the form; false holds the focus here.
+    std::function<bool()> leaveCheck;
+
+protected:
+    /// Tells the views that something of the control is to be painted anew.
+    void touched();
+    virtual bool kindTakesFocus() const { return true; }
+
+private:
+    Form& owner;
+    std::string controlName;
+    ControlKind controlKind;
+    int arrayIndex;
+    bool isVisible = true;
+    bool isEnabled = true;
+    Colour back = white;
+};
+
+}  // namespace plandesk

@@ -1,0 +1,137 @@
+#include "controls/Form.h"
+
+#include <algorithm>
+
+#include "base/Text.h"
+#include "controls/Controls.h"
+#include "controls/Screen.h"
+
+namespace plandesk {
+
+bool IgnoringCase::operator()(std::string_view a, std::string_view b) const
+{
+    const auto lower = [](unsigned char c) { return c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : int{c}; };
+    return std::ranges::lexicographical_compare(a, b, {}, lower, lower);
+}
+
+Form::Form(Screen& screen, std::string_view name, std::string_view caption)
+    : desk(screen), formName(name), title(caption)
+{
+    desk.stack.insert(desk.stack.begin(), this);
+}
+
+Form::~Form()
+{
+    desk.forget(*this);
+}
+
+const Layout& Form::layout() const
+{
+    static const Layout none;
+    return none;
+}
+
+void Form::setCaption(std::string_view caption)
+{
+    title = caption;
+    desk.formTouched(*this);
+}
+
+void Form::setBackColor(Colour colour)
+{
+    back = colour;
+    desk.formTouched(*this);
+}
+
+void Form::show()
+{
+    shown = true;
+    bringToFront();
+}
+
+void Form::hide()
+{
+    if (!shown)
+        return;
+    shown = false;
+    desk.leaveForm(*this);
+    desk.formTouched(*this);
+}
+
+void Form::bringToFront()
+{
+    desk.raise(*this);
+    desk.formTouched(*this);
+}
+
+bool Form::front() const
+{
+    return desk.frontForm() == this;
+}
+
+Control* Form::find(std::string_view controlName, int index) const
+{
+    const auto [first, last] = byName.equal_range(controlName);
+    const auto found = std::find_if(first, last, [index](const auto& entry) { return entry.second->index() == index; });
+    return found == last ? nullptr : found->second;
+}
+
+Control* Form::findKey(std::string_view key) const
+{
+    const std::size_t bracket = key.find('(');
+    if (bracket == std::string_view::npos)
+        return find(key);
+    int index = 0;
+    for (const char digit : key.substr(bracket + 1, key.size() - bracket - 2)) {
+        if (digit < '0' || digit > '9' || index > 9999)
+            return nullptr;
+        index = index * 10 + (digit - '0');
+    }
+    return find(key.substr(0, bracket), index);
+}
+
+std::vector<Control*> Form::tabOrder() const
+{
+    std::vector<Control*> order;
+    const auto take = [&](std::string_view names) {
+        for (const std::string& key : split(names, " "))
+            if (Control* control = findKey(key))
+                order.push_back(control);
+    };
+    const Layout& sheet = layout();
+    take(sheet.head);
+    const auto* strip = dynamic_cast<const TabStrip*>(findKey(sheet.tabs));
+    for (std::size_t page = 0; page < sheet.pages.size(); ++page) {
+        if (strip && static_cast<int>(page) != strip->tab())
+            continue;
+        for (const LayoutGroup& group : sheet.pages[page].groups) {
+            const Control* frame = findKey(group.frame);
+            if (frame && !frame->visible())
+                continue;
+            for (const LayoutRow& row : group.rows)
+                take(row.controls);
+        }
+    }
+    take(sheet.buttons);
+    return order;
+}
+
+void Form::procedure(std::string_view procedureName, std::function<void()> body)
+{
+    procedures.emplace(procedureName, std::move(body));
+}
+
+bool Form::run(std::string_view procedureName)
+{
+    if (const auto found = procedures.find(std::string(procedureName)); found != procedures.end()) {
+        found->second();
+        return true;
+    }
+    const std::size_t underscore = procedureName.rfind('_');
+    if (underscore == std::string_view::npos)
+        return false;
+    Control* control = find(procedureName.substr(0, underscore));
+    return control && control->fire(procedureName.substr(underscore + 1));
+}
+
+}  // namespace plandesk

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/Control.h"
+#include "controls/Layout.h"
+
+namespace plandesk {
+
+class Screen;
+
+/// Names compare in any case.
+struct IgnoringCase {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const;
+};
+
+/// A form of the system: named controls with their reactions. It needs no window; a view only draws it.
+class Form {
+public:
+    Form(Screen& screen, std::string_view name, std::string_view caption);
+    virtual ~Form();
+    Form(const Form&) = delete;
+    Form& operator=(const Form&) = delete;
+
+    /// The form's load reaction. Runs once, right after construction, when the form is first touched.
+    virtual void load() {}
+    virtual const Layout& layout() const;
+
+    /// What the form does to a key before its control sees it: 0 swallows it. Passes all by default.
+    virtual int keyPress(int key) const { return key; }
+    /// Whether Enter moves on like Tab.
+    virtual bool enterActsAsTab() const { return false; }
+    /// Runs on Enter before the focus moves.
+    virtual void enterPressed() {}
+    /// F2, F3, Esc with the focus anywhere on the form; `key` is the name that the driver uses.
+    virtual void functionKey(std::string_view /*key*/) {}
+    /// The close box: hides, so that the form keeps its values.
+    virtual void closeBox() { hide(); }
+
+    const std::string& name() const { return formName; }
+    const std::string& caption() const { return title; }
+    void setCaption(std::string_view caption);
+    Colour backColor() const { return back; }
+    void setBackColor(Colour colour);
+    bool visible() const { return shown; }
+    /// Makes the form visible, in front of the others, and the active one.
+    void show();
+    void hide();
+    /// Brings a visible form to the front; a hidden one stays hidden and is merely the next to show there.
+    void bringToFront();
+    bool front() const;
+
+    /// All controls in the order of their declaration.
+    const std::vector<Control*>& controls() const { return all; }
+    /// The control of that name in any case; null when there is none. `index` noIndex finds a control of its own only.
+    Control* find(std::string_view controlName, int index = Control::noIndex) const;
+    /// Looks up a name as layouts write it: NAME or NAME(INDEX).
+    Control* findKey(std::string_view key) const;
+    template <class Kind>
+    void forEach(const std::function<void(Kind&)>& action) const
+    {
+        for (Control* control : all)
+            if (auto* wanted = dynamic_cast<Kind*>(control))
+                action(*wanted);
+    }
+
+    /// The controls that Tab walks on the page now shown, in screen order, able to take the focus or not.
+    std::vector<Control*> tabOrder() const;
+    /// The control that has, or last had, the focus on this form; null before the first.
+    Control* activeControl() const { return active; }
+
+    /// Runs the procedure of that name in any case: one that the form declared, or CONTROL_EVENT.
+    /// False when there is none.
+    bool run(std::string_view procedure);
+
+    Screen& screen() const { return desk; }
+
+protected:
+    /// Makes a procedure without arguments reachable by name.
+    void procedure(std::string_view procedureName, std::function<void()> body);
+
+private:
+    friend class Control;
+    friend class Screen;
+
+    Screen& desk;
+    std::string formName;
+    std::string title;
+    Colour back = white;
+    bool shown = false;
+    std::vector<Control*> all;
+    std::multimap<std::string, Control*, IgnoringCase> byName;
+    std::map<std::string, std::function<void()>, IgnoringCase> procedures;
+    Control* active = nullptr;
+};
+
+}  // namespace plandesk

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+// What a form looks like, as data: pages of groups of rows. A view turns it into widgets, and the tab order is the
+// order in which the controls are named here. The names are looked up in the form when it is first drawn.
+
+namespace plandesk {
+
+/// One question with the controls that answer it. A row of which no control is visible is not shown.
+struct LayoutRow {
+    std::string_view item;      ///< printed item mark: "3 a.", or empty
+    std::string_view question;  ///< text beside the controls, or empty
+    /// Names of the controls in screen order, separated by blanks; a member of an array as NAME(INDEX). A row without
+    /// controls shows its question over the whole width.
+    std::string_view controls;
+    std::string_view unit{};   ///< "Sq. Mtrs" behind the controls, or empty
+    std::string_view mark{};   ///< "*" mandatory, "#" one of a pair, or empty
+    std::string_view label{};  ///< name of the label control whose live caption is the question, or empty
+};
+
+struct LayoutGroup {
+    std::string_view title{};  ///< heading, or empty
+    std::span<const LayoutRow> rows{};
+    /// Column heads: with them the row's controls stand in aligned columns, one head for each, the first one over the
+    /// questions.
+    std::span<const std::string_view> heads{};
+    std::string_view frame{};  ///< name of the frame control whose caption is the heading and that hides the whole group
+};
+
+struct LayoutPage {
+    std::span<const LayoutGroup> groups;
+};
+
+struct Layout {
+    /// Width of the question column in average characters of the system font.
+    int questionWidth = 56;
+    std::string_view head{};    ///< names of the controls in the row above the pages: links, page buttons
+    std::string_view tabs{};    ///< name of the tab strip that chooses the page; without one, all pages stand one below the other
+    std::span<const LayoutPage> pages{};
+    std::string_view buttons{};  ///< names of the controls in the row below the pages
+    bool modal = false;
+};
+
+}  // namespace plandesk

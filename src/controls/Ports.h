@@ -1,0 +1,80 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/Date.h"
+
+// What the system asks of the platform. The window and the script driver each bring their own.
+
+namespace plandesk {
+
+enum class Icon { None, Information, Question, Critical };
+
+struct Message {
+    std::string title;  ///< empty: the box has no title of its own, a window shows the program's name
+    std::string text;
+    Icon icon = Icon::None;
+};
+
+struct FileDialog {
+    std::string title;
+    std::string defaultExtension;
+    std::string filter;
+    std::string fileName;  ///< what the name field holds at first
+};
+
+class Dialogs {
+public:
+    virtual ~Dialogs() = default;
+    /// Shows a box with an OK button and returns when it was closed.
+    virtual void showMessage(const Message& message) = 0;
+    /// Shows a box with Yes and No; true for Yes.
+    virtual bool askYesNo(const Message& question) = 0;
+    /// The chosen path, or what `dialog.fileName` held when the user cancelled.
+    virtual std::string openFile(const FileDialog& dialog) = 0;
+    virtual std::string saveFile(const FileDialog& dialog) = 0;
+};
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+    virtual Date today() const = 0;
+};
+
+class Files {
+public:
+    virtual ~Files() = default;
+    /// The lines of a text file without their ends (line feed, or carriage return and line feed).
+    /// RuntimeError 53 when the file is missing, 75 when it cannot be read.
+    virtual std::vector<std::string> readLines(const std::filesystem::path& path) = 0;
+    /// Writes the file whole or not at all: at any moment the disk holds the earlier file or the new one.
+    /// RuntimeError 61, 70, 75, 76 or 57 when it cannot; the earlier file is then untouched.
+    virtual void writeWhole(const std::filesystem::path& path, std::string_view bytes) = 0;
+};
+
+class Program {
+public:
+    virtual ~Program() = default;
+    /// The folder of the program's own files, without a "/" at its end.
+    virtual std::string folder() const = 0;
+    /// Name, title and version that the program was built with.
+    virtual std::string title() const = 0;
+    virtual std::string version() const = 0;
+    /// Starts the machine's own system information tool; false when there is none.
+    virtual bool startSystemInformation() = 0;
+    /// Ends the program at once, without any save. Returns to the caller, after which no event reaches the system.
+    virtual void end() = 0;
+};
+
+/// Everything the system needs of its surroundings. The referenced objects outlive the system.
+struct Ports {
+    Dialogs& dialogs;
+    Clock& clock;
+    Files& files;
+    Program& program;
+};
+
+}  // namespace plandesk

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "base/RuntimeError.h"
+#include "controls/Ports.h"
+
+namespace plandesk {
+
+class Control;
+class Form;
+
+/// What a view wants to hear. Every call comes after the change.
+class ScreenObserver {
+public:
+    virtual ~ScreenObserver() = default;
+    virtual void controlChanged(Control& control) = 0;
+    virtual void formChanged(Form& form) = 0;  ///< caption, colour, shown or hidden, stacking
+    virtual void formUnloading(Form& form) = 0;
+    virtual void focusChanged(Control* focused) = 0;
+    virtual void mainWindowChanged() = 0;  ///< caption, menu
+};
+
+/// The forms on the screen, which of them is in front, and the one control that has the focus.
+class Screen {
+public:
+    explicit Screen(const Ports& ports);
+    ~Screen();
+
+    Ports ports;
+    ScreenObserver* observer = nullptr;  ///< may be null
+
+    /// Shows a box through the dialogs.
+    void message(std::string_view text, std::string_view title, Icon icon = Icon::Information);
+
+    /// Runs one event of the user. A run-time error that nobody handled ends the event and is shown in one box with its
+    /// description; the program goes on.
+    void event(const std::function<void()>& reaction);
+
+    Control* focused() const { return focus; }
+    /// Program code moves the focus: lost focus and got focus run, no leave check.
+    void setFocus(Control& control);
+    /// The user moves the focus. Within one form the old control's leave check may hold it: false then, and nothing else
+    /// happens. To another form no leave check runs.
+    bool moveFocus(Control& control);
+    /// The user moves the focus away to nowhere: leave check, then lost focus. False when held.
+    bool leaveFocus();
+    /// A menu takes the focus: lost focus without a leave check.
+    void dropFocus();
+
+    /// The visible form in front of all others; null when none is visible.
+    Form* frontForm() const;
+    /// The form that keys go to: that of the focus, else the front one.
+    Form* activeForm() const;
+
+    /// The main window's own caption.
+    const std::string& caption() const { return title; }
+    void setCaption(std::string_view caption);
+
+    /// Tells the view that the main window's menu or colour changed.
+    void mainWindowTouched();
+
+    /// Takes a form off the screen and destroys it, at the end of the running event when there is one.
+    void unload(std::unique_ptr<Form> form);
+
+    bool ended() const { return over; }
+    /// Ends the program at once.
+    void end();
+
+private:
+    friend class Form;
+    friend class Control;
+    void changeFocus(Control* to);
+    static bool mayLeave(Control& control);
+    void forget(Form& form);
+    void leaveForm(const Form& form);
+    void raise(Form& form);
+    void formTouched(Form& form);
+
+    std::vector<Form*> stack;  ///< all forms, the front one last
+    Control* focus = nullptr;
+    bool focusArrived = false;  ///< the focused control has had its got-focus reaction
+    std::string title;
+    int depth = 0;  ///< events under way
+    std::vector<std::unique_ptr<Form>> unloaded;
+    bool over = false;
+};
+
+}  // namespace plandesk

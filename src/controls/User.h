@@ -1,0 +1,51 @@
+#pragma once
+
+#include <string_view>
+
+#include "base/Date.h"
+
+// The user's hands: what a key or a click does to a control, with the focus rules and key filters. The window and the
+// script driver both work through these; each call is one event, whose unhandled error ends in one message box.
+// The result is false when the control is not there for the user: hidden, disabled or locked. Nothing happens then.
+
+namespace plandesk {
+
+class CheckBox;
+class ComboBox;
+class Control;
+class DatePicker;
+class Form;
+class TabStrip;
+class TextBox;
+
+namespace user {
+
+/// Types over what the box holds, key by key through the filters. With no key let through the content stays.
+bool type(TextBox& box, std::string_view text);
+/// Types at the end of what the box holds.
+bool append(TextBox& box, std::string_view text);
+/// Empties the box with Delete.
+bool clear(TextBox& box);
+/// A text editor changed the focused box as a whole (a paste, a cut, a drag): no key filter sees it.
+bool edit(TextBox& box, std::string_view text);
+/// What the form's and the box's filters make of one key; 0 when they swallow it.
+int filteredKey(const TextBox& box, int key);
+
+/// One key with that control focused: "Enter", "Tab", "Esc", "Space", "Backspace", "F2", "F3" or one character.
+bool press(Control& control, std::string_view key);
+/// The same with whatever control of the form has the focus.
+bool pressForm(Form& form, std::string_view key);
+
+/// Clicks a button, option, check box, label, image or frame.
+bool click(Control& control);
+/// RuntimeError 380 as a box for a position that the list does not have.
+bool pick(ComboBox& list, int position);
+bool pickDate(DatePicker& picker, Date date);
+bool showTab(TabStrip& strip, int tab);
+/// Moves the focus from the control to nowhere.
+bool leave(Control& control);
+/// Moves the focus to the control; false also when a leave check held it elsewhere.
+bool focus(Control& control);
+
+}  // namespace user
+}  // namespace plandesk

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace plandesk {
+
+/// What forms ask of higher levels. The shell fills each in; a command that nobody filled in yet does nothing.
+struct Commands {
+    using Action = std::function<void()>;
+
+    static void nothing() {}
+
+    Action saveProposal = nothing;    ///< every form leaves its answers, then the document is joined and written
+    Action SaveData = nothing;        ///< guards, joins the document and writes it
+    Action CreateXMLFIle = nothing;   ///< writes the joined document to the path of the proposal
+    Action buildAnnexureB = nothing;  ///< replaces `annexureBXML`
+    Action readXml = nothing;         ///< the steps of opening a file, without setting the proposal flags
+    Action refreshMenus = nothing;
+    /// Opens the form or report of that name; does nothing for one that does not exist yet.
+    std::function<void(std::string_view name)> open = [](std::string_view) {};
+};
+
+}  // namespace plandesk

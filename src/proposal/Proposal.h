@@ -1,0 +1,86 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+
+#include "controls/Colour.h"
+#include "controls/Ports.h"
+#include "controls/Screen.h"
+#include "proposal/Commands.h"
+#include "proposal/Forms.h"
+
+namespace plandesk {
+
+/// The one open proposal: its flags, numbers and document fragments, its forms, and what they may ask of others.
+/// All state of the running system hangs here, so that several can live side by side.
+class Proposal {
+public:
+    explicit Proposal(const Ports& ports);
+    Proposal(const Proposal&) = delete;
+    Proposal& operator=(const Proposal&) = delete;
+
+    Screen screen;
+    Commands commands;
+
+    bool isNewProposal = false;    ///< a new proposal is being filled in
+    bool isProposalOpen = false;   ///< the proposal has a file
+    bool isSaveRequested = false;  ///< raised by Save, never read
+    bool isSaveAsRequested = false;
+    bool is712Current = false;  ///< 7/12 extracts, not PRCs, are the subject of a shared routine
+    bool isSavingLandRecord = false;
+    bool ownershipRelationSaved = false;
+    bool noReportReturn = false;
+    bool isDirectPrint = false;
+
+    std::int16_t currentFormNo = 0;  ///< page of the Particulars last shown through the page buttons, 0 to 8
+    std::int16_t feeArea = 0;        ///< area that the fees are worked out for, whole square metres
+    std::int16_t noOfExtract712 = 0;
+    std::int16_t noOfPRC = 0;
+
+    Colour activeButtonColor = white;
+    Colour formBackColor = white;
+
+    // Fragments of the document. Each keeps its last value until its form saves again.
+    std::string annexureBXML;
+    std::string extractOwnerXML;
+    std::string prcOwnerXML;
+    std::string naOrderXML;
+    std::string ULCScrutinyXML;
+    std::string plotRelXML;
+    std::string plotPrcDetailsXML;
+    std::string discretionRevisedXML;
+    std::string discretionNewXML;
+    std::string drcIssueXML;
+    std::string drcTransferXML;
+    std::string drcUtilisationXML;
+    std::string secondScrutinyFees;  ///< grows at each save of the payment form
+    std::string mandatoryDocList;    ///< checklist string of frmDocCheckList
+    std::string conditionalDocList;  ///< checklist string of frmDocCheckList1
+
+    /// Procedures without arguments that are reachable by name.
+    std::map<std::string, std::function<void()>, IgnoringCase> procedures;
+
+    Forms forms{*this};  // last, so that the forms go first
+
+    struct FlagName {
+        std::string_view name;
+        bool Proposal::* flag;
+    };
+    struct NumberName {
+        std::string_view name;
+        std::int16_t Proposal::* number;
+    };
+    struct FragmentName {
+        std::string_view name;
+        std::string Proposal::* text;
+    };
+    static const std::array<FlagName, 9> flags;
+    static const std::array<NumberName, 4> numbers;
+    static const std::array<FragmentName, 15> fragments;
+};
+
+}  // namespace plandesk

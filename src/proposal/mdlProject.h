@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// Field rules that all forms share.
+
+namespace plandesk {
+
+class Form;
+class Proposal;
+class TextBox;
+
+/// -1 as soon as the text holds a member of the kind's character set, in any case; 0 when it holds none, is empty, or
+/// the kind is unknown. Kinds in any case: "alpha", "alphanumeric", "numeric", "decimal", "currency", "spalphanumeric",
+/// "phone", "short", "name", "password", "ishtml", "invalid", "amp", and "alphaint", which the Particulars alone use.
+std::int16_t chkString(std::string_view text, std::string_view kind);
+
+/// Key filters: 0 swallows the key. Backspace (8) and digits pass; the decimal filter lets the point pass too.
+int keyFilterDecimal(int key);
+int keyFilterNumeric(int key);
+/// Swallows # $ % & * @ ^ ~ and lets every other key pass.
+int dropSpecialKeys(int key);
+
+/// "&", "<" and ">" as entities, in this order, and nothing else.
+std::string EscapeXML(std::string_view value);
+
+/// First letter and each letter a to z behind a character outside a to z in upper case, all others in lower case; so a
+/// digit starts a new word too: "2nd" becomes "2Nd".
+std::string properCase(std::string_view text);
+
+/// Each date picker of the form takes the present date.
+void setAllDatesToToday(Form& form);
+
+/// Gives `formBackColor` to the form and to every control that is no text box, button, list or one of the three kinds
+/// without a back colour. Runs at the end of each form's load.
+void setFormColors(Form& form, const Proposal& proposal);
+
+/// Enables a box in white, or disables it in grey with its text kept.
+void openBox(TextBox& box);
+void closeBox(TextBox& box);
+/// Empties, disables and greys a box.
+void emptyAndCloseBox(TextBox& box);
+
+/// The pair check of fee and page boxes, run when `first` has changed. A box that holds a letter or a special character
+/// is told of in a message, emptied and given the focus; with both boxes filled and sound and `compute` set, `target`
+/// becomes their product in the default text form of a number.
+/// RuntimeError 13 when a product is asked of a text that is no number.
+void checkRateBox(TextBox& first, TextBox& second, TextBox& target, bool compute);
+
+/// Unloads frmPayDetail, frmDocCheckList, AnnexureACont and frmAnnexureA, and ends the program without a question.
+void closeAllForms(Proposal& proposal);
+
+}  // namespace plandesk
