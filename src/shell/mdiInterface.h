@@ -1,0 +1,78 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "controls/Colour.h"
+#include "controls/Form.h"
+#include "proposal/Proposal.h"
+
+namespace plandesk {
+
+/// One entry of the main menu.
+struct MenuEntry {
+    std::string_view name;
+    std::string_view caption;  ///< "&" before the mnemonic
+    std::string_view parent;   ///< name of the submenu it stands in; empty for the menu bar
+    bool submenu = false;
+};
+
+/// The main window without its picture: menu, proposal flags, the commands New, Open, Save, Save As and Exit, timers.
+/// Constructing it is the start of the program.
+class mdiInterface {
+public:
+    /// Makes the forms known, fills in the proposal's commands and runs the load routine.
+    explicit mdiInterface(Proposal& proposal);
+
+    /// The menu in its order, each submenu before its entries.
+    static std::span<const MenuEntry> menu();
+
+    /// Whether the entry, and the submenu it stands in, can be pressed. False for a name that is no entry.
+    bool available(std::string_view entry) const;
+    /// The user presses the entry: the focused control loses the focus without a leave check, then the command runs as
+    /// one event. False for an entry that is not available; nothing happens then.
+    bool press(std::string_view entry);
+    /// The user presses the close box: the same question as Exit. The window stays open unless the program ended.
+    void closeBox();
+    /// The window changed its size: the next tick of Timer2 paints the picture once.
+    void resized();
+
+    Colour backColor() const { return back; }
+    bool timer2Enabled() const { return timer2Running; }
+    void Timer1_Timer();
+    void Timer2_Timer();
+    /// Called by a tick of Timer2 to paint the centred picture; `minimised` says whether there is anything to paint.
+    std::function<void()> paintBackground = [] {};
+    std::function<bool()> minimised = [] { return false; };
+
+    /// Runs a procedure of the main window by name in any case, "mnuNew_Click" for instance. False when there is none.
+    bool run(std::string_view procedure);
+
+private:
+    void loadRoutine();
+    void mnuNew_Click();
+    void mnuOpen_Click();
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    void mnuExit_Click();
+    void mnuAnnexure_Click();
+    void refreshMenus();
+    bool requireParticulars();
+    void declareForms();
+    void fillCommands();
+    void openForm(std::string_view name);
+    void saveProposal();
+    void setAvailable(std::string_view entry, bool on);
+
+    Proposal& proposal;
+    Colour back;
+    bool timer2Running = false;
+    std::set<std::string, IgnoringCase> closed;  ///< entries that are not available now
+    std::map<std::string, std::function<void()>, IgnoringCase> commands;
+};
+
+}  // namespace plandesk
