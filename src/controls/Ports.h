@@ -17,6 +17,8 @@ struct Message {
     std::string title;  ///< empty: the box has no title of its own, a window shows the program's name
     std::string text;
     Icon icon = Icon::None;
+
+    bool operator==(const Message&) const = default;
 };
 
 struct FileDialog {

@@ -1,0 +1,121 @@
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "base/RuntimeError.h"
+#include "controls/Ports.h"
+
+// A machine that lives in memory: the tests queue what the user answers and read afterwards what was asked.
+
+namespace plandesk {
+
+inline void PrintTo(const Message& message, std::ostream* out) {
+    *out << '"' << message.text << "\" titled \"" << message.title << "\" with icon " << static_cast<int>(message.icon);
+}
+
+namespace test {
+
+class RecordingDialogs : public Dialogs {
+public:
+    /// Every box and question so far, oldest first.
+    std::vector<Message> messages;
+    std::vector<FileDialog> fileDialogs;
+    /// "yes", "no", "cancel" or a path for the next questions and file dialogs. With none left a question is answered
+    /// No and a file dialog is cancelled.
+    std::deque<std::string> answers;
+
+    void showMessage(const Message& message) override { messages.push_back(message); }
+    bool askYesNo(const Message& question) override {
+        messages.push_back(question);
+        return nextAnswer("no") == "yes";
+    }
+    std::string openFile(const FileDialog& dialog) override { return chooseFile(dialog); }
+    std::string saveFile(const FileDialog& dialog) override { return chooseFile(dialog); }
+
+    /// The boxes since the last call.
+    std::vector<Message> take() { return std::exchange(messages, {}); }
+
+private:
+    std::string nextAnswer(std::string_view otherwise) {
+        if (answers.empty())
+            return std::string(otherwise);
+        std::string answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    std::string chooseFile(const FileDialog& dialog) {
+        fileDialogs.push_back(dialog);
+        const std::string answer = nextAnswer("cancel");
+        return answer == "cancel" ? dialog.fileName : answer;
+    }
+};
+
+class FixedClock : public Clock {
+public:
+    Date day{2024, 3, 15};
+    Date today() const override { return day; }
+};
+
+class MemoryFiles : public Files {
+public:
+    std::map<std::filesystem::path, std::string> contents;
+    /// Thrown by every write while it is set; nothing is written then.
+    std::optional<RuntimeError> failure;
+
+    std::vector<std::string> readLines(const std::filesystem::path& path) override {
+        const auto file = contents.find(path);
+        if (file == contents.end())
+            throw RuntimeError(ErrorNumber::FileNotFound);
+        std::vector<std::string> lines;
+        std::istringstream in(file->second);
+        for (std::string line; std::getline(in, line);) {
+            if (line.ends_with('\r'))
+                line.pop_back();
+            lines.push_back(line);
+        }
+        return lines;
+    }
+    void writeWhole(const std::filesystem::path& path, std::string_view bytes) override {
+        if (failure)
+            throw RuntimeError(*failure);
+        contents[path] = bytes;
+    }
+};
+
+class RecordingProgram : public Program {
+public:
+    int ends = 0;  ///< how often the system ended the program
+    bool hasSystemInformation = false;
+    int systemInformationStarts = 0;
+
+    std::string folder() const override { return "/program"; }
+    std::string title() const override { return "Plandesk"; }
+    std::string version() const override { return "1.0.0"; }
+    bool startSystemInformation() override {
+        systemInformationStarts += hasSystemInformation ? 1 : 0;
+        return hasSystemInformation;
+    }
+    void end() override { ++ends; }
+};
+
+/// The surroundings of one system under test; they must outlive it.
+struct TestPorts {
+    RecordingDialogs dialogs;
+    FixedClock clock;
+    MemoryFiles files;
+    RecordingProgram program;
+
+    operator Ports() { return {dialogs, clock, files, program}; }
+};
+
+}  // namespace test
+}  // namespace plandesk
