@@ -1,0 +1,94 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+// The fixed vocabulary of the Particulars of Development, and the codes under which the document carries it.
+
+namespace plandesk {
+
+struct CodedText {
+    std::string_view text;
+    std::string_view code;
+};
+
+/// Villages with their three-letter codes. The running list comes from VILLAGENAMES.txt, and the document carries the
+/// number that stands there.
+inline constexpr std::array<CodedText, 28> villages = {{
+    {"Tervale", "TRV"},        {"Balundi", "BLN"},     {"Hosavel", "HSV"},       {"Goravad", "GRV"},
+    {"Sovan", "SVN"},          {"Odhal Nagar", "ODN"}, {"Elpuri", "ELP"},        {"Jamdi", "JMD"},
+    {"Sarwade Mokhli", "SMK"}, {"Lokad", "LKD"},       {"Khandri", "KND"},       {"Ruvhi", "RVH"},
+    {"Mehalgaon", "MHL"},      {"Tiroli", "TRL"},      {"Beldarwadi", "BDW"},    {"Neshi", "NSH"},
+    {"Velodi", "VLD"},         {"Umarwadi", "UMW"},    {"Toghewadi", "TGW"},     {"Harkhel", "HRK"},
+    {"Ondel Malekh", "OML"},   {"Javle Surav", "JSV"}, {"Dehatani", "DHT"},      {"Odhal Gaon", "ODG"},
+    {"Murgaon", "MRG"},        {"Bendvi", "BDV"},      {"Ondle Koragar", "OKG"}, {"Odhal", "ODL"},
+}};
+
+/// Zones in the order of their list; two of the texts end with a blank.
+inline constexpr std::array<CodedText, 8> zones = {{
+    {"R1(purely residential)", "R1"},
+    {"R2(Residential with shop line) ", "R2"},
+    {"C1(Commercial zone) ", "C1"},
+    {"C2(District commercial)", "C2"},
+    {"G1(Not Hills)", "G1"},
+    {"G2(Green belt)", "G2"},
+    {"I(Industrial)", "I"},
+    {"I1(Service Industrial Zone)", "G3"},  // the approval system files service industry among the G zones
+}};
+
+/// Case types. The list offers the first and the third only.
+inline constexpr std::array<CodedText, 5> caseTypes = {{
+    {"New", "NEW"},
+    {"Change of use", "CHG"},
+    {"Revised", "REV"},
+    {"Resubmitted", "RES"},
+    {"Revalidation", "RVA"},
+}};
+
+/// Proposed projects in the order of their list.
+inline constexpr std::array<CodedText, 9> projects = {{
+    {"Building Development", "Development"},
+    {"Amalgamation", "AMLG"},
+    {"Sub Division", "SD"},
+    {"Sub Division + Amalgamation", "SD + AMLG"},
+    {"Amalgamation + Sub Division", "AMLG + SD"},
+    {"Amalgamation + Proposed Development", "AMLG + Development"},
+    {"Sub Division + Proposed Development", "SD + Development"},
+    {"Sub Division + Amalgamation + Proposed Development", "SD + AMLG + Dev"},
+    {"Amalgamation + Sub Division + Proposed Development", "AMLG + SD + Dev"},
+}};
+
+/// Major uses of a plot in the order of their list; two of the texts end with a blank, which the document keeps.
+inline constexpr std::array<std::string_view, 10> plotUses = {"Residential",
+                                                              "Resi+Comm ",
+                                                              "Industrial",
+                                                              "Educational ",
+                                                              "Assembly/Public",
+                                                              "Institutional",
+                                                              "Merchantile/Commercial",
+                                                              "Business",
+                                                              "Utility/services",
+                                                              "Storage"};
+
+/// Three-letter code of the village, its name in any case; empty for an unknown one.
+std::string_view GetSectorNm(std::string_view name);
+
+/// Code of the zone whose list text this is, in any case, blanks around it ignored; empty for an unknown one.
+std::string_view GetZoneNm(std::string_view text);
+/// List text of the zone code without trailing blanks, the code in any case; empty for an unknown one.
+std::string_view zoneCaption(std::string_view code);
+
+/// Code of the case type; "NEW" for an unknown one.
+std::string_view caseTypeCode(std::string_view text);
+
+/// Code of the proposed project; an unknown text is its own code.
+std::string projectCode(std::string_view text);
+/// The older mapping from a project, in any case, to its code; empty for an unknown one.
+std::string_view GetProposedProj(std::string_view text);
+
+/// Position in its list of a stored code, compared exactly: of a case type with kind 0, of a project with kind 1.
+/// 0 for an unknown code. A position may lie beyond the end of the list of case types.
+int ReadComboValues(std::string_view code, int kind);
+
+}  // namespace plandesk
