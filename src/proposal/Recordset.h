@@ -1,0 +1,155 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "proposal/RowFilter.h"
+#include "proposal/Value.h"
+
+namespace plandesk {
+
+/// A place to come back to: a row, or behind the last row when no row was current. Good for one table only.
+class Bookmark {
+    friend class Recordset;
+    std::uint64_t row = 0;
+};
+
+/// An in-memory table: ordered rows of named, typed columns with a current row, a filter and a sort. A variable that is
+/// a reference to a table holds it by std::shared_ptr; the table itself is never copied.
+///
+/// *Visible rows.* The rows that the filter lets through, in sort order (table order among equals, nulls first), are
+/// listed when the filter or the sort is set, and the first of them becomes current. A row stays in the list, at its
+/// place, whatever is done to its values, until the filter or the sort is set again; so a walk that changes the very
+/// column it is filtered or sorted by comes to each row exactly once. A deleted row leaves the list at once, an added
+/// one goes behind its end.
+///
+/// *Current row.* After a deletion no row is current, but the place stays: the next move goes to the row that came
+/// behind. A row that is added while the filter hides it is current but not visible. Update, and every move, looks at
+/// it again: if the filter lets it through by then it joins the list, otherwise the first move leaves it.
+///
+/// The first integer column (`ExtNo` or `SrNo` in this system) is the key: filtering on it costs the rows found, not
+/// the whole table.
+class Recordset {
+public:
+    /// An empty table. The columns must outlive it.
+    explicit Recordset(std::span<const Column> columns);
+    Recordset(const Recordset&) = delete;
+    Recordset& operator=(const Recordset&) = delete;
+
+    std::span<const Column> columns() const { return columnList; }
+
+    // Columns are given by place, from 0, or by name in any case. RuntimeError 3265 for one that the table does not
+    // have, 3021 where there is no current row.
+    const Value& get(int column);
+    const Value& get(std::string_view column);
+    /// Takes effect at once. Converts as toKind does, with its errors; the cell keeps its value then.
+    void set(int column, Value value);
+    void set(std::string_view column, Value value);
+
+    /// Appends a row with every cell null and makes it the current one.
+    void addNew();
+    /// Ends the changes to the current row: an added row that the filter lets through becomes visible.
+    /// RuntimeError 3021 where there is no current row.
+    void update();
+    /// Deletes the current row. RuntimeError 3021 where there is none.
+    void deleteRow();
+
+    /// Does nothing on a table with no visible row.
+    void moveFirst();
+    /// RuntimeError 3021 behind the last row.
+    void moveNext();
+    /// Behind the last row. Both tests are true while no row is visible; there is no moving before the first row
+    /// otherwise.
+    bool eof();
+    bool bof() { return recordCount() == 0; }
+
+    /// Number of the visible rows.
+    int recordCount();
+    /// Place of the current row among the visible ones, from 1; 0 when no visible row is current.
+    int absolutePosition();
+    /// RuntimeError 3021 outside 1 to recordCount(); the current row stays then.
+    void setAbsolutePosition(int position);
+    Bookmark bookmark();
+    /// RuntimeError 3021 when the row is deleted or not visible; the current row stays then.
+    void setBookmark(Bookmark bookmark);
+
+    /// Expressions as parseFilter and parseSort read them; an empty one means all rows, or table order. One that cannot
+    /// be read changes nothing.
+    void setFilter(std::string_view expression);
+    void setSort(std::string_view expression);
+    const std::string& filter() const { return filterText; }
+    const std::string& sort() const { return sortText; }
+
+    /// Cell of the visible row at that place, from 1, without making it current. RuntimeError 3021 outside 1 to
+    /// recordCount(), 3265 for an unknown column.
+    const Value& valueAt(int position, int column);
+    /// Number of all rows, whatever the filter.
+    int rowCount() const { return static_cast<int>(rows.size()); }
+    /// All rows in table order, whatever filter and sort. Good until the table changes.
+    std::vector<std::span<const Value>> allRows() const;
+
+    /// Grows with every change to rows, values, filter or sort; a view that remembers it knows when to look again. The
+    /// move of the current row alone does not count.
+    std::uint64_t changes() const { return changeCount; }
+
+private:
+    struct Row {
+        std::uint64_t id;  // from 1, in the order of adding
+        std::vector<Value> values;
+    };
+    struct KeyEntry {
+        std::int32_t key;
+        Row* row;
+    };
+    struct KeyOrder {
+        using is_transparent = void;
+        bool operator()(const KeyEntry& a, const KeyEntry& b) const;
+        bool operator()(const KeyEntry& a, std::int32_t key) const { return a.key < key; }
+        bool operator()(std::int32_t key, const KeyEntry& b) const { return key < b.key; }
+    };
+    /// The list of visible rows and the place in it. It is written out at the first need, since most filters are
+    /// replaced before anybody looks. Until then only rows added since may differ from the moment it was set.
+    struct View {
+        std::uint64_t firstAdded = 1;  ///< rows from this id on were added after the view was set
+        bool listed = false;
+        std::vector<Row*> rows = {};  ///< null where a row was deleted, until the next tidy()
+        std::size_t count = 0;        ///< rows that are not null
+        std::size_t place = 0;        ///< of the current row; its size when behind the last
+        bool onDeleted = false;       ///< the row at the place was deleted
+        Row* added = nullptr;         ///< the current row when it was just added and is not listed
+    };
+
+    std::size_t checked(int column) const;
+    Row& currentRow();
+    Row* currentOrNull();
+    bool letsThrough(const Row& row) const;
+    std::vector<Row*> rowsLetThrough();
+    std::vector<Row*> rowsByKey(const ColumnCondition& condition);
+    void resetView();
+    void list();
+    void tidy();
+    void admitAdded();
+    void goTo(std::size_t place);
+    void setKey(Row& row, const Value& value);
+
+    std::span<const Column> columnList;
+    int keyColumn = -1;  // none
+    std::map<std::uint64_t, Row> rows;
+    std::uint64_t nextId = 1;
+    std::set<KeyEntry, KeyOrder> keys;  // rows whose key is not null
+    RowFilter conditions;
+    std::string filterText;
+    std::optional<SortOrder> order;
+    std::string sortText;
+    View view;
+    std::uint64_t changeCount = 0;
+};
+
+}  // namespace plandesk
