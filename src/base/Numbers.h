@@ -6,8 +6,8 @@
 
 namespace plandesk {
 
-/// Value of the number that `text` begins with: blanks are passed over, reading stops at the first character that cannot
-/// belong to a number (sign, digits, one point, exponent). No number gives 0. Never fails.
+/// Value of the number that `text` begins with: blanks are passed over, reading stops at the first character that
+/// cannot belong to a number (sign, digits, one point, exponent). No number gives 0. Never fails.
 double leadingNumber(std::string_view text);
 
 /// Whether the whole text is a number: blanks around it, a sign, digits grouped by commas, a point and an exponent are
@@ -32,7 +32,8 @@ std::string numberText(double value);
 /// "########0.00": two decimals, halves away from zero on the 15 significant digits, no grouping.
 std::string formatAmount(double value);
 
-/// A text that is a number is given in the form of formatAmount; any other text, the empty one too, is given back as it is.
+/// A text that is a number is given in the form of formatAmount; any other text, the empty one too, is given back as it
+/// is.
 std::string formatAmount(std::string_view text);
 
 }  // namespace plandesk
