@@ -4,8 +4,7 @@
 
 namespace plandesk {
 
-std::string Colour::text() const
-{
+std::string Colour::text() const {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string hex;
     for (const std::uint8_t part : {red, green, blue}) {

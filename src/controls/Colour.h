@@ -18,8 +18,7 @@ struct Colour {
 };
 
 /// The platform writes colours as blue-green-red numbers: 0x669DC6 is blue 66, green 9D, red C6.
-constexpr Colour fromBlueGreenRed(std::uint32_t number)
-{
+constexpr Colour fromBlueGreenRed(std::uint32_t number) {
     return {static_cast<std::uint8_t>(number & 0xFFU), static_cast<std::uint8_t>((number >> 8U) & 0xFFU),
             static_cast<std::uint8_t>((number >> 16U) & 0xFFU)};
 }

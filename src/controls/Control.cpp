@@ -7,63 +7,56 @@
 
 namespace plandesk {
 
-std::string_view kindName(ControlKind kind)
-{
-    static constexpr std::array<std::string_view, 12> names = {"TextBox", "OptionButton", "CheckBox", "ComboBox",
-                                                               "DatePicker", "Label", "Button", "Image",
-                                                               "Frame", "TabStrip", "Grid", "RichText"};
+std::string_view kindName(ControlKind kind) {
+    static constexpr std::array<std::string_view, 12> names = {"TextBox",    "OptionButton", "CheckBox", "ComboBox",
+                                                               "DatePicker", "Label",        "Button",   "Image",
+                                                               "Frame",      "TabStrip",     "Grid",     "RichText"};
     return names.at(static_cast<std::size_t>(kind));
 }
 
 Control::Control(Form& form, ControlKind kind, std::string_view name, int index)
-    : owner(form), controlName(name), controlKind(kind), arrayIndex(index)
-{
+    : owner(form), controlName(name), controlKind(kind), arrayIndex(index) {
     form.all.push_back(this);
     form.byName.emplace(controlName, this);
 }
 
-std::string Control::key() const
-{
+std::string Control::key() const {
     return arrayIndex == noIndex ? controlName : controlName + "(" + std::to_string(arrayIndex) + ")";
 }
 
-void Control::setVisible(bool on)
-{
+void Control::setVisible(bool on) {
     if (isVisible == on)
         return;
     isVisible = on;
     touched();
 }
 
-void Control::setEnabled(bool on)
-{
+void Control::setEnabled(bool on) {
     if (isEnabled == on)
         return;
     isEnabled = on;
     touched();
 }
 
-void Control::setBackColor(Colour colour)
-{
+void Control::setBackColor(Colour colour) {
     if (back == colour)
         return;
     back = colour;
     touched();
 }
 
-bool Control::focused() const
-{
+bool Control::focused() const {
     return owner.screen().focused() == this;
 }
 
-void Control::setFocus()
-{
+void Control::setFocus() {
     owner.screen().setFocus(*this);
 }
 
-bool Control::fire(std::string_view event)
-{
-    const std::function<void()>* reaction = event == "GotFocus" ? &gotFocus : event == "LostFocus" ? &lostFocus : nullptr;
+bool Control::fire(std::string_view event) {
+    const std::function<void()>* reaction = event == "GotFocus"    ? &gotFocus
+                                            : event == "LostFocus" ? &lostFocus
+                                                                   : nullptr;
     if (!reaction)
         return false;
     if (*reaction)
@@ -71,8 +64,7 @@ bool Control::fire(std::string_view event)
     return true;
 }
 
-void Control::touched()
-{
+void Control::touched() {
     if (ScreenObserver* observer = owner.screen().observer)
         observer->controlChanged(*this);
 }

@@ -28,7 +28,8 @@ enum class ControlKind {
 std::string_view kindName(ControlKind kind);
 
 /// One named control of a form. It belongs to the form it was declared in and lives exactly as long.
-/// `visible` and `enabled` are what program code set; whether a page or frame hides it on screen is the view's business.
+/// `visible` and `enabled` are what program code set; whether a page or frame hides it on screen is the view's
+/// business.
 class Control {
 public:
     static constexpr int noIndex = -1;

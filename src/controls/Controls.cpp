@@ -9,46 +9,38 @@ namespace plandesk {
 
 namespace {
 
-void runReaction(const std::function<void()>& reaction)
-{
+void runReaction(const std::function<void()>& reaction) {
     if (reaction)
         reaction();
 }
 
 }  // namespace
 
-TextBox::TextBox(Form& form, std::string_view name, int index) : Control(form, ControlKind::TextBox, name, index)
-{
-}
+TextBox::TextBox(Form& form, std::string_view name, int index) : Control(form, ControlKind::TextBox, name, index) {}
 
-void TextBox::setText(std::string_view text)
-{
+void TextBox::setText(std::string_view text) {
     if (content != text)
         edit(std::string(text));
 }
 
-void TextBox::restoreText(std::string_view text)
-{
+void TextBox::restoreText(std::string_view text) {
     content = text;
     touched();
 }
 
-void TextBox::edit(std::string text)
-{
+void TextBox::edit(std::string text) {
     content = std::move(text);
     touched();
     runReaction(change);
 }
 
-void TextBox::append(char32_t character)
-{
+void TextBox::append(char32_t character) {
     appendUtf8(content, character);
     touched();
     runReaction(change);
 }
 
-bool TextBox::fire(std::string_view event)
-{
+bool TextBox::fire(std::string_view event) {
     if (event != "Change")
         return Control::fire(event);
     runReaction(change);
@@ -56,12 +48,9 @@ bool TextBox::fire(std::string_view event)
 }
 
 Captioned::Captioned(Form& form, ControlKind kind, std::string_view name, int index, std::string_view caption)
-    : Control(form, kind, name, index), words(caption)
-{
-}
+    : Control(form, kind, name, index), words(caption) {}
 
-void Captioned::setCaption(std::string_view caption)
-{
+void Captioned::setCaption(std::string_view caption) {
     if (words == caption)
         return;
     words = caption;
@@ -69,19 +58,16 @@ void Captioned::setCaption(std::string_view caption)
     runReaction(change);
 }
 
-void Captioned::setForeColor(Colour colour)
-{
+void Captioned::setForeColor(Colour colour) {
     fore = colour;
     touched();
 }
 
-void Captioned::press()
-{
+void Captioned::press() {
     runReaction(click);
 }
 
-bool Captioned::fire(std::string_view event)
-{
+bool Captioned::fire(std::string_view event) {
     if (event == "Click")
         runReaction(click);
     else if (event == "Change")
@@ -92,37 +78,25 @@ bool Captioned::fire(std::string_view event)
 }
 
 Label::Label(Form& form, std::string_view name, std::string_view caption, int index)
-    : Captioned(form, ControlKind::Label, name, index, caption)
-{
-}
+    : Captioned(form, ControlKind::Label, name, index, caption) {}
 
 Button::Button(Form& form, std::string_view name, std::string_view caption, int index)
-    : Captioned(form, ControlKind::Button, name, index, caption)
-{
-}
+    : Captioned(form, ControlKind::Button, name, index, caption) {}
 
-Image::Image(Form& form, std::string_view name, int index) : Captioned(form, ControlKind::Image, name, index, "")
-{
-}
+Image::Image(Form& form, std::string_view name, int index) : Captioned(form, ControlKind::Image, name, index, "") {}
 
 Frame::Frame(Form& form, std::string_view name, std::string_view caption, int index)
-    : Captioned(form, ControlKind::Frame, name, index, caption)
-{
-}
+    : Captioned(form, ControlKind::Frame, name, index, caption) {}
 
 RichText::RichText(Form& form, std::string_view name, std::string_view html)
-    : Control(form, ControlKind::RichText, name, noIndex), html(html)
-{
-}
+    : Control(form, ControlKind::RichText, name, noIndex), html(html) {}
 
 OptionButton::OptionButton(Form& form, OptionGroup& group, std::string_view name, std::string_view caption, int index)
-    : Captioned(form, ControlKind::OptionButton, name, index, caption), siblings(group)
-{
+    : Captioned(form, ControlKind::OptionButton, name, index, caption), siblings(group) {
     group.members.push_back(this);
 }
 
-void OptionButton::setValue(bool value)
-{
+void OptionButton::setValue(bool value) {
     if (on == value)
         return;
     if (value) {
@@ -134,14 +108,12 @@ void OptionButton::setValue(bool value)
     }
 }
 
-void OptionButton::choose()
-{
+void OptionButton::choose() {
     turnOn();
     press();
 }
 
-void OptionButton::turnOn()
-{
+void OptionButton::turnOn() {
     for (OptionButton* other : siblings.members) {
         if (other != this && other->on) {
             other->on = false;
@@ -153,12 +125,9 @@ void OptionButton::turnOn()
 }
 
 CheckBox::CheckBox(Form& form, std::string_view name, std::string_view caption, int index)
-    : Captioned(form, ControlKind::CheckBox, name, index, caption)
-{
-}
+    : Captioned(form, ControlKind::CheckBox, name, index, caption) {}
 
-void CheckBox::setValue(int value)
-{
+void CheckBox::setValue(int value) {
     if (value != 0 && value != 1)
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     if (state == value)
@@ -168,50 +137,41 @@ void CheckBox::setValue(int value)
     press();
 }
 
-ComboBox::ComboBox(Form& form, std::string_view name, int index) : Control(form, ControlKind::ComboBox, name, index)
-{
-}
+ComboBox::ComboBox(Form& form, std::string_view name, int index) : Control(form, ControlKind::ComboBox, name, index) {}
 
 ComboBox::ComboBox(Form& form, std::string_view name, std::initializer_list<std::string_view> items)
-    : ComboBox(form, name)
-{
+    : ComboBox(form, name) {
     for (const std::string_view text : items)
         addItem(text);
 }
 
-const ComboBox::Entry& ComboBox::at(int position) const
-{
+const ComboBox::Entry& ComboBox::at(int position) const {
     if (position < 0 || position >= listCount())
         throw RuntimeError(ErrorNumber::InvalidPropertyArrayIndex);
     return entries[static_cast<std::size_t>(position)];
 }
 
-const std::string& ComboBox::item(int position) const
-{
+const std::string& ComboBox::item(int position) const {
     return at(position).text;
 }
 
-std::int32_t ComboBox::itemData(int position) const
-{
+std::int32_t ComboBox::itemData(int position) const {
     return at(position).data;
 }
 
-void ComboBox::clear()
-{
+void ComboBox::clear() {
     entries.clear();
     content.clear();
     chosen = -1;
     touched();
 }
 
-void ComboBox::addItem(std::string_view text, std::int32_t data)
-{
+void ComboBox::addItem(std::string_view text, std::int32_t data) {
     entries.push_back({std::string(text), data});
     touched();
 }
 
-void ComboBox::setListIndex(int position)
-{
+void ComboBox::setListIndex(int position) {
     if (position < -1 || position >= listCount())
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     if (position == chosen)
@@ -225,16 +185,14 @@ void ComboBox::setListIndex(int position)
     touched();
 }
 
-void ComboBox::setText(std::string_view text)
-{
+void ComboBox::setText(std::string_view text) {
     const auto found = std::ranges::find(entries, text, &Entry::text);
     chosen = found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
     content = text;
     touched();
 }
 
-void ComboBox::pick(int position)
-{
+void ComboBox::pick(int position) {
     if (position < 0 || position >= listCount())
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     chosen = position;
@@ -243,8 +201,7 @@ void ComboBox::pick(int position)
     runReaction(click);
 }
 
-bool ComboBox::fire(std::string_view event)
-{
+bool ComboBox::fire(std::string_view event) {
     if (event != "Click")
         return Control::fire(event);
     runReaction(click);
@@ -252,12 +209,9 @@ bool ComboBox::fire(std::string_view event)
 }
 
 DatePicker::DatePicker(Form& form, std::string_view name, int index)
-    : Control(form, ControlKind::DatePicker, name, index)
-{
-}
+    : Control(form, ControlKind::DatePicker, name, index) {}
 
-void DatePicker::setDate(Date date)
-{
+void DatePicker::setDate(Date date) {
     if (day == date)
         return;
     day = date;
@@ -265,8 +219,7 @@ void DatePicker::setDate(Date date)
     runReaction(change);
 }
 
-bool DatePicker::fire(std::string_view event)
-{
+bool DatePicker::fire(std::string_view event) {
     if (event != "Change")
         return Control::fire(event);
     runReaction(change);
@@ -274,12 +227,9 @@ bool DatePicker::fire(std::string_view event)
 }
 
 TabStrip::TabStrip(Form& form, std::string_view name, int count)
-    : Control(form, ControlKind::TabStrip, name, noIndex), tabs(count)
-{
-}
+    : Control(form, ControlKind::TabStrip, name, noIndex), tabs(count) {}
 
-void TabStrip::setTab(int tab)
-{
+void TabStrip::setTab(int tab) {
     if (tab < 0 || tab >= tabs)
         throw RuntimeError(ErrorNumber::InvalidProcedureCall);
     if (tab == current)
@@ -289,8 +239,7 @@ void TabStrip::setTab(int tab)
     runReaction(click);
 }
 
-bool TabStrip::fire(std::string_view event)
-{
+bool TabStrip::fire(std::string_view event) {
     if (event != "Click")
         return Control::fire(event);
     runReaction(click);
@@ -298,35 +247,27 @@ bool TabStrip::fire(std::string_view event)
 }
 
 YesNo::YesNo(Form& form, std::string_view yesName, std::string_view noName)
-    : yes(form, group, yesName, "Yes"), no(form, group, noName, "No")
-{
-}
+    : yes(form, group, yesName, "Yes"), no(form, group, noName, "No") {}
 
 YesNo::YesNo(Form& form, std::string_view arrayName)
-    : yes(form, group, arrayName, "Yes", 1), no(form, group, arrayName, "No", 0)
-{
-}
+    : yes(form, group, arrayName, "Yes", 1), no(form, group, arrayName, "No", 0) {}
 
-void YesNo::clear()
-{
+void YesNo::clear() {
     yes.setValue(false);
     no.setValue(false);
 }
 
-void YesNo::setVisible(bool on)
-{
+void YesNo::setVisible(bool on) {
     yes.setVisible(on);
     no.setVisible(on);
 }
 
-void YesNo::setEnabled(bool on)
-{
+void YesNo::setEnabled(bool on) {
     yes.setEnabled(on);
     no.setEnabled(on);
 }
 
-void YesNo::onClick(const std::function<void()>& reaction)
-{
+void YesNo::onClick(const std::function<void()>& reaction) {
     yes.click = reaction;
     no.click = reaction;
 }

@@ -212,8 +212,7 @@ private:
 };
 
 /// Answer of a pair of options as one digit: 1 Yes, 0 No, 2 neither; both on gives 0.
-constexpr int yesNoCode(bool yes, bool no)
-{
+constexpr int yesNoCode(bool yes, bool no) {
     return no ? 0 : yes ? 1 : 2;
 }
 

@@ -8,49 +8,41 @@
 
 namespace plandesk {
 
-bool IgnoringCase::operator()(std::string_view a, std::string_view b) const
-{
+bool IgnoringCase::operator()(std::string_view a, std::string_view b) const {
     const auto lower = [](unsigned char c) { return c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : int{c}; };
     return std::ranges::lexicographical_compare(a, b, {}, lower, lower);
 }
 
 Form::Form(Screen& screen, std::string_view name, std::string_view caption)
-    : desk(screen), formName(name), title(caption)
-{
+    : desk(screen), formName(name), title(caption) {
     desk.stack.insert(desk.stack.begin(), this);
 }
 
-Form::~Form()
-{
+Form::~Form() {
     desk.forget(*this);
 }
 
-const Layout& Form::layout() const
-{
+const Layout& Form::layout() const {
     static const Layout none;
     return none;
 }
 
-void Form::setCaption(std::string_view caption)
-{
+void Form::setCaption(std::string_view caption) {
     title = caption;
     desk.formTouched(*this);
 }
 
-void Form::setBackColor(Colour colour)
-{
+void Form::setBackColor(Colour colour) {
     back = colour;
     desk.formTouched(*this);
 }
 
-void Form::show()
-{
+void Form::show() {
     shown = true;
     bringToFront();
 }
 
-void Form::hide()
-{
+void Form::hide() {
     if (!shown)
         return;
     shown = false;
@@ -58,26 +50,22 @@ void Form::hide()
     desk.formTouched(*this);
 }
 
-void Form::bringToFront()
-{
+void Form::bringToFront() {
     desk.raise(*this);
     desk.formTouched(*this);
 }
 
-bool Form::front() const
-{
+bool Form::front() const {
     return desk.frontForm() == this;
 }
 
-Control* Form::find(std::string_view controlName, int index) const
-{
+Control* Form::find(std::string_view controlName, int index) const {
     const auto [first, last] = byName.equal_range(controlName);
     const auto found = std::find_if(first, last, [index](const auto& entry) { return entry.second->index() == index; });
     return found == last ? nullptr : found->second;
 }
 
-Control* Form::findKey(std::string_view key) const
-{
+Control* Form::findKey(std::string_view key) const {
     const std::size_t bracket = key.find('(');
     if (bracket == std::string_view::npos)
         return find(key);
@@ -90,8 +78,7 @@ Control* Form::findKey(std::string_view key) const
     return find(key.substr(0, bracket), index);
 }
 
-std::vector<Control*> Form::tabOrder() const
-{
+std::vector<Control*> Form::tabOrder() const {
     std::vector<Control*> order;
     const auto take = [&](std::string_view names) {
         for (const std::string& key : split(names, " "))
@@ -116,13 +103,11 @@ std::vector<Control*> Form::tabOrder() const
     return order;
 }
 
-void Form::procedure(std::string_view procedureName, std::function<void()> body)
-{
+void Form::procedure(std::string_view procedureName, std::function<void()> body) {
     procedures.emplace(procedureName, std::move(body));
 }
 
-bool Form::run(std::string_view procedureName)
-{
+bool Form::run(std::string_view procedureName) {
     if (const auto found = procedures.find(std::string(procedureName)); found != procedures.end()) {
         found->second();
         return true;

@@ -62,8 +62,7 @@ public:
     /// Looks up a name as layouts write it: NAME or NAME(INDEX).
     Control* findKey(std::string_view key) const;
     template <class Kind>
-    void forEach(const std::function<void(Kind&)>& action) const
-    {
+    void forEach(const std::function<void(Kind&)>& action) const {
         for (Control* control : all)
             if (auto* wanted = dynamic_cast<Kind*>(control))
                 action(*wanted);

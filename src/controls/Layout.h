@@ -26,7 +26,8 @@ struct LayoutGroup {
     /// Column heads: with them the row's controls stand in aligned columns, one head for each, the first one over the
     /// questions.
     std::span<const std::string_view> heads{};
-    std::string_view frame{};  ///< name of the frame control whose caption is the heading and that hides the whole group
+    /// Name of the frame control whose caption is the heading and that hides the whole group.
+    std::string_view frame{};
 };
 
 struct LayoutPage {
@@ -36,8 +37,9 @@ struct LayoutPage {
 struct Layout {
     /// Width of the question column in average characters of the system font.
     int questionWidth = 56;
-    std::string_view head{};    ///< names of the controls in the row above the pages: links, page buttons
-    std::string_view tabs{};    ///< name of the tab strip that chooses the page; without one, all pages stand one below the other
+    std::string_view head{};  ///< names of the controls in the row above the pages: links, page buttons
+    /// Name of the tab strip that chooses the page; without one, all pages stand one below the other.
+    std::string_view tabs{};
     std::span<const LayoutPage> pages{};
     std::string_view buttons{};  ///< names of the controls in the row below the pages
     bool modal = false;

@@ -7,19 +7,15 @@
 
 namespace plandesk {
 
-Screen::Screen(const Ports& ports) : ports(ports)
-{
-}
+Screen::Screen(const Ports& ports) : ports(ports) {}
 
 Screen::~Screen() = default;
 
-void Screen::message(std::string_view text, std::string_view title, Icon icon)
-{
+void Screen::message(std::string_view text, std::string_view title, Icon icon) {
     ports.dialogs.showMessage({std::string(title), std::string(text), icon});
 }
 
-void Screen::event(const std::function<void()>& reaction)
-{
+void Screen::event(const std::function<void()>& reaction) {
     if (over)
         return;
     ++depth;
@@ -32,15 +28,13 @@ void Screen::event(const std::function<void()>& reaction)
         unloaded.clear();
 }
 
-void Screen::setFocus(Control& control)
-{
+void Screen::setFocus(Control& control) {
     if (Form& form = control.form(); form.visible())
         raise(form);
     changeFocus(&control);
 }
 
-bool Screen::moveFocus(Control& control)
-{
+bool Screen::moveFocus(Control& control) {
     Form& form = control.form();
     if (Control* old = focus; old && old != &control && &old->form() == &form && !mayLeave(*old))
         return false;
@@ -50,26 +44,22 @@ bool Screen::moveFocus(Control& control)
     return focus == &control;
 }
 
-bool Screen::leaveFocus()
-{
+bool Screen::leaveFocus() {
     if (focus && !mayLeave(*focus))
         return false;
     changeFocus(nullptr);
     return true;
 }
 
-void Screen::dropFocus()
-{
+void Screen::dropFocus() {
     changeFocus(nullptr);
 }
 
-bool Screen::mayLeave(Control& control)
-{
+bool Screen::mayLeave(Control& control) {
     return !control.leaveCheck || control.leaveCheck();
 }
 
-void Screen::changeFocus(Control* to)
-{
+void Screen::changeFocus(Control* to) {
     Control* old = focus;
     if (old == to)
         return;
@@ -91,31 +81,26 @@ void Screen::changeFocus(Control* to)
         observer->focusChanged(focus);
 }
 
-Form* Screen::frontForm() const
-{
+Form* Screen::frontForm() const {
     const auto front = std::find_if(stack.rbegin(), stack.rend(), [](const Form* form) { return form->visible(); });
     return front == stack.rend() ? nullptr : *front;
 }
 
-Form* Screen::activeForm() const
-{
+Form* Screen::activeForm() const {
     return focus ? &focus->form() : frontForm();
 }
 
-void Screen::setCaption(std::string_view caption)
-{
+void Screen::setCaption(std::string_view caption) {
     title = caption;
     mainWindowTouched();
 }
 
-void Screen::end()
-{
+void Screen::end() {
     over = true;
     ports.program.end();
 }
 
-void Screen::unload(std::unique_ptr<Form> form)
-{
+void Screen::unload(std::unique_ptr<Form> form) {
     if (!form)
         return;
     forget(*form);
@@ -126,8 +111,7 @@ void Screen::unload(std::unique_ptr<Form> form)
         unloaded.push_back(std::move(form));
 }
 
-void Screen::forget(Form& form)
-{
+void Screen::forget(Form& form) {
     if (focus && &focus->form() == &form) {
         focus = nullptr;
         focusArrived = false;
@@ -135,28 +119,24 @@ void Screen::forget(Form& form)
     std::erase(stack, &form);
 }
 
-void Screen::leaveForm(const Form& form)
-{
+void Screen::leaveForm(const Form& form) {
     if (focus && &focus->form() == &form)
         changeFocus(nullptr);
 }
 
-void Screen::raise(Form& form)
-{
+void Screen::raise(Form& form) {
     if (form.visible() && focus && &focus->form() != &form)
         changeFocus(nullptr);
     if (const auto place = std::ranges::find(stack, &form); place != stack.end())
         std::rotate(place, place + 1, stack.end());
 }
 
-void Screen::formTouched(Form& form)
-{
+void Screen::formTouched(Form& form) {
     if (observer)
         observer->formChanged(form);
 }
 
-void Screen::mainWindowTouched()
-{
+void Screen::mainWindowTouched() {
     if (observer)
         observer->mainWindowChanged();
 }

@@ -43,8 +43,8 @@ public:
     Control* focused() const { return focus; }
     /// Program code moves the focus: lost focus and got focus run, no leave check.
     void setFocus(Control& control);
-    /// The user moves the focus. Within one form the old control's leave check may hold it: false then, and nothing else
-    /// happens. To another form no leave check runs.
+    /// The user moves the focus. Within one form the old control's leave check may hold it: false then, and nothing
+    /// else happens. To another form no leave check runs.
     bool moveFocus(Control& control);
     /// The user moves the focus away to nowhere: leave check, then lost focus. False when held.
     bool leaveFocus();

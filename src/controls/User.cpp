@@ -16,8 +16,7 @@ namespace {
 constexpr int backspace = 8;
 
 /// One event on a control that must be there for the user; `act` runs once the focus is on it.
-bool onFocused(Control& control, const std::function<void()>& act)
-{
+bool onFocused(Control& control, const std::function<void()>& act) {
     const bool there = control.takesFocus();
     if (there)
         control.form().screen().event([&] {
@@ -27,14 +26,12 @@ bool onFocused(Control& control, const std::function<void()>& act)
     return there;
 }
 
-bool editable(const TextBox& box)
-{
+bool editable(const TextBox& box) {
     return box.takesFocus() && !box.locked;
 }
 
 /// Types key by key; the first key that the filters let through replaces the content when `replace` is set.
-void typeKeys(TextBox& box, std::string_view text, bool replace)
-{
+void typeKeys(TextBox& box, std::string_view text, bool replace) {
     bool replacing = replace;
     for (const char32_t key : codePoints(text)) {
         const auto passed = static_cast<char32_t>(filteredKey(box, static_cast<int>(key)));
@@ -47,8 +44,7 @@ void typeKeys(TextBox& box, std::string_view text, bool replace)
     }
 }
 
-void eraseLast(TextBox& box)
-{
+void eraseLast(TextBox& box) {
     std::string content = box.text();
     if (content.empty() || filteredKey(box, backspace) == 0)
         return;
@@ -58,13 +54,13 @@ void eraseLast(TextBox& box)
     box.edit(std::move(content));
 }
 
-void focusNext(Form& form)
-{
+void focusNext(Form& form) {
     const std::vector<Control*> order = form.tabOrder();
     if (order.empty())
         return;
     const auto present = std::ranges::find(order, form.activeControl());
-    const std::size_t start = present == order.end() ? order.size() - 1 : static_cast<std::size_t>(present - order.begin());
+    const std::size_t start =
+        present == order.end() ? order.size() - 1 : static_cast<std::size_t>(present - order.begin());
     for (std::size_t step = 1; step <= order.size(); ++step) {
         Control& next = *order[(start + step) % order.size()];
         if (next.takesFocus()) {
@@ -74,8 +70,7 @@ void focusNext(Form& form)
     }
 }
 
-void activate(Control& control)
-{
+void activate(Control& control) {
     if (auto* option = dynamic_cast<OptionButton*>(&control))
         option->choose();
     else if (auto* check = dynamic_cast<CheckBox*>(&control))
@@ -84,8 +79,7 @@ void activate(Control& control)
         captioned->press();
 }
 
-void enter(Form& form, Control* control)
-{
+void enter(Form& form, Control* control) {
     auto* box = dynamic_cast<TextBox*>(control);
     if (form.enterActsAsTab()) {
         form.enterPressed();
@@ -97,8 +91,7 @@ void enter(Form& form, Control* control)
     }
 }
 
-void keyDown(Form& form, Control* control, std::string_view key)
-{
+void keyDown(Form& form, Control* control, std::string_view key) {
     auto* box = dynamic_cast<TextBox*>(control);
     if (key == "Enter")
         enter(form, control);
@@ -116,50 +109,42 @@ void keyDown(Form& form, Control* control, std::string_view key)
 
 }  // namespace
 
-int filteredKey(const TextBox& box, int key)
-{
+int filteredKey(const TextBox& box, int key) {
     const int passed = box.form().keyPress(key);
     return passed != 0 && box.keyPress ? box.keyPress(passed) : passed;
 }
 
-bool type(TextBox& box, std::string_view text)
-{
+bool type(TextBox& box, std::string_view text) {
     return editable(box) && onFocused(box, [&] { typeKeys(box, text, true); });
 }
 
-bool append(TextBox& box, std::string_view text)
-{
+bool append(TextBox& box, std::string_view text) {
     return editable(box) && onFocused(box, [&] { typeKeys(box, text, false); });
 }
 
-bool clear(TextBox& box)
-{
+bool clear(TextBox& box) {
     return edit(box, "");
 }
 
-bool edit(TextBox& box, std::string_view text)
-{
+bool edit(TextBox& box, std::string_view text) {
     return editable(box) && onFocused(box, [&] {
                if (box.text() != text)
                    box.edit(std::string(text));
            });
 }
 
-bool press(Control& control, std::string_view key)
-{
+bool press(Control& control, std::string_view key) {
     return onFocused(control, [&] { keyDown(control.form(), &control, key); });
 }
 
-bool pressForm(Form& form, std::string_view key)
-{
+bool pressForm(Form& form, std::string_view key) {
     if (Control* control = form.activeControl(); control && control->takesFocus())
         return press(*control, key);
     form.screen().event([&] { keyDown(form, nullptr, key); });
     return true;
 }
 
-bool click(Control& control)
-{
+bool click(Control& control) {
     const ControlKind kind = control.kind();
     if (kind != ControlKind::Label && kind != ControlKind::Image && kind != ControlKind::Frame)
         return onFocused(control, [&] { activate(control); });
@@ -169,28 +154,23 @@ bool click(Control& control)
     return there;
 }
 
-bool pick(ComboBox& list, int position)
-{
+bool pick(ComboBox& list, int position) {
     return onFocused(list, [&] { list.pick(position); });
 }
 
-bool pickDate(DatePicker& picker, Date date)
-{
+bool pickDate(DatePicker& picker, Date date) {
     return onFocused(picker, [&] { picker.setDate(date); });
 }
 
-bool showTab(TabStrip& strip, int tab)
-{
+bool showTab(TabStrip& strip, int tab) {
     return onFocused(strip, [&] { strip.setTab(tab); });
 }
 
-bool leave(Control& control)
-{
+bool leave(Control& control) {
     return onFocused(control, [&] { control.form().screen().leaveFocus(); });
 }
 
-bool focus(Control& control)
-{
+bool focus(Control& control) {
     bool arrived = false;
     onFocused(control, [&] { arrived = true; });
     return arrived;

@@ -10,9 +10,7 @@ namespace plandesk {
 class DataForm : public Form {
 public:
     DataForm(Proposal& proposal, std::string_view name, std::string_view caption)
-        : Form(proposal.screen, name, caption), proposal(proposal)
-    {
-    }
+        : Form(proposal.screen, name, caption), proposal(proposal) {}
 
     int keyPress(int key) const override { return dropSpecialKeys(key); }
     bool enterActsAsTab() const override { return true; }

@@ -4,32 +4,29 @@
 
 namespace plandesk {
 
-Form* Forms::touch(std::string_view name)
-{
+Form* Forms::touch(std::string_view name) {
     if (Form* form = loaded(name))
         return form;
     const auto maker = makers.find(std::string(name));
     if (maker == makers.end())
         return nullptr;
     Form& form = *(live[maker->first] = maker->second(proposal));
-    // A load reaction is an event of its own: what fails in it is told in its box, and the form stands as far as it came.
+    // A load reaction is an event of its own: what fails in it is told in its box, and the form stands as far as it
+    // came.
     proposal.screen.event([&form] { form.load(); });
     return &form;
 }
 
-Form* Forms::loaded(std::string_view name) const
-{
+Form* Forms::loaded(std::string_view name) const {
     const auto form = live.find(name);
     return form == live.end() ? nullptr : form->second.get();
 }
 
-bool Forms::known(std::string_view name) const
-{
+bool Forms::known(std::string_view name) const {
     return makers.contains(name);
 }
 
-void Forms::unload(std::string_view name)
-{
+void Forms::unload(std::string_view name) {
     const auto form = live.find(name);
     if (form == live.end())
         return;

@@ -22,15 +22,13 @@ public:
 
     /// Makes the form known by name, so that menus and scripts can touch it.
     template <class T>
-    void declare()
-    {
+    void declare() {
         makers[std::string(T::formName)] = [](Proposal& owner) { return std::make_unique<T>(owner); };
     }
 
     /// Touches the form.
     template <class T>
-    T& get()
-    {
+    T& get() {
         return static_cast<T&>(*touch(T::formName));
     }
 

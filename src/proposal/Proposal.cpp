@@ -2,9 +2,7 @@
 
 namespace plandesk {
 
-Proposal::Proposal(const Ports& ports) : screen(ports)
-{
-}
+Proposal::Proposal(const Ports& ports) : screen(ports) {}
 
 const std::array<Proposal::FlagName, 9> Proposal::flags = {{
     {"isNewProposal", &Proposal::isNewProposal},

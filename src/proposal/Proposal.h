@@ -68,15 +68,15 @@ public:
 
     struct FlagName {
         std::string_view name;
-        bool Proposal::* flag;
+        bool Proposal::*flag;
     };
     struct NumberName {
         std::string_view name;
-        std::int16_t Proposal::* number;
+        std::int16_t Proposal::*number;
     };
     struct FragmentName {
         std::string_view name;
-        std::string Proposal::* text;
+        std::string Proposal::*text;
     };
     static const std::array<FlagName, 9> flags;
     static const std::array<NumberName, 4> numbers;

@@ -41,22 +41,19 @@ constexpr std::array<CharacterClass, 14> characterClasses = {{
 constexpr int backspace = 8;
 constexpr std::string_view specialKeys = "#$%&*@^~";
 
-int filterByClass(int key, std::string_view kind)
-{
+int filterByClass(int key, std::string_view kind) {
     std::string character;
     appendUtf8(character, static_cast<char32_t>(key));
     return key == backspace || chkString(character, kind) == -1 ? key : 0;
 }
 
-void refuse(TextBox& box, std::string_view text, std::string_view title)
-{
+void refuse(TextBox& box, std::string_view text, std::string_view title) {
     box.form().screen().message(text, title);
     box.setText("");
     box.setFocus();
 }
 
-bool holds(const TextBox& box, std::string_view kind)
-{
+bool holds(const TextBox& box, std::string_view kind) {
     return chkString(box.text(), kind) == -1;
 }
 
@@ -64,8 +61,7 @@ constexpr std::string_view noSpecialCharacter = "Do not enter any special charac
 
 }  // namespace
 
-std::int16_t chkString(std::string_view text, std::string_view kind)
-{
+std::int16_t chkString(std::string_view text, std::string_view kind) {
     const auto entry = std::ranges::find(characterClasses, lowerCase(kind), &CharacterClass::kind);
     if (entry == characterClasses.end())
         return 0;
@@ -73,39 +69,41 @@ std::int16_t chkString(std::string_view text, std::string_view kind)
     return lowerCase(text).find_first_of(set) == std::string::npos ? 0 : -1;
 }
 
-int keyFilterDecimal(int key)
-{
+int keyFilterDecimal(int key) {
     return filterByClass(key, "decimal");
 }
 
-int keyFilterNumeric(int key)
-{
+int keyFilterNumeric(int key) {
     return filterByClass(key, "numeric");
 }
 
-int dropSpecialKeys(int key)
-{
+int dropSpecialKeys(int key) {
     const bool special = key > 0 && key < 128 && specialKeys.find(static_cast<char>(key)) != std::string_view::npos;
     return special ? 0 : key;
 }
 
-std::string EscapeXML(std::string_view value)
-{
+std::string EscapeXML(std::string_view value) {
     std::string escaped;
     escaped.reserve(value.size());
     for (const char character : value) {
         switch (character) {
-        case '&': escaped += "&amp;"; break;
-        case '<': escaped += "&lt;"; break;
-        case '>': escaped += "&gt;"; break;
-        default: escaped += character;
+        case '&':
+            escaped += "&amp;";
+            break;
+        case '<':
+            escaped += "&lt;";
+            break;
+        case '>':
+            escaped += "&gt;";
+            break;
+        default:
+            escaped += character;
         }
     }
     return escaped;
 }
 
-std::string properCase(std::string_view text)
-{
+std::string properCase(std::string_view text) {
     std::string cased = lowerCase(text);
     bool startsWord = true;
     for (char& character : cased) {
@@ -117,14 +115,12 @@ std::string properCase(std::string_view text)
     return cased;
 }
 
-void setAllDatesToToday(Form& form)
-{
+void setAllDatesToToday(Form& form) {
     const Date today = form.screen().ports.clock.today();
     form.forEach<DatePicker>([today](DatePicker& picker) { picker.setDate(today); });
 }
 
-void setFormColors(Form& form, const Proposal& proposal)
-{
+void setFormColors(Form& form, const Proposal& proposal) {
     form.setBackColor(proposal.formBackColor);
     for (Control* control : form.controls()) {
         switch (control->kind()) {
@@ -132,32 +128,30 @@ void setFormColors(Form& form, const Proposal& proposal)
         case ControlKind::Button:
         case ControlKind::ComboBox:
         case ControlKind::DatePicker:
-        case ControlKind::TabStrip: break;
-        default: control->setBackColor(proposal.formBackColor);
+        case ControlKind::TabStrip:
+            break;
+        default:
+            control->setBackColor(proposal.formBackColor);
         }
     }
 }
 
-void openBox(TextBox& box)
-{
+void openBox(TextBox& box) {
     box.setEnabled(true);
     box.setBackColor(white);
 }
 
-void closeBox(TextBox& box)
-{
+void closeBox(TextBox& box) {
     box.setEnabled(false);
     box.setBackColor(disabledGrey);
 }
 
-void emptyAndCloseBox(TextBox& box)
-{
+void emptyAndCloseBox(TextBox& box) {
     box.setText("");
     closeBox(box);
 }
 
-void checkRateBox(TextBox& first, TextBox& second, TextBox& target, bool compute)
-{
+void checkRateBox(TextBox& first, TextBox& second, TextBox& target, bool compute) {
     if (holds(first, "alpha"))
         return refuse(first, "Enter Numeric Data", "Payment Detail");
     if (holds(first, "amp"))
@@ -174,8 +168,7 @@ void checkRateBox(TextBox& first, TextBox& second, TextBox& target, bool compute
     target.setText(numberText(product));
 }
 
-void closeAllForms(Proposal& proposal)
-{
+void closeAllForms(Proposal& proposal) {
     for (const std::string_view name : {"frmPayDetail", "frmDocCheckList", "AnnexureACont", "frmAnnexureA"})
         proposal.forms.unload(name);
     proposal.screen.end();
