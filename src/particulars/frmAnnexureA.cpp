@@ -1,0 +1,247 @@
+#include "particulars/frmAnnexureA.h"
+
+#include <algorithm>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "particulars/AnnexureACont.h"
+#include "particulars/frmAnnexureA_rules.h"
+#include "particulars/particulars.h"
+#include "proposal/ReferenceLists.h"
+
+namespace plandesk {
+
+namespace {
+
+constexpr int lastTab = PageButtons::firstOfSectionFour - 1;
+
+constexpr TextBox frmAnnexureA::*decimalBoxes[] = {
+    &frmAnnexureA::txtPltArea,
+    &frmAnnexureA::txtActualArea,
+    &frmAnnexureA::txtTikaNo,
+    &frmAnnexureA::txtTotalAreaRoadDeduction,
+    &frmAnnexureA::txtNetArea,
+    &frmAnnexureA::txtSanctionNo,
+    &frmAnnexureA::txtPermissibleFSIZone,
+    &frmAnnexureA::txtWorkmen,
+    &frmAnnexureA::txtAnnexBPlinthArea,
+    &frmAnnexureA::txtAnnexBFloorArea,
+    &frmAnnexureA::txtFloorArea,
+    &frmAnnexureA::txtPlinthArea,
+    &frmAnnexureA::txtPlinthAreaOfStructureRet,
+    &frmAnnexureA::txtPlinthTotFloorArea,
+    &frmAnnexureA::txtOverAllFloorArea,
+    &frmAnnexureA::txtTotTene,
+    &frmAnnexureA::txtNoTeneExist,
+    &frmAnnexureA::txtTenePropose,
+    &frmAnnexureA::txtAverage,
+    &frmAnnexureA::txtPescribWidth,
+    &frmAnnexureA::txtExistingWidthStreet,
+    &frmAnnexureA::txtFstStreetWidth,
+    &frmAnnexureA::txtFstExistingWidth,
+    &frmAnnexureA::txtBuildingHgt,
+    &frmAnnexureA::txtAbvCentStreet,
+    &frmAnnexureA::txtAboveAverageGrndLevel,
+};
+
+constexpr TextBox frmAnnexureA::*wholeNumberBoxes[] = {
+    &frmAnnexureA::txtNoOfTenamentsPerAcre,
+    &frmAnnexureA::txtTotalNoOfTenements,
+};
+
+constexpr TextBox frmAnnexureA::*longTexts[] = {
+    &frmAnnexureA::txtApplicantAddr, &frmAnnexureA::txtRmk1,  &frmAnnexureA::txtMainProcess,
+    &frmAnnexureA::txtInstAddr,      &frmAnnexureA::txtWaste, &frmAnnexureA::txtWhyNot,
+    &frmAnnexureA::txtRmk2,          &frmAnnexureA::txtRmk3,
+};
+
+struct CaseTypeLook {
+    std::string_view caseType;
+    bool numbered;  ///< file and revision number are asked for
+    std::string_view revisionCaption;
+};
+
+constexpr std::array<CaseTypeLook, 5> caseTypeLooks = {{
+    {"New", false, ""},
+    {"Change of use", false, ""},
+    {"Revised", true, "Revision No."},
+    {"Resubmitted", true, "Resubmittion No."},
+    {"Revalidation", true, "Revalidation No."},
+}};
+
+}  // namespace
+
+frmAnnexureA::frmAnnexureA(Proposal& proposal) : DataForm(proposal, formName, "Particulars of Development") {
+    cmdNavPrev.toolTip = "Previous page";
+    cmdNavNext.toolTip = "Next page";
+    for (const std::string_view use : plotUses)
+        cboProposalTyp.addItem(use);
+    for (const CodedText& zone : zones)
+        cboZone.addItem(zone.text);
+    for (TextBox frmAnnexureA::*box : longTexts)
+        (this->*box).multiLine = true;
+
+    wireKeyFilters();
+    wireFirstPageTests();
+    wireButtons();
+    wireCrossFieldRules(*this, frmAnnexureARules);
+    Opt2.yes.click = [this] { Opt2Y_Click(); };
+    Opt2.no.click = [this] { Opt2N_Click(); };
+    PropTab.click = [this] { PropTab_Click(); };
+    cboCaseType.click = [this] { cboCaseType_Click(); };
+    OptArch.click = [this] { lblArch.setCaption("Architect "); };
+    OptLE.click = [this] { lblArch.setCaption(OptLE.caption()); };
+    OptSE.click = [this] { lblArch.setCaption(OptSE.caption()); };
+    txtPathNm.change = [this] { this->proposal.screen.setCaption(txtPathNm.text()); };
+
+    procedure("SaveData", [this] { SaveData(); });
+    procedure("CreateXMLFIle", [this] { this->proposal.commands.CreateXMLFIle(); });
+    procedure("validate", [this] { validate(); });
+    procedure("validateAnnexureFirstPage", [this] { validateAnnexureFirstPage(); });
+    procedure("setComboValues", [this] { setComboValues(); });
+}
+
+void frmAnnexureA::wireKeyFilters() {
+    for (TextBox frmAnnexureA::*box : decimalBoxes)
+        (this->*box).keyPress = keyFilterDecimal;
+    for (TextBox frmAnnexureA::*box : wholeNumberBoxes)
+        (this->*box).keyPress = keyFilterNumeric;
+}
+
+void frmAnnexureA::wireButtons() {
+    cmdFormNo.onClick([this](int page) { cmdFormNo_Click(page); });
+    cmdNavNext.click = [this] { cmdNavNext_Click(); };
+    cmdNavPrev.click = [this] { cmdNavPrev_Click(); };
+    cmdNext.click = [this] { cmdNext_Click(); };
+    cmdPrevious.click = [this] { cmdPrevious_Click(); };
+    cmdSave.click = [this] { cmdSave_Click(); };
+    cmdSaveALL.click = [this] { proposal.commands.saveProposal(); };
+    cmdClose.click = [this] { cmdClose_Click(); };
+    Command1.click = [this] { Command1_Click(); };
+    cmdPrint.click = [this] { proposal.commands.open("rptAnnexture"); };
+    cmdUS84.click = [this] { proposal.commands.open("cmdUS84"); };
+    cmdPlotRelation.click = [this] { proposal.commands.open("frmPlotExtractRelation"); };
+}
+
+void frmAnnexureA::load() {
+    setAllDatesToToday(*this);
+    OptArch.setValue(true);
+    PropTab.setTab(0);
+    PropTab_Click();
+    setComboValues();
+    setFormColors(*this, proposal);
+    for (Control* control : {static_cast<Control*>(&lblFileNo), static_cast<Control*>(&lblRevNo),
+                             static_cast<Control*>(&txtFileNo), static_cast<Control*>(&txtRevNo)})
+        control->setVisible(false);
+}
+
+void frmAnnexureA::setComboValues() {
+    cboCaseType.clear();
+    cboCaseType.addItem("New");
+    cboCaseType.addItem("Revised");
+    cboProposProj.clear();
+    for (const CodedText& project : projects)
+        cboProposProj.addItem(project.text);
+    cboSector.clear();
+    villageCodes.clear();
+    for (const std::string& line :
+         proposal.screen.ports.files.readLines(proposal.screen.ports.program.folder() + "/VILLAGENAMES.txt")) {
+        const std::vector<std::string> fields = split(line, "#");
+        if (fields.size() < 3)
+            throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+        cboSector.addItem(fields[0], toInteger32(fields[1]));
+        villageCodes.push_back(fields[2]);
+    }
+}
+
+void frmAnnexureA::cboCaseType_Click() {
+    const auto look = std::ranges::find(caseTypeLooks, trim(cboCaseType.text()), &CaseTypeLook::caseType);
+    if (look == caseTypeLooks.end())
+        return;
+    for (Control* control : {static_cast<Control*>(&lblFileNo), static_cast<Control*>(&lblRevNo),
+                             static_cast<Control*>(&txtFileNo), static_cast<Control*>(&txtRevNo)})
+        control->setVisible(look->numbered);
+    if (look->numbered)
+        lblRevNo.setCaption(look->revisionCaption);
+}
+
+void frmAnnexureA::enterPressed() {
+    if (auto* box = dynamic_cast<TextBox*>(activeControl()))
+        box->setText(properCase(box->text()));
+}
+
+void frmAnnexureA::cmdFormNo_Click(int index) {
+    if (index != 0 && !validateAnnexureFirstPage())
+        return;
+    if (index < PageButtons::firstOfSectionFour) {
+        goToTab(index);
+        show();
+    } else {
+        auto& continuation = proposal.forms.get<AnnexureACont>();
+        continuation.SectFourDet.setTab(index - PageButtons::firstOfSectionFour);
+        continuation.show();
+        continuation.paintPageButtons();
+    }
+    if (index != 0)
+        focusFirstOfPage(index < PageButtons::firstOfSectionFour ? static_cast<Form&>(*this)
+                                                                 : proposal.forms.get<AnnexureACont>());
+    proposal.currentFormNo = static_cast<std::int16_t>(index);
+}
+
+void frmAnnexureA::goToTab(int tab) {
+    PropTab.setTab(tab);
+    cmdNext.setEnabled(true);
+    cmdFormNo.paint(proposal, tab);
+}
+
+void frmAnnexureA::PropTab_Click() {
+    cmdPrevious.setEnabled(PropTab.tab() > 0);
+    cmdNext.setEnabled(PropTab.tab() < lastTab);
+    cmdFormNo.paint(proposal, PropTab.tab());
+}
+
+void frmAnnexureA::cmdNext_Click() {
+    if (PropTab.tab() < lastTab)
+        goToTab(PropTab.tab() + 1);
+    else
+        proposal.forms.get<AnnexureACont>().show();
+    cmdPrevious.setEnabled(true);
+}
+
+void frmAnnexureA::cmdPrevious_Click() {
+    if (PropTab.tab() > 0)
+        goToTab(PropTab.tab() - 1);
+    if (PropTab.tab() == 0)
+        cmdPrevious.setEnabled(false);
+    cmdNext.setEnabled(true);
+}
+
+void frmAnnexureA::cmdNavNext_Click() {
+    // Stops one short of the last page, which its own button alone reaches.
+    if (proposal.currentFormNo < PageButtons::count - 2)
+        cmdFormNo_Click(proposal.currentFormNo + 1);
+}
+
+void frmAnnexureA::cmdNavPrev_Click() {
+    if (proposal.currentFormNo > 0)
+        cmdFormNo_Click(proposal.currentFormNo - 1);
+}
+
+void frmAnnexureA::SaveData() {
+    proposal.commands.SaveData();
+}
+
+void frmAnnexureA::cmdSave_Click() {
+    SaveData();
+}
+
+void frmAnnexureA::cmdClose_Click() {
+    hideParticulars(proposal);
+}
+
+void frmAnnexureA::Command1_Click() {
+    proposal.screen.message(std::string("File Open = ") + (proposal.isProposalOpen ? "True" : "False"), "");
+    proposal.commands.readXml();
+}
+
+}  // namespace plandesk
