@@ -290,6 +290,7 @@ Recordset& Tables::ensure(Member table) {
 
 std::vector<Tables::Named> Tables::byName() const {
     std::vector<Named> named;
+    named.reserve(definitions.size());
     for (const TableDefinition& definition : definitions)
         named.push_back({definition.name, (this->*definition.table).get()});
     return named;
