@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "base/Text.h"
 #include "controls/Form.h"
 #include "controls/Screen.h"
 
@@ -54,19 +55,19 @@ void Control::setFocus() {
 }
 
 bool Control::fire(std::string_view event) {
-    const std::function<void()>* reaction = event == "GotFocus"    ? &gotFocus
-                                            : event == "LostFocus" ? &lostFocus
-                                                                   : nullptr;
-    if (!reaction)
+    return fires(event, "GotFocus", gotFocus) || fires(event, "LostFocus", lostFocus);
+}
+
+bool Control::fires(std::string_view event, std::string_view name, const std::function<void()>& reaction) {
+    if (!equalsIgnoringCase(event, name))
         return false;
-    if (*reaction)
-        (*reaction)();
+    if (reaction)
+        reaction();
     return true;
 }
 
 void Control::touched() {
-    if (ScreenObserver* observer = owner.screen().observer)
-        observer->controlChanged(*this);
+    owner.screen().controlTouched(*this);
 }
 
 }  // namespace plandesk

@@ -60,7 +60,7 @@ public:
     /// Program code moves the focus here. No leave check runs.
     void setFocus();
 
-    /// Runs the control's own reaction to the event "Click", "Change", "GotFocus" or "LostFocus".
+    /// Runs the control's own reaction to the event "Click", "Change", "GotFocus" or "LostFocus", in any case.
     /// False when the control has no such event.
     virtual bool fire(std::string_view event);
 
@@ -71,6 +71,8 @@ public:
     std::function<bool()> leaveCheck;
 
 protected:
+    /// Runs the reaction when `event` is its name, in any case; tells whether it is.
+    static bool fires(std::string_view event, std::string_view name, const std::function<void()>& reaction);
     /// Tells the views that something of the control is to be painted anew.
     void touched();
     virtual bool kindTakesFocus() const { return true; }

@@ -41,10 +41,7 @@ void TextBox::append(char32_t character) {
 }
 
 bool TextBox::fire(std::string_view event) {
-    if (event != "Change")
-        return Control::fire(event);
-    runReaction(change);
-    return true;
+    return fires(event, "Change", change) || Control::fire(event);
 }
 
 Captioned::Captioned(Form& form, ControlKind kind, std::string_view name, int index, std::string_view caption)
@@ -59,6 +56,8 @@ void Captioned::setCaption(std::string_view caption) {
 }
 
 void Captioned::setForeColor(Colour colour) {
+    if (fore == colour)
+        return;
     fore = colour;
     touched();
 }
@@ -68,13 +67,7 @@ void Captioned::press() {
 }
 
 bool Captioned::fire(std::string_view event) {
-    if (event == "Click")
-        runReaction(click);
-    else if (event == "Change")
-        runReaction(change);
-    else
-        return Control::fire(event);
-    return true;
+    return fires(event, "Click", click) || fires(event, "Change", change) || Control::fire(event);
 }
 
 Label::Label(Form& form, std::string_view name, std::string_view caption, int index)
@@ -202,10 +195,7 @@ void ComboBox::pick(int position) {
 }
 
 bool ComboBox::fire(std::string_view event) {
-    if (event != "Click")
-        return Control::fire(event);
-    runReaction(click);
-    return true;
+    return fires(event, "Click", click) || Control::fire(event);
 }
 
 DatePicker::DatePicker(Form& form, std::string_view name, int index)
@@ -220,10 +210,7 @@ void DatePicker::setDate(Date date) {
 }
 
 bool DatePicker::fire(std::string_view event) {
-    if (event != "Change")
-        return Control::fire(event);
-    runReaction(change);
-    return true;
+    return fires(event, "Change", change) || Control::fire(event);
 }
 
 TabStrip::TabStrip(Form& form, std::string_view name, int count)
@@ -240,10 +227,7 @@ void TabStrip::setTab(int tab) {
 }
 
 bool TabStrip::fire(std::string_view event) {
-    if (event != "Click")
-        return Control::fire(event);
-    runReaction(click);
-    return true;
+    return fires(event, "Click", click) || Control::fire(event);
 }
 
 YesNo::YesNo(Form& form, std::string_view yesName, std::string_view noName)

@@ -1,6 +1,7 @@
 #include "controls/Form.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "base/Text.h"
 #include "controls/Controls.h"
@@ -28,11 +29,15 @@ const Layout& Form::layout() const {
 }
 
 void Form::setCaption(std::string_view caption) {
+    if (title == caption)
+        return;
     title = caption;
     desk.formTouched(*this);
 }
 
 void Form::setBackColor(Colour colour) {
+    if (back == colour)
+        return;
     back = colour;
     desk.formTouched(*this);
 }
@@ -69,13 +74,12 @@ Control* Form::findKey(std::string_view key) const {
     const std::size_t bracket = key.find('(');
     if (bracket == std::string_view::npos)
         return find(key);
-    int index = 0;
-    for (const char digit : key.substr(bracket + 1, key.size() - bracket - 2)) {
-        if (digit < '0' || digit > '9' || index > 9999)
-            return nullptr;
-        index = index * 10 + (digit - '0');
-    }
-    return find(key.substr(0, bracket), index);
+    const std::string_view digits = key.substr(bracket + 1);
+    const char* const end = digits.data() + digits.size();
+    int index = Control::noIndex;
+    const auto [stop, error] = std::from_chars(digits.data(), end, index);
+    const bool sound = error == std::errc{} && index >= 0 && std::string_view(stop, end) == ")";
+    return sound ? find(key.substr(0, bracket), index) : nullptr;
 }
 
 std::vector<Control*> Form::tabOrder() const {
@@ -108,7 +112,7 @@ void Form::procedure(std::string_view procedureName, std::function<void()> body)
 }
 
 bool Form::run(std::string_view procedureName) {
-    if (const auto found = procedures.find(std::string(procedureName)); found != procedures.end()) {
+    if (const auto found = procedures.find(procedureName); found != procedures.end()) {
         found->second();
         return true;
     }

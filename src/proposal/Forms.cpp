@@ -7,7 +7,7 @@ namespace plandesk {
 Form* Forms::touch(std::string_view name) {
     if (Form* form = loaded(name))
         return form;
-    const auto maker = makers.find(std::string(name));
+    const auto maker = makers.find(name);
     if (maker == makers.end())
         return nullptr;
     Form& form = *(live[maker->first] = maker->second(proposal));

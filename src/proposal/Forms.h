@@ -26,9 +26,11 @@ public:
         makers[std::string(T::formName)] = [](Proposal& owner) { return std::make_unique<T>(owner); };
     }
 
-    /// Touches the form.
+    /// Touches the form; one that was not declared yet is declared first.
     template <class T>
     T& get() {
+        if (!known(T::formName))
+            declare<T>();
         return static_cast<T&>(*touch(T::formName));
     }
 
