@@ -7,6 +7,12 @@
 
 namespace plandesk {
 
+namespace {
+
+constexpr int deepestFocusMove = 50;
+
+}  // namespace
+
 Screen::Screen(const Ports& ports) : ports(ports) {}
 
 Screen::~Screen() = default;
@@ -21,26 +27,27 @@ void Screen::event(const std::function<void()>& reaction) {
     ++depth;
     try {
         reaction();
-    } catch (const RuntimeError& error) {
-        message(error.description, "", Icon::Critical);
+    } catch (const std::exception& error) {
+        message(error.what(), "", Icon::Critical);
     }
     if (--depth == 0)
         unloaded.clear();
 }
 
 void Screen::setFocus(Control& control) {
-    if (Form& form = control.form(); form.visible())
-        raise(form);
+    Form& form = control.form();
+    if (!holds(form))
+        return;
+    if (form.visible())
+        moveToFront(form);
     changeFocus(&control);
 }
 
 bool Screen::moveFocus(Control& control) {
-    Form& form = control.form();
-    if (Control* old = focus; old && old != &control && &old->form() == &form && !mayLeave(*old))
+    Control* old = focus;
+    if (old && old != &control && &old->form() == &control.form() && !mayLeave(*old))
         return false;
-    if (form.visible())
-        raise(form);
-    changeFocus(&control);
+    setFocus(control);
     return focus == &control;
 }
 
@@ -63,22 +70,31 @@ void Screen::changeFocus(Control* to) {
     Control* old = focus;
     if (old == to)
         return;
+    // Two reactions that take the focus from each other would never end.
+    if (focusMoves == deepestFocusMove)
+        throw RuntimeError(28, "Out of stack space");
+    ++focusMoves;
     const bool oldHadFocus = focusArrived;
     focus = to;
     focusArrived = false;
     if (to)
         to->form().active = to;
     // A control that a reaction took the focus from before it arrived has not lost anything.
-    if (old && oldHadFocus && old->lostFocus)
-        old->lostFocus();
+    if (old && oldHadFocus)
+        react(old->lostFocus);
     // The reaction may have given the focus back; the move ends there then.
-    if (focus == to && to && !focusArrived) {
+    if (to && focus == to && !focusArrived) {
         focusArrived = true;
-        if (to->gotFocus)
-            to->gotFocus();
+        react(to->gotFocus);
     }
+    --focusMoves;
     if (observer)
         observer->focusChanged(focus);
+}
+
+void Screen::react(const std::function<void()>& reaction) {
+    if (reaction)
+        event(reaction);
 }
 
 Form* Screen::frontForm() const {
@@ -103,7 +119,10 @@ void Screen::end() {
 void Screen::unload(std::unique_ptr<Form> form) {
     if (!form)
         return;
+    const bool hadFocus = focus && &focus->form() == form.get();
     forget(*form);
+    if (observer && hadFocus)
+        observer->focusChanged(nullptr);
     if (observer)
         observer->formUnloading(*form);
     // A form may be unloaded by one of its own reactions; it is destroyed when that has ended.
@@ -111,8 +130,13 @@ void Screen::unload(std::unique_ptr<Form> form) {
         unloaded.push_back(std::move(form));
 }
 
-void Screen::forget(Form& form) {
-    if (focus && &focus->form() == &form) {
+bool Screen::holds(const Form& form) const {
+    return std::ranges::find(stack, &form) != stack.end();
+}
+
+void Screen::forget(const Form& form) {
+    // The focused control may be gone already: a form's destructor comes after those of its controls.
+    if (std::ranges::find(form.all, focus) != form.all.end()) {
         focus = nullptr;
         focusArrived = false;
     }
@@ -124,16 +148,28 @@ void Screen::leaveForm(const Form& form) {
         changeFocus(nullptr);
 }
 
+void Screen::moveToFront(Form& form) {
+    const auto place = std::ranges::find(stack, &form);
+    if (place == stack.end() || place + 1 == stack.end())
+        return;
+    std::rotate(place, place + 1, stack.end());
+    formTouched(form);
+}
+
 void Screen::raise(Form& form) {
+    moveToFront(form);
     if (form.visible() && focus && &focus->form() != &form)
         changeFocus(nullptr);
-    if (const auto place = std::ranges::find(stack, &form); place != stack.end())
-        std::rotate(place, place + 1, stack.end());
 }
 
 void Screen::formTouched(Form& form) {
-    if (observer)
+    if (observer && holds(form))
         observer->formChanged(form);
+}
+
+void Screen::controlTouched(Control& control) {
+    if (observer && holds(control.form()))
+        observer->controlChanged(control);
 }
 
 void Screen::mainWindowTouched() {

@@ -36,12 +36,13 @@ public:
     /// Shows a box through the dialogs.
     void message(std::string_view text, std::string_view title, Icon icon = Icon::Information);
 
-    /// Runs one event of the user. A run-time error that nobody handled ends the event and is shown in one box with its
-    /// description; the program goes on.
+    /// Runs one event of the user. An error that nobody handled ends the event and is shown in one box with its
+    /// description; the program goes on. Events may run inside each other.
     void event(const std::function<void()>& reaction);
 
     Control* focused() const { return focus; }
-    /// Program code moves the focus: lost focus and got focus run, no leave check.
+    /// Program code moves the focus: lost focus and got focus run, each an event of its own, and no leave check. A lost
+    /// focus that gives the focus back or on ends the move there. Does nothing for a form that was unloaded.
     void setFocus(Control& control);
     /// The user moves the focus. Within one form the old control's leave check may hold it: false then, and nothing
     /// else happens. To another form no leave check runs.
@@ -63,7 +64,8 @@ public:
     /// Tells the view that the main window's menu or colour changed.
     void mainWindowTouched();
 
-    /// Takes a form off the screen and destroys it, at the end of the running event when there is one.
+    /// Takes a form off the screen, without a lost focus, and destroys it, at the end of the running event when there
+    /// is one. The observer hears nothing more of it.
     void unload(std::unique_ptr<Form> form);
 
     bool ended() const { return over; }
@@ -74,15 +76,20 @@ private:
     friend class Form;
     friend class Control;
     void changeFocus(Control* to);
+    void react(const std::function<void()>& reaction);
     static bool mayLeave(Control& control);
-    void forget(Form& form);
+    bool holds(const Form& form) const;
+    void forget(const Form& form);
     void leaveForm(const Form& form);
+    void moveToFront(Form& form);
     void raise(Form& form);
     void formTouched(Form& form);
+    void controlTouched(Control& control);
 
     std::vector<Form*> stack;  ///< all forms, the front one last
     Control* focus = nullptr;
     bool focusArrived = false;  ///< the focused control has had its got-focus reaction
+    int focusMoves = 0;         ///< moves of the focus under way, each in a reaction to the one before
     std::string title;
     int depth = 0;  ///< events under way
     std::vector<std::unique_ptr<Form>> unloaded;
