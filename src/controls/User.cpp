@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 #include <string>
+#include <utility>
 
 #include "base/Text.h"
 #include "controls/Controls.h"
@@ -20,7 +21,8 @@ bool onFocused(Control& control, const std::function<void()>& act) {
     const bool there = control.takesFocus();
     if (there)
         control.form().screen().event([&] {
-            if (control.form().screen().moveFocus(control))
+            // A reaction to the focus may have closed the control.
+            if (control.form().screen().moveFocus(control) && control.takesFocus())
                 act();
         });
     return there;
@@ -30,28 +32,40 @@ bool editable(const TextBox& box) {
     return box.takesFocus() && !box.locked;
 }
 
-/// Types key by key; the first key that the filters let through replaces the content when `replace` is set.
+/// Types key by key, each key an event of its own; the first key that the filters let through replaces the content when
+/// `replace` is set. Keys that come after a reaction has moved the focus away or closed the box go nowhere.
 void typeKeys(TextBox& box, std::string_view text, bool replace) {
     bool replacing = replace;
     for (const char32_t key : codePoints(text)) {
-        const auto passed = static_cast<char32_t>(filteredKey(box, static_cast<int>(key)));
-        if (passed == 0)
-            continue;
-        if (replacing)
-            box.restoreText("");
-        replacing = false;
-        box.append(passed);
+        if (!box.focused() || !editable(box))
+            return;
+        box.form().screen().event([&] {
+            const int passed = filteredKey(box, static_cast<int>(key));
+            if (passed == 0)
+                return;
+            if (std::exchange(replacing, false))
+                box.restoreText("");
+            box.append(static_cast<char32_t>(passed));
+        });
     }
 }
 
+/// Bytes of the last character of a text that is not empty; a line end of two characters counts as one.
+std::size_t lastCharacterSize(std::string_view text) {
+    if (text.ends_with("\r\n"))
+        return 2;
+    constexpr std::size_t longest = 4;
+    for (std::size_t size = std::min(longest, text.size()); size > 1; --size)
+        if (codePoints(text.substr(text.size() - size)).size() == 1)
+            return size;
+    return 1;
+}
+
 void eraseLast(TextBox& box) {
-    std::string content = box.text();
+    const std::string& content = box.text();
     if (content.empty() || filteredKey(box, backspace) == 0)
         return;
-    while (content.size() > 1 && (static_cast<unsigned char>(content.back()) & 0xC0U) == 0x80U)
-        content.pop_back();
-    content.pop_back();
-    box.edit(std::move(content));
+    box.edit(content.substr(0, content.size() - lastCharacterSize(content)));
 }
 
 void focusNext(Form& form) {
@@ -103,7 +117,7 @@ void keyDown(Form& form, Control* control, std::string_view key) {
         eraseLast(*box);
     else if (key == "Space" && control && !box)
         activate(*control);
-    else if (key != "Backspace" && box && !box->locked)
+    else if (box && !box->locked && (key == "Space" || codePoints(key).size() == 1))
         typeKeys(*box, key == "Space" ? " " : key, false);
 }
 
