@@ -65,8 +65,11 @@ std::int16_t chkString(std::string_view text, std::string_view kind) {
     const auto entry = std::ranges::find(characterClasses, lowerCase(kind), &CharacterClass::kind);
     if (entry == characterClasses.end())
         return 0;
-    const std::string set = lowerCase(entry->set);
-    return lowerCase(text).find_first_of(set) == std::string::npos ? 0 : -1;
+    std::array<bool, 256> member{};
+    for (const char character : lowerCase(entry->set) + upperCase(entry->set))
+        member.at(static_cast<unsigned char>(character)) = true;
+    const bool found = std::ranges::any_of(text, [&member](unsigned char character) { return member[character]; });
+    return found ? -1 : 0;
 }
 
 int keyFilterDecimal(int key) {
