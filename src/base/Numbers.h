@@ -7,7 +7,8 @@
 namespace plandesk {
 
 /// Value of the number that `text` begins with: blanks are passed over, reading stops at the first character that
-/// cannot belong to a number (sign, digits, one point, exponent). No number gives 0. Never fails.
+/// cannot belong to a number (sign, digits, one point, exponent). No number gives 0. Never fails: a number beyond the
+/// range of a double gives the largest one.
 double leadingNumber(std::string_view text);
 
 /// Whether the whole text is a number: blanks around it, a sign, digits grouped by commas, a point and an exponent are
@@ -26,14 +27,15 @@ std::int32_t toInteger32(double value);
 std::int32_t toInteger32(std::string_view text);
 
 /// Default text form of a number: at most 15 significant digits, no trailing zeros, "1E+15" form only where 15 digits
-/// cannot show it.
+/// cannot show it. RuntimeError 6 for a value that is not finite.
 std::string numberText(double value);
 
 /// "########0.00": two decimals, halves away from zero on the 15 significant digits, no grouping.
+/// RuntimeError 6 for a value that is not finite.
 std::string formatAmount(double value);
 
-/// A text that is a number is given in the form of formatAmount; any other text, the empty one too, is given back as it
-/// is.
+/// A text that is a number is given in the form of formatAmount; any other text, the empty one and a number beyond the
+/// range of a double too, is given back as it is.
 std::string formatAmount(std::string_view text);
 
 }  // namespace plandesk

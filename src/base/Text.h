@@ -17,6 +17,7 @@ std::string lowerCase(std::string_view text);
 bool equalsIgnoringCase(std::string_view a, std::string_view b);
 
 /// The pieces between separators. An empty text has no pieces at all, not one empty piece, as the platform splits it.
+/// An empty separator separates nothing.
 std::vector<std::string> split(std::string_view text, std::string_view separator);
 
 std::string join(std::span<const std::string> pieces, std::string_view separator);
@@ -25,6 +26,8 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 /// Decodes UTF-8 into code points; a byte that is not part of a valid sequence gives U+DC80 plus its low seven bits,
 /// so that appendUtf8 gives the same byte back.
 std::u32string codePoints(std::string_view text);
+
+/// Other surrogates, and what is no code point, are appended as U+FFFD.
 void appendUtf8(std::string& text, char32_t codePoint);
 
 }  // namespace plandesk
