@@ -9,8 +9,6 @@ namespace plandesk {
 
 namespace {
 
-constexpr int lastTabBeforeChecklists = 2;
-
 constexpr TextBox AnnexureACont::*decimalBoxes[] = {
     &AnnexureACont::txtWidthOfFrontOpenSpace,
     &AnnexureACont::txtDistCentStreet,
@@ -84,7 +82,7 @@ void AnnexureACont::wireButtons() {
     cmdClose.click = [this] { closeAllForms(proposal); };
     lblAnnextureA.click = [this] { showAnnexureFirstPage(proposal); };
     lblAnnexureB.click = [this] { showSectionFourPage(proposal); };
-    lblPayment.click = [this] { proposal.commands.open("frmPayDetail"); };
+    lblPayment.click = [this] { proposal.commands.showPayment(); };
 }
 
 void AnnexureACont::load() {

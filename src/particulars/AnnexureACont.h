@@ -15,6 +15,9 @@ class AnnexureACont : public DataForm {
 public:
     static constexpr std::string_view formName = "AnnexureACont";
 
+    /// The checklists follow this tab; only the page buttons and the tabs lead to those behind it.
+    static constexpr int lastTabBeforeChecklists = 2;
+
     explicit AnnexureACont(Proposal& proposal);
     void load() override;
     const Layout& layout() const override;

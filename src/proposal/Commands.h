@@ -18,6 +18,7 @@ struct Commands {
     Action buildAnnexureB = nothing;  ///< replaces `annexureBXML`
     Action readXml = nothing;         ///< the steps of opening a file, without setting the proposal flags
     Action refreshMenus = nothing;
+    Action showPayment = nothing;  ///< shows the payment form with the fee area of the Particulars
     /// Opens the form or report of that name; does nothing for one that does not exist yet.
     std::function<void(std::string_view name)> open = [](std::string_view) {};
 };

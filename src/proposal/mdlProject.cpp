@@ -57,8 +57,6 @@ bool holds(const TextBox& box, std::string_view kind) {
     return chkString(box.text(), kind) == -1;
 }
 
-constexpr std::string_view noSpecialCharacter = "Do not enter any special character [!@#$%^&*]";
-
 }  // namespace
 
 std::int16_t chkString(std::string_view text, std::string_view kind) {

@@ -43,6 +43,9 @@ void closeBox(TextBox& box);
 /// Empties, disables and greys a box.
 void emptyAndCloseBox(TextBox& box);
 
+/// Told of a box that holds a member of the "amp" class.
+inline constexpr std::string_view noSpecialCharacter = "Do not enter any special character [!@#$%^&*]";
+
 /// The pair check of fee and page boxes, run when `first` has changed. A box that holds a letter or a special character
 /// is told of in a message, emptied and given the focus; with both boxes filled and sound and `compute` set, `target`
 /// becomes their product in the default text form of a number.

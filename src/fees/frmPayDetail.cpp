@@ -1,0 +1,234 @@
+#include "fees/frmPayDetail.h"
+
+#include <array>
+#include <initializer_list>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "particulars/frmAnnexureA.h"
+
+namespace plandesk {
+
+namespace {
+
+using Box = TextBox frmPayDetail::*;
+
+struct FeeRow {
+    Box area;
+    Box rate;
+    Box amount;
+};
+
+/// The nine fee rows in the order in which the document lists them.
+constexpr std::array feeRows = std::to_array<FeeRow>({
+    {&frmPayDetail::txtArea, &frmPayDetail::txtRate, &frmPayDetail::txtTotal},
+    {&frmPayDetail::txtDevAreaC, &frmPayDetail::txtDevRateC, &frmPayDetail::txtDevAmtC},
+    {&frmPayDetail::txtDevAreaI, &frmPayDetail::txtDevRateI, &frmPayDetail::txtDevAmtI},
+    {&frmPayDetail::txtScrutinyRArea, &frmPayDetail::txtScrutinyRRate, &frmPayDetail::txtScrutinyRAmount},
+    {&frmPayDetail::txtScrutinyCArea, &frmPayDetail::txtScrutinyCRate, &frmPayDetail::txtScrutinyCAmount},
+    {&frmPayDetail::txtScrutinyIndArea, &frmPayDetail::txtScrutinyINDRate, &frmPayDetail::txtScrutinyINDAmount},
+    {&frmPayDetail::txtScrutinyRArea2, &frmPayDetail::txtScrutinyRRate2, &frmPayDetail::txtScrutinyRAmount2},
+    {&frmPayDetail::txtScrutinyCArea2, &frmPayDetail::txtScrutinyCRate2, &frmPayDetail::txtScrutinyCAmount2},
+    {&frmPayDetail::txtScrutinyIndArea2, &frmPayDetail::txtScrutinyINDRate2, &frmPayDetail::txtScrutinyINDAmount2},
+});
+
+/// Rows whose values open the first list; the others make up the second.
+constexpr std::span<const FeeRow> firstListRows(feeRows.data(), 6);
+constexpr std::span<const FeeRow> secondListRows(feeRows.data() + 6, 3);
+
+// The sum is taken in two steps, in this order.
+constexpr std::array<Box, 8> firstSum = {&frmPayDetail::txtCompoundFees,      &frmPayDetail::txtOther,
+                                         &frmPayDetail::txtScrutinyCAmount,   &frmPayDetail::txtScrutinyRAmount,
+                                         &frmPayDetail::txtScrutinyINDAmount, &frmPayDetail::txtDevAmtI,
+                                         &frmPayDetail::txtDevAmtC,           &frmPayDetail::txtTotal};
+constexpr std::array<Box, 3> secondSum = {&frmPayDetail::txtScrutinyCAmount2, &frmPayDetail::txtScrutinyINDAmount2,
+                                          &frmPayDetail::txtScrutinyRAmount2};
+
+constexpr std::string_view separator = "$$";
+
+void formatMoney(TextBox& box) {
+    box.setText(formatAmount(box.text()));
+}
+
+std::string sumText(const frmPayDetail& form, double start, std::span<const Box> boxes) {
+    double sum = start;
+    for (const Box box : boxes)
+        sum += leadingNumber((form.*box).text());
+    return numberText(sum);
+}
+
+}  // namespace
+
+frmPayDetail::frmPayDetail(Proposal& proposal)
+    : DataForm(proposal, formName, "Payment Detail"), links(*this, proposal) {
+    links.lblPayment.click = nullptr;  // one is here already
+    wireFeeRows();
+    wireSingleFees();
+    wirePayment();
+    cmdSave.click = [this] { SaveData(); };
+    cmdSaveALL.click = [this] { this->proposal.commands.saveProposal(); };
+    cmdPrint.click = [this] { cmdPrint_Click(); };
+    cmdClose.click = [this] { closeAllForms(this->proposal); };
+    procedure("SaveData", [this] { SaveData(); });
+    procedure("validate", [this] { validate(); });
+    procedure("calcTotal", [this] { calcTotal(); });
+}
+
+void frmPayDetail::wireFeeRows() {
+    for (const FeeRow& row : feeRows) {
+        TextBox& area = this->*row.area;
+        TextBox& rate = this->*row.rate;
+        TextBox& amount = this->*row.amount;
+        for (TextBox* box : {&area, &rate, &amount})
+            box->keyPress = keyFilterDecimal;
+        area.change = [&] { checkRateBox(area, rate, amount, true); };
+        rate.change = [&] { checkRateBox(rate, area, amount, true); };
+        amount.change = [this, &amount] {
+            calcTotal();
+            formatMoney(amount);
+        };
+        area.lostFocus = [&] { formatMoney(area); };
+        rate.lostFocus = [&] { formatMoney(rate); };
+    }
+    // This one rate multiplies only when it is left.
+    txtRate.change = nullptr;
+    txtRate.lostFocus = [this] { txtRate_LostFocus(); };
+    txtTotal.lostFocus = [this] { formatMoney(txtTotal); };
+}
+
+void frmPayDetail::wireSingleFees() {
+    for (TextBox* box : {&txtCompoundFees, &txtOther}) {
+        box->keyPress = keyFilterDecimal;
+        box->change = [this, box] {
+            checkRateBox(*box, *box, *box, false);
+            calcTotal();
+        };
+        box->lostFocus = [box] { formatMoney(*box); };
+    }
+}
+
+void frmPayDetail::wirePayment() {
+    OptCash.click = [this] { frmChequeDetail.setVisible(false); };
+    const auto askDetails = [this](std::string_view nameOfNumber) {
+        frmChequeDetail.setVisible(true);
+        lblName.setCaption(nameOfNumber);
+    };
+    OptCheque.click = [askDetails] { askDetails("Pay Order No."); };
+    OptDraft.click = [askDetails] { askDetails("Draft No."); };
+}
+
+void frmPayDetail::load() {
+    OptCash.setValue(true);
+    setAllDatesToToday(*this);
+    cmdNext.setEnabled(false);
+    cmdPrevious.setEnabled(false);
+    setFormColors(*this, proposal);
+    showPaymentColors();
+}
+
+void frmPayDetail::showPaymentColors() {
+    links.lblAnnextureA.setForeColor(blue);
+    links.lblAnnexureB.setForeColor(blue);
+    links.lblPayment.setForeColor(red);
+    txtArea.setText(std::to_string(proposal.feeArea));
+}
+
+void frmPayDetail::txtRate_LostFocus() {
+    formatMoney(txtRate);
+    checkRateBox(txtRate, txtArea, txtTotal, true);
+}
+
+void frmPayDetail::calcTotal() {
+    txtGrandTotal.setText(sumText(*this, 0, firstSum));
+    txtGrandTotal.setText(sumText(*this, leadingNumber(txtGrandTotal.text()), secondSum));
+    formatMoney(txtGrandTotal);
+}
+
+bool frmPayDetail::refuseSpecialCharacter(TextBox& box, std::string_view boxTitle) {
+    const bool refused = chkString(box.text(), "amp") == -1;
+    if (refused) {
+        screen().message(noSpecialCharacter, boxTitle);
+        box.setFocus();
+    }
+    return refused;
+}
+
+bool frmPayDetail::refuseEmpty(TextBox& box, std::string_view text) {
+    const bool refused = box.text().empty();
+    if (refused) {
+        screen().message(text, "");
+        box.setFocus();
+    }
+    return refused;
+}
+
+bool frmPayDetail::validate() {
+    if (refuseSpecialCharacter(txtRate, "Payment Details")) {
+        txtRate.setText("");
+        return false;
+    }
+    if (OptCash.value())
+        return true;
+    if (refuseSpecialCharacter(txtChqDraftNo, "Payment Details")) {
+        txtChqDraftNo.setText("");
+        return false;
+    }
+    return !refuseEmpty(txtChqDraftNo, OptCheque.value() ? "Enter Cheque No" : "Enter Draft No") &&
+           !refuseSpecialCharacter(txtBankNm, "Proposal Details") && !refuseEmpty(txtBankNm, "Enter Bank Name") &&
+           !refuseSpecialCharacter(txtBranchNm, "Proposal Details") && !refuseEmpty(txtBranchNm, "Enter Branch Name");
+}
+
+void frmPayDetail::SaveData() {
+    fillEmptyBoxes();
+    if (!validate())
+        return;
+    saveFirstList();
+    saveSecondList();
+}
+
+void frmPayDetail::fillEmptyBoxes() {
+    // The bank and number boxes too: a pay order without a bank name is saved with bank "0.00".
+    forEach<TextBox>([](TextBox& box) {
+        if (trim(box.text()).empty())
+            box.setText("0.00");
+    });
+}
+
+void frmPayDetail::saveFirstList() {
+    std::vector<std::string> pieces;
+    for (const FeeRow& row : firstListRows)
+        for (const Box box : {row.area, row.rate, row.amount})
+            pieces.push_back((this->*box).text());
+    for (const TextBox* box : {&txtCompoundFees, &txtOther, &txtGrandTotal})
+        pieces.push_back(box->text());
+    // A draft has no mode, not even an empty one: the pieces behind it slide one place forward.
+    if (!OptDraft.value())
+        pieces.emplace_back(OptCash.value() ? "CASH" : "PAYORDER");
+    pieces.push_back(DTPicker1.date().text());
+    for (const TextBox* box : {&txtChqDraftNo, &txtBankNm, &txtBranchNm})
+        pieces.emplace_back(trim(box->text()));
+    proposal.forms.get<frmAnnexureA>().txtPayDetail.setText(join(pieces, separator));
+}
+
+void frmPayDetail::saveSecondList() {
+    // Never emptied: the document reads its first nine values, those of the first save.
+    for (const FeeRow& row : secondListRows)
+        for (const Box box : {row.area, row.rate, row.amount})
+            proposal.secondScrutinyFees.append(separator).append((this->*box).text());
+}
+
+void frmPayDetail::cmdPrint_Click() {
+    proposal.commands.open("rptPaymentDetails");
+    proposal.noReportReturn = true;
+}
+
+void showPayment(Proposal& proposal) {
+    auto& form = proposal.forms.get<frmPayDetail>();
+    form.showPaymentColors();
+    form.show();
+}
+
+}  // namespace plandesk
