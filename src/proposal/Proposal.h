@@ -61,6 +61,8 @@ public:
     std::string mandatoryDocList;    ///< checklist string of frmDocCheckList
     std::string conditionalDocList;  ///< checklist string of frmDocCheckList1
 
+    std::string proposalText;  ///< the document as last joined
+
     /// Procedures without arguments that are reachable by name.
     std::map<std::string, std::function<void()>, IgnoringCase> procedures;
 

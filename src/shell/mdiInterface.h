@@ -9,6 +9,7 @@
 
 #include "controls/Colour.h"
 #include "controls/Form.h"
+#include "document/ReadXML.h"
 #include "proposal/Proposal.h"
 
 namespace plandesk {
@@ -61,7 +62,12 @@ private:
     void mnuExit_Click();
     void mnuAnnexure_Click();
     void refreshMenus();
+    /// True, with a message, while no proposal is begun.
     bool requireParticulars();
+    void createAllTables();
+    /// The steps of opening a file, from the unload to the first page; a cancelled dialog leaves the forms unloaded.
+    void openFile();
+    void readStep(const ReadXML::Step& step);
     void declareForms();
     void fillCommands();
     void openForm(std::string_view name);
@@ -69,6 +75,7 @@ private:
     void setAvailable(std::string_view entry, bool on);
 
     Proposal& proposal;
+    ReadXML reader{proposal};
     Colour back;
     bool timer2Running = false;
     std::set<std::string, IgnoringCase> closed;  ///< entries that are not available now

@@ -1,0 +1,181 @@
+#include "document/ProposalDocument.h"
+
+#include <array>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "document/Answers.h"
+#include "document/Element.h"
+#include "particulars/frmAnnexureA.h"
+#include "proposal/Proposal.h"
+#include "proposal/ReferenceLists.h"
+#include "proposal/mdlProject.h"
+
+namespace plandesk {
+
+namespace {
+
+enum class Escape { No, Yes };
+
+/// One element of Sections I to III. Its value is what `special` makes of the form, else the trimmed answers of the
+/// controls joined by "#".
+struct Row {
+    std::string_view element;
+    Escape escape;
+    std::string_view controls;
+    std::string (*special)(const frmAnnexureA& form) = nullptr;
+};
+
+std::string digit(const YesNo& question)
+{
+    return std::to_string(question.code());
+}
+
+/// The digits of questions that a parent question opens: "2" for each unless the parent was answered Yes.
+std::string opened(const YesNo& parent, std::initializer_list<const YesNo*> questions)
+{
+    std::string digits = digit(parent);
+    for (const YesNo* question : questions)
+        digits += parent.yes.value() ? "#" + digit(*question) : "#2";
+    return digits;
+}
+
+std::string sector(const frmAnnexureA& form)
+{
+    const int chosen = form.cboSector.listIndex();
+    return chosen < 0 ? "" : std::to_string(form.cboSector.itemData(chosen));
+}
+
+std::string professional(const frmAnnexureA& form)
+{
+    const std::string code = form.OptArch.value() ? "ARCH" : form.OptLE.value() ? "LE" : "SE";
+    return code + "#" + std::string(trim(form.txtArchNm.text())) + "#" + form.txtArchFirstName.text() + "#" +
+           form.txtArchMiddName.text() + "#" + std::string(trim(form.txtRegNm.text()));
+}
+
+std::string areas(const frmAnnexureA& form)
+{
+    return answers(form, form.Opt2.yes.value() ? "txtPltArea txtActualArea txtAreaAllowed" : "txtPltArea txtActualArea");
+}
+
+std::string industry(const frmAnnexureA& form)
+{
+    if (!form.Opt9.yes.value())
+        return digit(form.Opt9) + "#2#2#2#2#2#2#2#2";
+    return "1#" + digit(form.Opt10) + "#" + digit(form.Opt11) + "#" + opened(form.Opt12, {&form.Opt13}) + "#" +
+           digit(form.Opt14) + "#" + opened(form.Opt15, {&form.Opt16, &form.Opt17});
+}
+
+constexpr std::array sectionOne = std::to_array<Row>({
+    {"TITLE", Escape::Yes, "txtTitle"},
+    {"CASETYPE", Escape::No, "", [](const frmAnnexureA& form) { return caseTypeCode(form.cboCaseType.text()); }},
+    {"PROPOSALTYPE", Escape::No, "", [](const frmAnnexureA& form) { return form.cboProposalTyp.text(); }},
+    {"PROPOSEDPROJECT", Escape::No, "", [](const frmAnnexureA& form) { return projectCode(form.cboProposProj.text()); }},
+    {"PROPOSALDATE", Escape::No, "DTPicker1"},
+    {"SECTOR", Escape::No, "", sector},
+    {"PLOTNO", Escape::Yes, "txtpltno"},
+    {"FPNO", Escape::Yes, "txtFPNo"},
+    {"HISSANO", Escape::Yes, "txtHissaNo"},
+    {"CTSNO", Escape::Yes, "txtCTSNo"},
+    {"TIKANO", Escape::No, ""},  // always empty: the proposed F.A.R goes to TOTALFSI
+    {"GUTNO", Escape::Yes, "txtGutNo"},
+    {"APPLICANTNM", Escape::Yes, "txtApplicantNm"},
+    {"APPLICANTADDR", Escape::Yes, "txtApplicantAddr"},
+    {"ARCHINFO", Escape::Yes, "", professional},
+    {"THREE-RAD", Escape::No, "Opt1 Opt2"},
+    {"THREE-TEXT", Escape::No, "", areas},
+    {"REMARK1", Escape::Yes, "txtRmk1"},
+    {"FILENO", Escape::Yes, "txtFileNo"},
+    {"REVNO", Escape::Yes, "txtRevNo"},
+    {"ReservationType", Escape::Yes, "txtReservationType"},
+    {"TOTALFSI", Escape::No, "", [](const frmAnnexureA& form) { return numberText(leadingNumber(form.txtTikaNo.text())); }},
+});
+
+constexpr std::array sectionTwo = std::to_array<Row>({
+    {"FOUR-RAD", Escape::Yes, "Opt3"},
+    {"FIVE-RAD", Escape::Yes, "Opt4"},
+    {"FIVE-TEXT", Escape::Yes, "txtSanctionNo DTPicker2"},
+    {"SIX-A", Escape::Yes, "", [](const frmAnnexureA& form) { return GetZoneNm(form.cboZone.text()); }},
+    {"SEVEN-RAD", Escape::Yes, "", [](const frmAnnexureA& form) { return opened(form.Opt5, {&form.Opt6, &form.Opt7, &form.Opt8}); }},
+    {"EIGHT-RAD", Escape::Yes, "", industry},
+    {"EIGHT-TEXT", Escape::Yes,
+     "txtMainProcess txtWorkmen txtHPEmp txtInstClass txtReferalLaw txtInstNm txtInstAddr txtWaste"},
+    {"NINE-TEXT", Escape::Yes, "txtAverage txtPescribWidth txtBuildingHgt txtAbvCentStreet"},
+    {"TEN-TEXT", Escape::Yes, "txtNoTeneExist txtTenePropose"},
+    {"REMARK2", Escape::Yes, "txtRmk2"},
+});
+
+constexpr std::array sectionThree = std::to_array<Row>({
+    {"ELEVEN-RAD", Escape::No, "Opt18"},
+    {"ELEVEN-TEXT", Escape::Yes, "txtPlinthArea txtFloorArea txtDevRights txtTotTene"},
+    {"REMARK3", Escape::Yes, "txtRmk3"},
+});
+
+// Sections IV and V and the fees come packed in carriers; their elements take the packed values in this order.
+constexpr std::array<std::string_view, 9> sectionFour = {
+    "ONETHREE-RAD", "ONETHREE-TEXT", "ONEFOUR-RAD", "ONESIX-RAD", "ONESIX-TEXT", "ONESEVEN-RAD", "ONESEVEN-TEXT", "ONEEIGHT-RAD", "REMARK4"};
+
+constexpr std::array<std::string_view, 18> sectionFive = {
+    "TWOZERO", "TWOONE-RAD", "TWOONE-TEXT", "TWOTHREE-RAD", "TWOTHREE-TEXT", "TWOFOUR-RAD", "TWOFOUR-TEXT", "TWOFIVE-RAD", "TWOSIX-TEXT", "TWOEIGHT-TEXT", "TWONINE-RAD", "TWONINE-TEXT", "THREEZERO-TEXT", "THREEONE-TEXT", "THREETWO-TEXT", "THREETHREE-TEXT", "THREEFOUR-TEXT", "REMARK5"};
+
+constexpr std::array<std::string_view, 26> feesFirst = {
+    "AREADEVRESI", "RATEDEVRESI", "AMTDEVRESI", "AREADEVCOM", "RATEDEVCOM", "AMTDEVCOM", "AREADEVIND", "RATEDEVIND", "AMTDEVIND", "AREASCRUTINYRESI", "RATESCRUTINYRESI", "AMTSCRUTINYRESI", "AREASCRUTINYCOM", "RATESCRUTINYCOM", "AMTSCRUTINYCOM", "AREASCRUTINYIND", "RATESCRUTINYIND", "AMTSCRUTINYIND", "COMPUNDFEES", "OTHER", "TOTALAMOUNT", "PAYMODE", "PAYDATE", "DRAFTCHQNO", "BANKNAME", "BRANCHNM"};
+
+constexpr std::array<std::string_view, 9> feesSecond = {
+    "AREA-SCRUT-RESI-2", "RATE-SCRUT-RESI-2", "AMOUNT-SCRUT-RESI-2", "AREA-SCRUT-COMM-2", "RATE-SCRUT-COMM-2", "AMOUNT-SCRUT-COMM-2", "AREA-SCRUT-IND-2", "RATE-SCRUT-IND-2", "AMOUNT-SCRUT-IND-2"};
+
+void appendSection(std::string& xml, const frmAnnexureA& form, std::span<const Row> rows)
+{
+    for (const Row& row : rows) {
+        const std::string value = row.special ? row.special(form) : answers(form, row.controls);
+        appendElement(xml, row.element, row.escape == Escape::Yes ? EscapeXML(value) : value);
+    }
+}
+
+/// One element for each name, with the packed values from `start` on; a value that is not there gives an empty element.
+void appendPacked(std::string& xml, std::span<const std::string_view> elements, std::string_view packed,
+                  std::size_t start = 0)
+{
+    const std::vector<std::string> values = split(packed, "$$");
+    for (std::size_t i = 0; i < elements.size(); ++i)
+        appendElement(xml, elements[i], start + i < values.size() ? values[start + i] : "");
+}
+
+}  // namespace
+
+std::string joinDocument(Proposal& proposal)
+{
+    const auto& form = proposal.forms.get<frmAnnexureA>();
+    std::string xml;
+    xml.reserve(64 * 1024 + proposal.extractOwnerXML.size() + proposal.prcOwnerXML.size() + proposal.ULCScrutinyXML.size());
+    xml += "<?xml version = '1.0' ?><INWARDINFO DEPARTMENT='BP'><SECTION-I>";
+    appendSection(xml, form, sectionOne);
+    xml += "</SECTION-I><SECTION-II>";
+    appendSection(xml, form, sectionTwo);
+    xml += "</SECTION-II><SECTION-III>";
+    appendSection(xml, form, sectionThree);
+    xml += "</SECTION-III><SECTION-IV>";
+    appendPacked(xml, sectionFour, EscapeXML(form.txtSectFourVal.text()));
+    xml += "</SECTION-IV><SECTION-V>";
+    appendPacked(xml, sectionFive, EscapeXML(form.txtSecFiveVal.text()));
+    xml += "</SECTION-V>";
+    appendElement(xml, "DOCCHKLIST", EscapeXML(form.txtDocChkList.text()));
+    xml += "<PAYMENTDETAIL>";
+    appendPacked(xml, feesFirst, EscapeXML(form.txtPayDetail.text()));
+    appendPacked(xml, feesSecond, proposal.secondScrutinyFees, 1);  // each value stands behind a "$$": the first piece is empty
+    xml += "</PAYMENTDETAIL>";
+    xml += proposal.annexureBXML;
+    xml.append("<NTS>").append(proposal.extractOwnerXML).append(proposal.prcOwnerXML);
+    xml.append(proposal.naOrderXML).append(proposal.ULCScrutinyXML).append("</NTS>");
+    appendElement(xml, "PLOT-REL", proposal.plotRelXML);
+    appendElement(xml, "PLOT-PRCDETAILS", proposal.plotPrcDetailsXML);
+    xml.append(proposal.discretionRevisedXML).append(proposal.discretionNewXML);
+    xml.append(proposal.drcIssueXML).append(proposal.drcTransferXML).append(proposal.drcUtilisationXML);
+    xml += "</INWARDINFO>";
+    return xml;
+}
+
+}  // namespace plandesk

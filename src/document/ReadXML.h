@@ -1,0 +1,72 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "document/XmlDocument.h"
+
+namespace plandesk {
+
+class Form;
+class OptionButton;
+class Proposal;
+
+/// Turns a proposal document back into filled forms. Sections are read by position, never by element name, and setting a
+/// control runs its reactions, so the order of the tables decides what survives. Nothing is validated: each statement
+/// that fails shows its own box, and reading goes on.
+class ReadXML {
+public:
+    explicit ReadXML(Proposal& proposal) : proposal(proposal) {}
+
+    /// A procedure of the opening that runs after readSections. A failure leaves it at once and comes to its caller.
+    struct Step {
+        std::string_view name;
+        void (ReadXML::*read)();
+    };
+    /// In the order of the opening.
+    static const std::array<Step, 6> steps;
+
+    /// Loads the file into `proposalDom`, which lives until the next load. A file that cannot be loaded shows nothing
+    /// here and leaves a document without a root.
+    void LoadDocument(const std::string& path);
+
+    /// Reads the sections, checklists and fees by position and ANNEXUREB by name. One critical box for each failing
+    /// statement: the error's number, " : " and its description.
+    void readSections();
+
+    // The land records, orders and discretion rows. Without a root: RuntimeError 91.
+    void readPlotRelations();
+    void readExtracts712();
+    void readExtractsPRC();
+    void readNAOrder();
+    void readULCScrutiny();
+    void readDiscretion();
+
+private:
+    using Fields = std::vector<std::string>;
+
+    void statement(const std::function<void()>& body);
+    void flatten();
+    const std::string& group(std::size_t number) const;
+    void readSection(std::size_t number);
+    void readChecklists();
+    void readChecklist(std::string_view form, int first, int last, const Fields& entries);
+    void readFees();
+    void readAnnexureB();
+    void readNamed(XmlDocument::Node element);
+    void readStreetsAndTrees(std::string_view text);
+    void requireRoot() const;
+
+    Proposal& proposal;
+    XmlDocument proposalDom;
+    Fields groups;
+    int optionNumber = 0;  ///< number of the option element read last
+};
+
+/// For a member of an option array: index 1 becomes (number = 1), index 0 becomes (number = 0).
+void setOptionFromText(OptionButton& option, int number);
+
+}  // namespace plandesk

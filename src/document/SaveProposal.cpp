@@ -1,0 +1,99 @@
+#include "document/SaveProposal.h"
+
+#include <array>
+#include <string_view>
+
+#include "base/CodePage.h"
+#include "document/ProposalDocument.h"
+#include "particulars/frmAnnexureA.h"
+#include "proposal/Proposal.h"
+
+namespace plandesk {
+
+namespace {
+
+/// One step of the save: a form's own save, or `action`. When `needed` is empty afterwards, the save stops.
+struct Step {
+    std::string_view form;
+    std::string_view procedure;
+    void (*action)(Proposal& proposal) = nullptr;
+    std::string Proposal::* needed = nullptr;
+};
+
+constexpr std::array steps = std::to_array<Step>({
+    {"frmPayDetail", "cmdSave_Click"},
+    {"frmDocCheckList1", "cmdSave_Click", nullptr, &Proposal::conditionalDocList},
+    {"frmDocCheckList", "cmdSave_Click", nullptr, &Proposal::mandatoryDocList},
+    {"AnnexureACont", "cmdSave_Click"},
+    {"", "", [](Proposal& proposal) { proposal.commands.buildAnnexureB(); }},
+    {"frmNaOrder", "SaveNaOrder"},
+    {"frmPlotExtractRelation", "Save712ExtractRaltionShip"},
+    {"", "", [](Proposal& proposal) { proposal.isSavingLandRecord = true; }},
+    {"frmMain712", "cmdSave_Click"},
+    {"", "", [](Proposal& proposal) { proposal.isSavingLandRecord = false; }},
+    {"frmPRCEXT", "cmdSave_Click"},
+    {"frmScrutinyULC", "cmdSave_Click"},
+    {"frmDiscretionrevisedCase", "cmdSave_Click"},
+    {"frmDiscretionNewCase", "cmdSave_Click"},
+    {"frmAnnexureA", "cmdSave_Click"},
+});
+
+struct Guard {
+    const std::string& (*carrier)(const Proposal& proposal, const frmAnnexureA& form);
+    std::string_view message;
+};
+
+constexpr std::array guards = std::to_array<Guard>({
+    {[](const Proposal& proposal, const frmAnnexureA&) -> const std::string& { return proposal.annexureBXML; },
+     "Fill Information regarding AnnexureB"},
+    {[](const Proposal&, const frmAnnexureA& form) -> const std::string& { return form.txtSectFourVal.text(); },
+     "Fill Information regarding section IVs-V"},
+    {[](const Proposal&, const frmAnnexureA& form) -> const std::string& { return form.txtDocChkList.text(); },
+     "Check the document checkList"},
+    {[](const Proposal&, const frmAnnexureA& form) -> const std::string& { return form.txtPayDetail.text(); },
+     "Fill the Payment Detail Information"},
+});
+
+}  // namespace
+
+void saveProposal(Proposal& proposal)
+{
+    for (const Step& step : steps) {
+        if (step.action)
+            step.action(proposal);
+        else if (Form* form = proposal.forms.touch(step.form))
+            form->run(step.procedure);
+        if (step.needed && (proposal.*step.needed).empty())
+            return;
+    }
+}
+
+void SaveData(Proposal& proposal)
+{
+    auto& form = proposal.forms.get<frmAnnexureA>();
+    for (const Guard& guard : guards) {
+        if (guard.carrier(proposal, form).empty()) {
+            proposal.screen.message(guard.message, "Data Require");
+            return;
+        }
+    }
+    if (!form.validate())
+        return;
+    proposal.proposalText = joinDocument(proposal);
+    if (!proposal.isProposalOpen)
+        form.txtPathNm.setText(
+            proposal.screen.ports.dialogs.saveFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", ""}));
+    CreateXMLFIle(proposal);
+}
+
+void CreateXMLFIle(Proposal& proposal)
+{
+    const std::string path = proposal.forms.get<frmAnnexureA>().txtPathNm.text();
+    if (path.empty())
+        return;
+    proposal.screen.ports.files.writeWhole(path, toCodePage(proposal.proposalText + "\r\n", systemCodePage()));
+    proposal.screen.message("Proposal has been created [ " + path + " ]. ", "Proposal Information Path ");
+    proposal.isProposalOpen = true;
+}
+
+}  // namespace plandesk

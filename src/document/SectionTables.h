@@ -1,0 +1,44 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace plandesk {
+
+class Form;
+
+/// How one value of a section becomes a control's value.
+enum class Decode {
+    Plain,        ///< text of a box; a date picker takes the text as a date
+    YesNo,        ///< 1 Yes, 0 No, 2 neither; any other number leaves the question as it is
+    YesNoStrict,  ///< 1 Yes, 0 No; any other number neither
+    Special,      ///< what `special` does
+};
+
+/// One statement of the reader: a field of the section, or one "#" part of it, goes to one control.
+struct FieldRow {
+    static constexpr int whole = -1;
+
+    int field;                 ///< place of the element in its section, from 0
+    std::string_view element;  ///< what the writer puts there; never looked at
+    int part;                  ///< place in the "#" list of the field, or `whole`
+    std::string_view control;
+    Decode decode = Decode::Plain;
+    void (*special)(Form& form, const std::string& text) = nullptr;
+    /// The row is read only when this part of another field of the section is numerically 1.
+    struct Condition {
+        int field = -1;
+        int part = 0;
+    } onlyIf{};
+};
+
+struct SectionTable {
+    std::string_view form;
+    std::span<const FieldRow> rows;
+};
+
+/// Sections I to V, in the order of their groups.
+std::span<const SectionTable> sectionTables();
+
+}  // namespace plandesk
