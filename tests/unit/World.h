@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "TestPorts.h"
+#include "controls/Controls.h"
+#include "proposal/Proposal.h"
+#include "shell/mdiInterface.h"
+
+namespace plandesk::test {
+
+/// The whole system, started, on a machine in memory.
+struct World {
+    World()
+    {
+        ports.files.contents["/program/VILLAGENAMES.txt"] = "Tervale#1#TRV\nBalundi#2#BLN\nKhandri#11#KND\n";
+    }
+
+    TestPorts ports;
+    Proposal proposal{ports};
+    mdiInterface shell{proposal};
+
+    /// The control of that name; a name that the form does not have fails the test at once.
+    template <class Kind>
+    Kind& control(std::string_view form, std::string_view key)
+    {
+        return dynamic_cast<Kind&>(*proposal.forms.touch(form)->findKey(key));
+    }
+    TextBox& box(std::string_view form, std::string_view key) { return control<TextBox>(form, key); }
+    OptionButton& option(std::string_view form, std::string_view key) { return control<OptionButton>(form, key); }
+    ComboBox& list(std::string_view form, std::string_view key) { return control<ComboBox>(form, key); }
+
+    /// Answers on the first page that its fifteen tests accept.
+    void fillFirstPage()
+    {
+        for (const std::string_view name :
+             {"txtTitle", "txtpltno", "txtFPNo", "txtTikaNo", "txtApplicantNm", "txtApplicantAddr", "txtArchNm",
+              "txtArchFirstName", "txtRegNm", "txtPltArea", "txtActualArea"})
+            box("frmAnnexureA", name).setText("1");
+        for (const std::string_view name : {"cboCaseType", "cboProposalTyp", "cboProposProj", "cboSector"})
+            list("frmAnnexureA", name).setListIndex(0);
+    }
+
+    /// New, the first page filled in, and saved to `path`; its boxes are taken.
+    void saveNewProposal(const std::string& path)
+    {
+        shell.press("mnuNew");
+        fillFirstPage();
+        ports.dialogs.answers.push_back(path);
+        shell.press("mnuSave");
+        ports.dialogs.take();
+    }
+};
+
+}  // namespace plandesk::test
