@@ -252,6 +252,7 @@ void ReadXML::readFees()
 
 void ReadXML::readAnnexureB()
 {
+    optionNumber = 0;
     if (proposalDom.root() == XmlDocument::none)
         return;
     for (auto child = proposalDom.firstChild(proposalDom.root()); child != XmlDocument::none;

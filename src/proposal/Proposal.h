@@ -12,6 +12,7 @@
 #include "controls/Screen.h"
 #include "proposal/Commands.h"
 #include "proposal/Forms.h"
+#include "proposal/Tables.h"
 
 namespace plandesk {
 
@@ -25,6 +26,7 @@ public:
 
     Screen screen;
     Commands commands;
+    Tables tables;
 
     bool isNewProposal = false;    ///< a new proposal is being filled in
     bool isProposalOpen = false;   ///< the proposal has a file

@@ -159,7 +159,7 @@ void mdiInterface::fillCommands()
     named["uloadAllForms"] = [this] { uloadAllForms(proposal); };
     named["requireParticulars"] = [this] { requireParticulars(); };
     named["closeAllForms"] = [this] { closeAllForms(proposal); };
-    named["createAllTables"] = [this] { createAllTables(); };
+    named["createAllTables"] = [this] { proposal.tables.createAllTables(); };
     named["readSections"] = [this] { reader.readSections(); };
     for (const ReadXML::Step& step : ReadXML::steps)
         named[std::string(step.name)] = [this, &step] { (reader.*step.read)(); };
@@ -183,15 +183,11 @@ void mdiInterface::loadRoutine()
     back = windowBack;
     proposal.activeButtonColor = white;
     proposal.formBackColor = fromBlueGreenRed(0xF2F8FF);
-    createAllTables();
+    proposal.tables.createAllTables();
     proposal.forms.unload("frmAnnexureA");
     setAvailable("mnuSave", false);
     setAvailable("mnuSaveAs", false);
     refreshMenus();
-}
-
-void mdiInterface::createAllTables()
-{
 }
 
 bool mdiInterface::available(std::string_view entry) const
@@ -301,7 +297,9 @@ void mdiInterface::openFile()
         proposal.screen.ports.dialogs.openFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", "*.xml"});
     if (const std::string_view name = trim(path); name.empty() || equalsIgnoringCase(name, "*.xml"))
         return;
-    createAllTables();
+    proposal.tables.createAllTables();
+    proposal.tables.create(&Tables::rsOwnership712);
+    proposal.tables.create(&Tables::rsOwnership);
     reader.LoadDocument(path);
     reader.readSections();
     for (const ReadXML::Step& step : ReadXML::steps)

@@ -64,7 +64,6 @@ private:
     void refreshMenus();
     /// True, with a message, while no proposal is begun.
     bool requireParticulars();
-    void createAllTables();
     /// The steps of opening a file, from the unload to the first page; a cancelled dialog leaves the forms unloaded.
     void openFile();
     void readStep(const ReadXML::Step& step);
