@@ -71,9 +71,9 @@ std::string industry(const frmAnnexureA& form)
 
 constexpr std::array sectionOne = std::to_array<Row>({
     {"TITLE", Escape::Yes, "txtTitle"},
-    {"CASETYPE", Escape::No, "", [](const frmAnnexureA& form) { return caseTypeCode(form.cboCaseType.text()); }},
+    {"CASETYPE", Escape::No, "", [](const frmAnnexureA& form) { return std::string(caseTypeCode(form.cboCaseType.text())); }},
     {"PROPOSALTYPE", Escape::No, "", [](const frmAnnexureA& form) { return form.cboProposalTyp.text(); }},
-    {"PROPOSEDPROJECT", Escape::No, "", [](const frmAnnexureA& form) { return projectCode(form.cboProposProj.text()); }},
+    {"PROPOSEDPROJECT", Escape::No, "", [](const frmAnnexureA& form) { return std::string(projectCode(form.cboProposProj.text())); }},
     {"PROPOSALDATE", Escape::No, "DTPicker1"},
     {"SECTOR", Escape::No, "", sector},
     {"PLOTNO", Escape::Yes, "txtpltno"},
@@ -98,7 +98,7 @@ constexpr std::array sectionTwo = std::to_array<Row>({
     {"FOUR-RAD", Escape::Yes, "Opt3"},
     {"FIVE-RAD", Escape::Yes, "Opt4"},
     {"FIVE-TEXT", Escape::Yes, "txtSanctionNo DTPicker2"},
-    {"SIX-A", Escape::Yes, "", [](const frmAnnexureA& form) { return GetZoneNm(form.cboZone.text()); }},
+    {"SIX-A", Escape::Yes, "", [](const frmAnnexureA& form) { return std::string(GetZoneNm(form.cboZone.text())); }},
     {"SEVEN-RAD", Escape::Yes, "", [](const frmAnnexureA& form) { return opened(form.Opt5, {&form.Opt6, &form.Opt7, &form.Opt8}); }},
     {"EIGHT-RAD", Escape::Yes, "", industry},
     {"EIGHT-TEXT", Escape::Yes,
