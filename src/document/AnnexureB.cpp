@@ -23,7 +23,8 @@ struct Row {
     ValueForm form;
 };
 
-// Text is written as typed, so "&" or "<" in it makes the file ill-formed: which elements are escaped is the block's own.
+// Text is written as typed, so "&" or "<" in it makes the file ill-formed: which elements are escaped is the block's
+// own.
 constexpr std::array<Row, 56> rows = {{
     {"IsAffectRoadReservation", Sheet::First, ValueForm::YesNo},
     {"IsAnyDeductOfRoadLine", Sheet::First, ValueForm::YesNo},
@@ -83,8 +84,7 @@ constexpr std::array<Row, 56> rows = {{
     {"SectionRemark4", Sheet::Second, ValueForm::Text},
 }};
 
-std::string value(const Form& form, const Row& row)
-{
+std::string value(const Form& form, const Row& row) {
     if (row.form == ValueForm::YesNo)
         return answer(form, row.element);
     const std::string text = answer(form, "txt" + std::string(row.element));
@@ -93,16 +93,16 @@ std::string value(const Form& form, const Row& row)
 
 }  // namespace
 
-void buildAnnexureB(Proposal& proposal)
-{
+void buildAnnexureB(Proposal& proposal) {
     const Form& first = proposal.forms.get<frmAnnexureA>();
     const Form& second = proposal.forms.get<AnnexureACont>();
     std::string block = "<ANNEXUREB>";
     for (const Row& row : rows)
         appendElement(block, row.element, value(row.sheet == Sheet::First ? first : second, row));
-    appendElement(block, "Section9a3536", answer(first, "Opt77") + "#" + answer(first, "txtFstStreetWidth") + "#" +
-                                answer(first, "txtFstExistingWidth") + "#" + answer(second, "txtHowManyTrees") + "#" +
-                                answer(second, "txtNoOfTreesAffected"));
+    appendElement(block, "Section9a3536",
+                  answer(first, "Opt77") + "#" + answer(first, "txtFstStreetWidth") + "#" +
+                      answer(first, "txtFstExistingWidth") + "#" + answer(second, "txtHowManyTrees") + "#" +
+                      answer(second, "txtNoOfTreesAffected"));
     proposal.annexureBXML = block + "</ANNEXUREB>";
 }
 

@@ -8,8 +8,7 @@
 
 namespace plandesk {
 
-YesNoOptions findQuestion(const Form& form, std::string_view name)
-{
+YesNoOptions findQuestion(const Form& form, std::string_view name) {
     const auto option = [](Control* control) { return dynamic_cast<OptionButton*>(control); };
     if (YesNoOptions array{option(form.find(name, 1)), option(form.find(name, 0))}; array.yes && array.no)
         return array;
@@ -17,8 +16,7 @@ YesNoOptions findQuestion(const Form& form, std::string_view name)
     return {option(form.find(base + "Y")), option(form.find(base + "N"))};
 }
 
-std::string answer(const Form& form, std::string_view name)
-{
+std::string answer(const Form& form, std::string_view name) {
     const Control* control = form.find(name);
     if (const auto* box = dynamic_cast<const TextBox*>(control))
         return box->text();
@@ -32,8 +30,7 @@ std::string answer(const Form& form, std::string_view name)
     return std::to_string(yesNoCode(question.yes->value(), question.no->value()));
 }
 
-std::string answers(const Form& form, std::string_view names)
-{
+std::string answers(const Form& form, std::string_view names) {
     std::vector<std::string> values = split(names, " ");
     for (std::string& value : values)
         value = trim(answer(form, value));

@@ -5,8 +5,8 @@
 
 #include "controls/Controls.h"
 
-// The controls of a form by the names that the tables of the document use: a box, list or date picker by its own name, a
-// yes/no question by the name that its two options share ("Opt3" for Opt3Y and Opt3N, "IsPlotNarrow" for the array).
+// The controls of a form by the names that the tables of the document use: a box, list or date picker by its own name,
+// a yes/no question by the name that its two options share ("Opt3" for Opt3Y and Opt3N, "IsPlotNarrow" for the array).
 
 namespace plandesk {
 

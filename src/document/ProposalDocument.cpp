@@ -29,40 +29,35 @@ struct Row {
     std::string (*special)(const frmAnnexureA& form) = nullptr;
 };
 
-std::string digit(const YesNo& question)
-{
+std::string digit(const YesNo& question) {
     return std::to_string(question.code());
 }
 
 /// The digits of questions that a parent question opens: "2" for each unless the parent was answered Yes.
-std::string opened(const YesNo& parent, std::initializer_list<const YesNo*> questions)
-{
+std::string opened(const YesNo& parent, std::initializer_list<const YesNo*> questions) {
     std::string digits = digit(parent);
     for (const YesNo* question : questions)
         digits += parent.yes.value() ? "#" + digit(*question) : "#2";
     return digits;
 }
 
-std::string sector(const frmAnnexureA& form)
-{
+std::string sector(const frmAnnexureA& form) {
     const int chosen = form.cboSector.listIndex();
     return chosen < 0 ? "" : std::to_string(form.cboSector.itemData(chosen));
 }
 
-std::string professional(const frmAnnexureA& form)
-{
+std::string professional(const frmAnnexureA& form) {
     const std::string code = form.OptArch.value() ? "ARCH" : form.OptLE.value() ? "LE" : "SE";
     return code + "#" + std::string(trim(form.txtArchNm.text())) + "#" + form.txtArchFirstName.text() + "#" +
            form.txtArchMiddName.text() + "#" + std::string(trim(form.txtRegNm.text()));
 }
 
-std::string areas(const frmAnnexureA& form)
-{
-    return answers(form, form.Opt2.yes.value() ? "txtPltArea txtActualArea txtAreaAllowed" : "txtPltArea txtActualArea");
+std::string areas(const frmAnnexureA& form) {
+    return answers(form,
+                   form.Opt2.yes.value() ? "txtPltArea txtActualArea txtAreaAllowed" : "txtPltArea txtActualArea");
 }
 
-std::string industry(const frmAnnexureA& form)
-{
+std::string industry(const frmAnnexureA& form) {
     if (!form.Opt9.yes.value())
         return digit(form.Opt9) + "#2#2#2#2#2#2#2#2";
     return "1#" + digit(form.Opt10) + "#" + digit(form.Opt11) + "#" + opened(form.Opt12, {&form.Opt13}) + "#" +
@@ -71,9 +66,11 @@ std::string industry(const frmAnnexureA& form)
 
 constexpr std::array sectionOne = std::to_array<Row>({
     {"TITLE", Escape::Yes, "txtTitle"},
-    {"CASETYPE", Escape::No, "", [](const frmAnnexureA& form) { return std::string(caseTypeCode(form.cboCaseType.text())); }},
+    {"CASETYPE", Escape::No, "",
+     [](const frmAnnexureA& form) { return std::string(caseTypeCode(form.cboCaseType.text())); }},
     {"PROPOSALTYPE", Escape::No, "", [](const frmAnnexureA& form) { return form.cboProposalTyp.text(); }},
-    {"PROPOSEDPROJECT", Escape::No, "", [](const frmAnnexureA& form) { return std::string(projectCode(form.cboProposProj.text())); }},
+    {"PROPOSEDPROJECT", Escape::No, "",
+     [](const frmAnnexureA& form) { return std::string(projectCode(form.cboProposProj.text())); }},
     {"PROPOSALDATE", Escape::No, "DTPicker1"},
     {"SECTOR", Escape::No, "", sector},
     {"PLOTNO", Escape::Yes, "txtpltno"},
@@ -91,7 +88,8 @@ constexpr std::array sectionOne = std::to_array<Row>({
     {"FILENO", Escape::Yes, "txtFileNo"},
     {"REVNO", Escape::Yes, "txtRevNo"},
     {"ReservationType", Escape::Yes, "txtReservationType"},
-    {"TOTALFSI", Escape::No, "", [](const frmAnnexureA& form) { return numberText(leadingNumber(form.txtTikaNo.text())); }},
+    {"TOTALFSI", Escape::No, "",
+     [](const frmAnnexureA& form) { return numberText(leadingNumber(form.txtTikaNo.text())); }},
 });
 
 constexpr std::array sectionTwo = std::to_array<Row>({
@@ -99,7 +97,10 @@ constexpr std::array sectionTwo = std::to_array<Row>({
     {"FIVE-RAD", Escape::Yes, "Opt4"},
     {"FIVE-TEXT", Escape::Yes, "txtSanctionNo DTPicker2"},
     {"SIX-A", Escape::Yes, "", [](const frmAnnexureA& form) { return std::string(GetZoneNm(form.cboZone.text())); }},
-    {"SEVEN-RAD", Escape::Yes, "", [](const frmAnnexureA& form) { return opened(form.Opt5, {&form.Opt6, &form.Opt7, &form.Opt8}); }},
+    {"SEVEN-RAD", Escape::Yes, "",
+     [](const frmAnnexureA& form) {
+         return opened(form.Opt5, {&form.Opt6, &form.Opt7, &form.Opt8});
+     }},
     {"EIGHT-RAD", Escape::Yes, "", industry},
     {"EIGHT-TEXT", Escape::Yes,
      "txtMainProcess txtWorkmen txtHPEmp txtInstClass txtReferalLaw txtInstNm txtInstAddr txtWaste"},
@@ -115,20 +116,27 @@ constexpr std::array sectionThree = std::to_array<Row>({
 });
 
 // Sections IV and V and the fees come packed in carriers; their elements take the packed values in this order.
-constexpr std::array<std::string_view, 9> sectionFour = {
-    "ONETHREE-RAD", "ONETHREE-TEXT", "ONEFOUR-RAD", "ONESIX-RAD", "ONESIX-TEXT", "ONESEVEN-RAD", "ONESEVEN-TEXT", "ONEEIGHT-RAD", "REMARK4"};
+constexpr std::array<std::string_view, 9> sectionFour = {"ONETHREE-RAD",  "ONETHREE-TEXT", "ONEFOUR-RAD",
+                                                         "ONESIX-RAD",    "ONESIX-TEXT",   "ONESEVEN-RAD",
+                                                         "ONESEVEN-TEXT", "ONEEIGHT-RAD",  "REMARK4"};
 
 constexpr std::array<std::string_view, 18> sectionFive = {
-    "TWOZERO", "TWOONE-RAD", "TWOONE-TEXT", "TWOTHREE-RAD", "TWOTHREE-TEXT", "TWOFOUR-RAD", "TWOFOUR-TEXT", "TWOFIVE-RAD", "TWOSIX-TEXT", "TWOEIGHT-TEXT", "TWONINE-RAD", "TWONINE-TEXT", "THREEZERO-TEXT", "THREEONE-TEXT", "THREETWO-TEXT", "THREETHREE-TEXT", "THREEFOUR-TEXT", "REMARK5"};
+    "TWOZERO",        "TWOONE-RAD",    "TWOONE-TEXT",   "TWOTHREE-RAD",    "TWOTHREE-TEXT",  "TWOFOUR-RAD",
+    "TWOFOUR-TEXT",   "TWOFIVE-RAD",   "TWOSIX-TEXT",   "TWOEIGHT-TEXT",   "TWONINE-RAD",    "TWONINE-TEXT",
+    "THREEZERO-TEXT", "THREEONE-TEXT", "THREETWO-TEXT", "THREETHREE-TEXT", "THREEFOUR-TEXT", "REMARK5"};
 
 constexpr std::array<std::string_view, 26> feesFirst = {
-    "AREADEVRESI", "RATEDEVRESI", "AMTDEVRESI", "AREADEVCOM", "RATEDEVCOM", "AMTDEVCOM", "AREADEVIND", "RATEDEVIND", "AMTDEVIND", "AREASCRUTINYRESI", "RATESCRUTINYRESI", "AMTSCRUTINYRESI", "AREASCRUTINYCOM", "RATESCRUTINYCOM", "AMTSCRUTINYCOM", "AREASCRUTINYIND", "RATESCRUTINYIND", "AMTSCRUTINYIND", "COMPUNDFEES", "OTHER", "TOTALAMOUNT", "PAYMODE", "PAYDATE", "DRAFTCHQNO", "BANKNAME", "BRANCHNM"};
+    "AREADEVRESI",     "RATEDEVRESI",     "AMTDEVRESI",     "AREADEVCOM",       "RATEDEVCOM",       "AMTDEVCOM",
+    "AREADEVIND",      "RATEDEVIND",      "AMTDEVIND",      "AREASCRUTINYRESI", "RATESCRUTINYRESI", "AMTSCRUTINYRESI",
+    "AREASCRUTINYCOM", "RATESCRUTINYCOM", "AMTSCRUTINYCOM", "AREASCRUTINYIND",  "RATESCRUTINYIND",  "AMTSCRUTINYIND",
+    "COMPUNDFEES",     "OTHER",           "TOTALAMOUNT",    "PAYMODE",          "PAYDATE",          "DRAFTCHQNO",
+    "BANKNAME",        "BRANCHNM"};
 
-constexpr std::array<std::string_view, 9> feesSecond = {
-    "AREA-SCRUT-RESI-2", "RATE-SCRUT-RESI-2", "AMOUNT-SCRUT-RESI-2", "AREA-SCRUT-COMM-2", "RATE-SCRUT-COMM-2", "AMOUNT-SCRUT-COMM-2", "AREA-SCRUT-IND-2", "RATE-SCRUT-IND-2", "AMOUNT-SCRUT-IND-2"};
+constexpr std::array<std::string_view, 9> feesSecond = {"AREA-SCRUT-RESI-2", "RATE-SCRUT-RESI-2", "AMOUNT-SCRUT-RESI-2",
+                                                        "AREA-SCRUT-COMM-2", "RATE-SCRUT-COMM-2", "AMOUNT-SCRUT-COMM-2",
+                                                        "AREA-SCRUT-IND-2",  "RATE-SCRUT-IND-2",  "AMOUNT-SCRUT-IND-2"};
 
-void appendSection(std::string& xml, const frmAnnexureA& form, std::span<const Row> rows)
-{
+void appendSection(std::string& xml, const frmAnnexureA& form, std::span<const Row> rows) {
     for (const Row& row : rows) {
         const std::string value = row.special ? row.special(form) : answers(form, row.controls);
         appendElement(xml, row.element, row.escape == Escape::Yes ? EscapeXML(value) : value);
@@ -137,8 +145,7 @@ void appendSection(std::string& xml, const frmAnnexureA& form, std::span<const R
 
 /// One element for each name, with the packed values from `start` on; a value that is not there gives an empty element.
 void appendPacked(std::string& xml, std::span<const std::string_view> elements, std::string_view packed,
-                  std::size_t start = 0)
-{
+                  std::size_t start = 0) {
     const std::vector<std::string> values = split(packed, "$$");
     for (std::size_t i = 0; i < elements.size(); ++i)
         appendElement(xml, elements[i], start + i < values.size() ? values[start + i] : "");
@@ -146,11 +153,11 @@ void appendPacked(std::string& xml, std::span<const std::string_view> elements, 
 
 }  // namespace
 
-std::string joinDocument(Proposal& proposal)
-{
+std::string joinDocument(Proposal& proposal) {
     const auto& form = proposal.forms.get<frmAnnexureA>();
     std::string xml;
-    xml.reserve(64 * 1024 + proposal.extractOwnerXML.size() + proposal.prcOwnerXML.size() + proposal.ULCScrutinyXML.size());
+    xml.reserve(64 * 1024 + proposal.extractOwnerXML.size() + proposal.prcOwnerXML.size() +
+                proposal.ULCScrutinyXML.size());
     xml += "<?xml version = '1.0' ?><INWARDINFO DEPARTMENT='BP'><SECTION-I>";
     appendSection(xml, form, sectionOne);
     xml += "</SECTION-I><SECTION-II>";
@@ -165,7 +172,8 @@ std::string joinDocument(Proposal& proposal)
     appendElement(xml, "DOCCHKLIST", EscapeXML(form.txtDocChkList.text()));
     xml += "<PAYMENTDETAIL>";
     appendPacked(xml, feesFirst, EscapeXML(form.txtPayDetail.text()));
-    appendPacked(xml, feesSecond, proposal.secondScrutinyFees, 1);  // each value stands behind a "$$": the first piece is empty
+    appendPacked(xml, feesSecond, proposal.secondScrutinyFees,
+                 1);  // each value stands behind a "$$": the first piece is empty
     xml += "</PAYMENTDETAIL>";
     xml += proposal.annexureBXML;
     xml.append("<NTS>").append(proposal.extractOwnerXML).append(proposal.prcOwnerXML);

@@ -71,23 +71,20 @@ constexpr std::array secondScrutiny = std::to_array<FeeRow>({
     {34, "AMOUNT-SCRUT-IND-2", "txtScrutinyINDAmount2"},
 });
 
-const std::string& piece(const std::vector<std::string>& pieces, std::size_t number)
-{
+const std::string& piece(const std::vector<std::string>& pieces, std::size_t number) {
     if (number >= pieces.size())
         throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
     return pieces[number];
 }
 
-void answerQuestion(const YesNoOptions& question, double number, bool strict)
-{
+void answerQuestion(const YesNoOptions& question, double number, bool strict) {
     if (!strict && number != 0 && number != 1 && number != 2)
         return;
     question.yes->setValue(number == 1);
     question.no->setValue(number == 0);
 }
 
-void assign(Form& form, std::string_view name, const std::string& text)
-{
+void assign(Form& form, std::string_view name, const std::string& text) {
     Control* control = form.find(name);
     if (auto* box = dynamic_cast<TextBox*>(control))
         box->setText(text);
@@ -97,14 +94,12 @@ void assign(Form& form, std::string_view name, const std::string& text)
         throw RuntimeError(ErrorNumber::ObjectNotSet);
 }
 
-std::string valueOf(const FieldRow& row, const std::vector<std::string>& fields)
-{
+std::string valueOf(const FieldRow& row, const std::vector<std::string>& fields) {
     const std::string& field = piece(fields, static_cast<std::size_t>(row.field));
     return row.part == FieldRow::whole ? field : piece(split(field, "#"), static_cast<std::size_t>(row.part));
 }
 
-void readRow(const FieldRow& row, Form& form, const std::vector<std::string>& fields)
-{
+void readRow(const FieldRow& row, Form& form, const std::vector<std::string>& fields) {
     if (row.onlyIf.field >= 0) {
         const std::string& flags = piece(fields, static_cast<std::size_t>(row.onlyIf.field));
         if (toDouble(piece(split(flags, "#"), static_cast<std::size_t>(row.onlyIf.part))) != 1)
@@ -112,10 +107,14 @@ void readRow(const FieldRow& row, Form& form, const std::vector<std::string>& fi
     }
     const std::string value = valueOf(row, fields);
     switch (row.decode) {
-    case Decode::Plain: return assign(form, row.control, value);
-    case Decode::YesNo: return answerQuestion(findQuestion(form, row.control), toDouble(value), false);
-    case Decode::YesNoStrict: return answerQuestion(findQuestion(form, row.control), toDouble(value), true);
-    case Decode::Special: return row.special(form, value);
+    case Decode::Plain:
+        return assign(form, row.control, value);
+    case Decode::YesNo:
+        return answerQuestion(findQuestion(form, row.control), toDouble(value), false);
+    case Decode::YesNoStrict:
+        return answerQuestion(findQuestion(form, row.control), toDouble(value), true);
+    case Decode::Special:
+        return row.special(form, value);
     }
 }
 
@@ -130,13 +129,11 @@ const std::array<ReadXML::Step, 6> ReadXML::steps = {{
     {"readDiscretion", &ReadXML::readDiscretion},
 }};
 
-void ReadXML::LoadDocument(const std::string& path)
-{
+void ReadXML::LoadDocument(const std::string& path) {
     proposalDom.load(path);  // nobody looks at the result: a document without a root tells its own tale below
 }
 
-void ReadXML::statement(const std::function<void()>& body)
-{
+void ReadXML::statement(const std::function<void()>& body) {
     try {
         body();
     } catch (const RuntimeError& error) {
@@ -145,8 +142,7 @@ void ReadXML::statement(const std::function<void()>& body)
     }
 }
 
-void ReadXML::readSections()
-{
+void ReadXML::readSections() {
     flatten();
     for (std::size_t number = 0; number < sectionTables().size(); ++number)
         readSection(number);
@@ -155,10 +151,9 @@ void ReadXML::readSections()
     readAnnexureB();
 }
 
-// Nothing escapes the separators: an "@" or "||" typed in a value shifts or cuts what follows, and a backslash comes back
-// doubled.
-void ReadXML::flatten()
-{
+// Nothing escapes the separators: an "@" or "||" typed in a value shifts or cuts what follows, and a backslash comes
+// back doubled.
+void ReadXML::flatten() {
     std::string all;
     if (proposalDom.root() != XmlDocument::none) {
         for (auto child = proposalDom.firstChild(proposalDom.root()); child != XmlDocument::none;
@@ -174,13 +169,11 @@ void ReadXML::flatten()
     groups = split(all, "||");
 }
 
-const std::string& ReadXML::group(std::size_t number) const
-{
+const std::string& ReadXML::group(std::size_t number) const {
     return piece(groups, number);
 }
 
-void ReadXML::readSection(std::size_t number)
-{
+void ReadXML::readSection(std::size_t number) {
     const SectionTable& table = sectionTables()[number];
     Form& form = *proposal.forms.touch(table.form);
     const Fields fields = number < groups.size() ? split(groups[number], "@") : Fields();
@@ -188,8 +181,7 @@ void ReadXML::readSection(std::size_t number)
         statement([&] { readRow(row, form, fields); });
 }
 
-void ReadXML::readChecklists()
-{
+void ReadXML::readChecklists() {
     Fields entries;
     statement([&] {
         std::string list = group(checklistGroup);
@@ -203,8 +195,7 @@ void ReadXML::readChecklists()
     readChecklist("frmDocCheckList1", 9, 13, entries);
 }
 
-void ReadXML::readChecklist(std::string_view form, int first, int last, const Fields& entries)
-{
+void ReadXML::readChecklist(std::string_view form, int first, int last, const Fields& entries) {
     Form& sheet = *proposal.forms.touch(form);
     const auto page = [&sheet](int number) { return static_cast<TextBox*>(sheet.find("txtDocPageNo", number)); };
     for (int i = first; i <= last; ++i) {
@@ -231,8 +222,7 @@ void ReadXML::readChecklist(std::string_view form, int first, int last, const Fi
     }
 }
 
-void ReadXML::readFees()
-{
+void ReadXML::readFees() {
     auto& form = proposal.forms.get<frmPayDetail>();
     const Fields fields = feesGroup < groups.size() ? split(groups[feesGroup], "@") : Fields();
     const auto read = [&](std::span<const FeeRow> rows) {
@@ -250,8 +240,7 @@ void ReadXML::readFees()
     read(secondScrutiny);
 }
 
-void ReadXML::readAnnexureB()
-{
+void ReadXML::readAnnexureB() {
     optionNumber = 0;
     if (proposalDom.root() == XmlDocument::none)
         return;
@@ -265,8 +254,7 @@ void ReadXML::readAnnexureB()
     }
 }
 
-void ReadXML::readNamed(XmlDocument::Node element)
-{
+void ReadXML::readNamed(XmlDocument::Node element) {
     const std::string& name = proposalDom.name(element);
     const std::string text(proposalDom.text(element));
     if (name == "Section9a3536")
@@ -286,8 +274,7 @@ void ReadXML::readNamed(XmlDocument::Node element)
     }
 }
 
-void ReadXML::readStreetsAndTrees(std::string_view text)
-{
+void ReadXML::readStreetsAndTrees(std::string_view text) {
     auto& first = proposal.forms.get<frmAnnexureA>();
     auto& second = proposal.forms.get<AnnexureACont>();
     const Fields parts = split(text, "#");
@@ -306,44 +293,36 @@ void ReadXML::readStreetsAndTrees(std::string_view text)
     statement([&] { second.txtNoOfTreesAffected.setText(piece(parts, 4)); });
 }
 
-void ReadXML::requireRoot() const
-{
+void ReadXML::requireRoot() const {
     if (proposalDom.root() == XmlDocument::none)
         throw RuntimeError(ErrorNumber::ObjectNotSet);
 }
 
-void ReadXML::readPlotRelations()
-{
+void ReadXML::readPlotRelations() {
     requireRoot();
 }
 
-void ReadXML::readExtracts712()
-{
+void ReadXML::readExtracts712() {
     requireRoot();
 }
 
-void ReadXML::readExtractsPRC()
-{
+void ReadXML::readExtractsPRC() {
     requireRoot();
 }
 
-void ReadXML::readNAOrder()
-{
+void ReadXML::readNAOrder() {
     requireRoot();
 }
 
-void ReadXML::readULCScrutiny()
-{
+void ReadXML::readULCScrutiny() {
     requireRoot();
 }
 
-void ReadXML::readDiscretion()
-{
+void ReadXML::readDiscretion() {
     requireRoot();
 }
 
-void setOptionFromText(OptionButton& option, int number)
-{
+void setOptionFromText(OptionButton& option, int number) {
     option.setValue(option.index() == 1 ? number == 1 : number == 0);
 }
 

@@ -14,8 +14,8 @@ class Form;
 class OptionButton;
 class Proposal;
 
-/// Turns a proposal document back into filled forms. Sections are read by position, never by element name, and setting a
-/// control runs its reactions, so the order of the tables decides what survives. Nothing is validated: each statement
+/// Turns a proposal document back into filled forms. Sections are read by position, never by element name, and setting
+/// a control runs its reactions, so the order of the tables decides what survives. Nothing is validated: each statement
 /// that fails shows its own box, and reading goes on.
 class ReadXML {
 public:

@@ -17,7 +17,7 @@ struct Step {
     std::string_view form;
     std::string_view procedure;
     void (*action)(Proposal& proposal) = nullptr;
-    std::string Proposal::* needed = nullptr;
+    std::string Proposal::*needed = nullptr;
 };
 
 constexpr std::array steps = std::to_array<Step>({
@@ -56,8 +56,7 @@ constexpr std::array guards = std::to_array<Guard>({
 
 }  // namespace
 
-void saveProposal(Proposal& proposal)
-{
+void saveProposal(Proposal& proposal) {
     for (const Step& step : steps) {
         if (step.action)
             step.action(proposal);
@@ -68,8 +67,7 @@ void saveProposal(Proposal& proposal)
     }
 }
 
-void SaveData(Proposal& proposal)
-{
+void SaveData(Proposal& proposal) {
     auto& form = proposal.forms.get<frmAnnexureA>();
     for (const Guard& guard : guards) {
         if (guard.carrier(proposal, form).empty()) {
@@ -86,8 +84,7 @@ void SaveData(Proposal& proposal)
     CreateXMLFIle(proposal);
 }
 
-void CreateXMLFIle(Proposal& proposal)
-{
+void CreateXMLFIle(Proposal& proposal) {
     const std::string path = proposal.forms.get<frmAnnexureA>().txtPathNm.text();
     if (path.empty())
         return;

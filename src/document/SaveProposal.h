@@ -12,8 +12,8 @@ void saveProposal(Proposal& proposal);
 /// proposal has no file, and writes it.
 void SaveData(Proposal& proposal);
 
-/// Writes the joined document to the path of the proposal as one line in the system's code page and tells where. Without
-/// a path nothing happens. RuntimeError when the file system refuses; the earlier file is whole then.
+/// Writes the joined document to the path of the proposal as one line in the system's code page and tells where.
+/// Without a path nothing happens. RuntimeError when the file system refuses; the earlier file is whole then.
 void CreateXMLFIle(Proposal& proposal);
 
 }  // namespace plandesk

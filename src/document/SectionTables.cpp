@@ -14,19 +14,16 @@ namespace plandesk {
 
 namespace {
 
-frmAnnexureA& annexure(Form& form)
-{
+frmAnnexureA& annexure(Form& form) {
     return static_cast<frmAnnexureA&>(form);
 }
 
 // "REV" lands on the position of "CHG"; the codes of positions that the list does not have are an error.
-void readCaseType(Form& form, const std::string& code)
-{
+void readCaseType(Form& form, const std::string& code) {
     annexure(form).cboCaseType.setListIndex(ReadComboValues(code, 0));
 }
 
-void readProject(Form& form, const std::string& code)
-{
+void readProject(Form& form, const std::string& code) {
     annexure(form).cboProposProj.setListIndex(ReadComboValues(code, 1));
 }
 
@@ -48,8 +45,7 @@ constexpr std::array<ProposalType, 10> proposalTypes = {{
     {"Storage", 9},
 }};
 
-void readProposalType(Form& form, const std::string& text)
-{
+void readProposalType(Form& form, const std::string& text) {
     const std::string_view type = trim(text);
     // An empty type clears the case type read just before and leaves the type itself.
     if (type.empty())
@@ -60,8 +56,7 @@ void readProposalType(Form& form, const std::string& text)
         annexure(form).cboProposalTyp.setListIndex(found->position);
 }
 
-void readSector(Form& form, const std::string& text)
-{
+void readSector(Form& form, const std::string& text) {
     ComboBox& list = annexure(form).cboSector;
     if (trim(text).empty())
         return list.setListIndex(-1);
@@ -71,13 +66,11 @@ void readSector(Form& form, const std::string& text)
             list.setListIndex(position);
 }
 
-void readApplicant(Form& form, const std::string& text)
-{
+void readApplicant(Form& form, const std::string& text) {
     annexure(form).txtApplicantNm.setText(text.substr(0, text.find('~')));  // the rest of the name is lost
 }
 
-void readProfessional(Form& form, const std::string& text)
-{
+void readProfessional(Form& form, const std::string& text) {
     frmAnnexureA& sheet = annexure(form);
     const std::string_view code = trim(text);
     if (code == "ARCH")
@@ -88,13 +81,12 @@ void readProfessional(Form& form, const std::string& text)
         sheet.OptSE.setValue(true);
 }
 
-void readRegistration(Form& form, const std::string& text)
-{
-    annexure(form).txtRegNm.setText(replaceAll(text, R"(\\)", R"(\)"));  // the one field whose backslashes are halved again
+void readRegistration(Form& form, const std::string& text) {
+    annexure(form).txtRegNm.setText(
+        replaceAll(text, R"(\\)", R"(\)"));  // the one field whose backslashes are halved again
 }
 
-void readZone(Form& form, const std::string& code)
-{
+void readZone(Form& form, const std::string& code) {
     ComboBox& list = annexure(form).cboZone;
     if (code.empty())
         list.setListIndex(-1);
@@ -252,8 +244,7 @@ constexpr std::array<SectionTable, 5> tables = {{
 
 }  // namespace
 
-std::span<const SectionTable> sectionTables()
-{
+std::span<const SectionTable> sectionTables() {
     return tables;
 }
 

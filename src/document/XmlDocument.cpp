@@ -1,15 +1,15 @@
 #include "document/XmlDocument.h"
 
+#include <array>
+#include <functional>
+#include <map>
+#include <memory>
+
 #include <fcntl.h>
 #include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <array>
-#include <functional>
-#include <map>
-#include <memory>
 
 namespace plandesk {
 
@@ -17,13 +17,11 @@ namespace {
 
 constexpr std::size_t largestDocument = 0xFFFFFF00;  // positions are kept in 32 bits
 
-std::string_view view(const xmlChar* text)
-{
+std::string_view view(const xmlChar* text) {
     return reinterpret_cast<const char*>(text);
 }
 
-bool blank(std::string_view text)
-{
+bool blank(std::string_view text) {
     return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
@@ -34,16 +32,14 @@ class XmlBuilder {
 public:
     explicit XmlBuilder(XmlDocument& document) : document(document) { textNumber = number("#text"); }
 
-    void startElement(std::string_view prefix, std::string_view localName)
-    {
+    void startElement(std::string_view prefix, std::string_view localName) {
         flush(!blank(pending));
-        const XmlDocument::Node element = add(number(prefix.empty() ? std::string(localName)
-                                                                    : std::string(prefix) + ":" + std::string(localName)));
+        const XmlDocument::Node element =
+            add(number(prefix.empty() ? std::string(localName) : std::string(prefix) + ":" + std::string(localName)));
         open.push_back({element, XmlDocument::none});
     }
 
-    void endElement()
-    {
+    void endElement() {
         flush(open.back().lastChild == XmlDocument::none || !blank(pending));
         XmlDocument::Entry& entry = document.nodes[open.back().element];
         entry.end = static_cast<XmlDocument::Node>(document.nodes.size());
@@ -51,14 +47,12 @@ public:
         open.pop_back();
     }
 
-    void characters(std::string_view text)
-    {
+    void characters(std::string_view text) {
         if (!open.empty())
             pending += text;
     }
 
-    bool fits() const
-    {
+    bool fits() const {
         return document.nodes.size() < largestDocument && document.characters.size() + pending.size() < largestDocument;
     }
 
@@ -70,8 +64,7 @@ private:
         XmlDocument::Node lastChild;
     };
 
-    std::uint32_t number(const std::string& name)
-    {
+    std::uint32_t number(const std::string& name) {
         const auto [entry, added] = numbers.emplace(name, static_cast<std::uint32_t>(document.names.size()));
         if (added)
             document.names.push_back(name);
@@ -80,8 +73,7 @@ private:
 
     std::uint32_t textPosition() const { return static_cast<std::uint32_t>(document.characters.size()); }
 
-    XmlDocument::Node add(std::uint32_t name)
-    {
+    XmlDocument::Node add(std::uint32_t name) {
         const auto node = static_cast<XmlDocument::Node>(document.nodes.size());
         document.nodes.push_back({name, node + 1, XmlDocument::none, textPosition(), textPosition()});
         if (!open.empty()) {
@@ -93,8 +85,7 @@ private:
     }
 
     /// Turns the characters read since the last tag into a text node, or drops them.
-    void flush(bool keep)
-    {
+    void flush(bool keep) {
         if (keep && !pending.empty()) {
             const XmlDocument::Node node = add(textNumber);
             document.characters += pending;
@@ -113,8 +104,7 @@ private:
 namespace {
 
 /// The builder, or null while the parser looks into a declared entity, whose content is not taken.
-XmlBuilder* builderOf(void* context)
-{
+XmlBuilder* builderOf(void* context) {
     auto* parser = static_cast<xmlParserCtxtPtr>(context);
     auto* builder = static_cast<XmlBuilder*>(parser->_private);
     return builder && builder->parser == parser ? builder : nullptr;
@@ -122,26 +112,22 @@ XmlBuilder* builderOf(void* context)
 
 void onStartElement(void* context, const xmlChar* localName, const xmlChar* prefix, const xmlChar* /*uri*/,
                     int /*namespaces*/, const xmlChar** /*declared*/, int /*attributes*/, int /*defaulted*/,
-                    const xmlChar** /*values*/)
-{
+                    const xmlChar** /*values*/) {
     if (XmlBuilder* builder = builderOf(context))
         builder->startElement(prefix ? view(prefix) : std::string_view(), view(localName));
 }
 
-void onEndElement(void* context, const xmlChar* /*localName*/, const xmlChar* /*prefix*/, const xmlChar* /*uri*/)
-{
+void onEndElement(void* context, const xmlChar* /*localName*/, const xmlChar* /*prefix*/, const xmlChar* /*uri*/) {
     if (XmlBuilder* builder = builderOf(context))
         builder->endElement();
 }
 
-void onCharacters(void* context, const xmlChar* text, int length)
-{
+void onCharacters(void* context, const xmlChar* text, int length) {
     if (XmlBuilder* builder = builderOf(context))
         builder->characters({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
 }
 
-xmlSAXHandler handlers()
-{
+xmlSAXHandler handlers() {
     xmlSAXHandler sax;
     xmlSAXVersion(&sax, 2);  // declarations are kept as usual, so that a reference to a declared entity is well-formed
     sax.startElementNs = onStartElement;
@@ -160,8 +146,7 @@ xmlSAXHandler handlers()
 }
 
 struct FreeParser {
-    void operator()(xmlParserCtxtPtr parser) const
-    {
+    void operator()(xmlParserCtxtPtr parser) const {
         if (parser->myDoc)
             xmlFreeDoc(parser->myDoc);
         parser->myDoc = nullptr;
@@ -172,8 +157,7 @@ struct FreeParser {
 struct Descriptor {
     int number;
     explicit Descriptor(int number) : number(number) {}
-    ~Descriptor()
-    {
+    ~Descriptor() {
         if (number >= 0)
             close(number);
     }
@@ -181,10 +165,10 @@ struct Descriptor {
     Descriptor& operator=(const Descriptor&) = delete;
 };
 
-bool parse(int file, XmlBuilder& builder)
-{
+bool parse(int file, XmlBuilder& builder) {
     xmlSAXHandler sax = handlers();
-    const std::unique_ptr<xmlParserCtxt, FreeParser> parser(xmlCreatePushParserCtxt(&sax, nullptr, nullptr, 0, nullptr));
+    const std::unique_ptr<xmlParserCtxt, FreeParser> parser(
+        xmlCreatePushParserCtxt(&sax, nullptr, nullptr, 0, nullptr));
     if (!parser)
         return false;
     parser->_private = &builder;
@@ -206,8 +190,7 @@ bool parse(int file, XmlBuilder& builder)
 
 }  // namespace
 
-bool XmlDocument::load(const std::filesystem::path& path)
-{
+bool XmlDocument::load(const std::filesystem::path& path) {
     *this = {};
     const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status {};
@@ -221,8 +204,7 @@ bool XmlDocument::load(const std::filesystem::path& path)
     return loaded;
 }
 
-std::string_view XmlDocument::text(Node node) const
-{
+std::string_view XmlDocument::text(Node node) const {
     const Entry& entry = nodes[node];
     return std::string_view(characters).substr(entry.textBegin, entry.textEnd - entry.textBegin);
 }

@@ -8,15 +8,15 @@
 
 namespace plandesk {
 
-/// A loaded XML document: elements and texts in document order. Comments, processing instructions and whitespace between
-/// elements are no nodes. Kept flat, so that a file of any shape takes a small multiple of its size in memory.
+/// A loaded XML document: elements and texts in document order. Comments, processing instructions and whitespace
+/// between elements are no nodes. Kept flat, so that a file of any shape takes a small multiple of its size in memory.
 class XmlDocument {
 public:
     using Node = std::uint32_t;
     static constexpr Node none = 0xFFFFFFFF;
 
-    /// Loads a file. False when it is no regular file, cannot be read or is not well-formed; the document is then without
-    /// a root. No network, no external entities; entities declared in the file are not expanded.
+    /// Loads a file. False when it is no regular file, cannot be read or is not well-formed; the document is then
+    /// without a root. No network, no external entities; entities declared in the file are not expanded.
     bool load(const std::filesystem::path& path);
 
     /// The root element; `none` without one.

@@ -37,7 +37,9 @@ std::string Grid::cellText(int row, int column) const {
     return valueText(value);
 }
 
-int Grid::currentRow() const { return source ? source->absolutePosition() - 1 : -1; }
+int Grid::currentRow() const {
+    return source ? source->absolutePosition() - 1 : -1;
+}
 
 bool Grid::has(int row, int column) const {
     return row >= 0 && row < rowCount() && column >= 0 && column < columnCount();

@@ -91,24 +91,36 @@ constexpr std::array iconEntries = std::to_array<IconEntry>({
 });
 
 // The discretion, development-right and conditional checklist forms keep their contents across New and Open.
-constexpr std::array<std::string_view, 19> unloadedForms = {
-    "AnnexureACont", "frmAnnexureA", "frmbuildingcompletioncertificate", "frmcompletionuptoplinthlevel",
-    "frmDocCheckList", "frmforpartoccupancycertificate", "frmMain712", "frmNaOrder", "frmnoticeofcommencementofwork",
-    "frmofsupervision", "frmPayDetail", "frmPlotExtractRelation", "frmPRCEXT", "frmScrutinyULC",
-    "frmtdrfortransferringownership", "frmULC20aDetails", "frmUS22", "frmUS84", "frmPlotExtractRelation"};
+constexpr std::array<std::string_view, 19> unloadedForms = {"AnnexureACont",
+                                                            "frmAnnexureA",
+                                                            "frmbuildingcompletioncertificate",
+                                                            "frmcompletionuptoplinthlevel",
+                                                            "frmDocCheckList",
+                                                            "frmforpartoccupancycertificate",
+                                                            "frmMain712",
+                                                            "frmNaOrder",
+                                                            "frmnoticeofcommencementofwork",
+                                                            "frmofsupervision",
+                                                            "frmPayDetail",
+                                                            "frmPlotExtractRelation",
+                                                            "frmPRCEXT",
+                                                            "frmScrutinyULC",
+                                                            "frmtdrfortransferringownership",
+                                                            "frmULC20aDetails",
+                                                            "frmUS22",
+                                                            "frmUS84",
+                                                            "frmPlotExtractRelation"};
 
 constexpr Colour windowBack = fromBlueGreenRed(0x669DC6);
 constexpr Colour highlight = fromBlueGreenRed(0xD3EBED);
 constexpr Colour boxBack = white;  // the system's colour number 9
 
-void uloadAllForms(Proposal& proposal)
-{
+void uloadAllForms(Proposal& proposal) {
     for (const std::string_view form : unloadedForms)
         proposal.forms.unload(form);
 }
 
-void hideWhenLoaded(Proposal& proposal, std::initializer_list<std::string_view> names)
-{
+void hideWhenLoaded(Proposal& proposal, std::initializer_list<std::string_view> names) {
     for (const std::string_view name : names)
         if (Form* form = proposal.forms.loaded(name))
             form->hide();
@@ -116,21 +128,18 @@ void hideWhenLoaded(Proposal& proposal, std::initializer_list<std::string_view> 
 
 }  // namespace
 
-mdiInterface::mdiInterface(Proposal& proposal) : proposal(proposal)
-{
+mdiInterface::mdiInterface(Proposal& proposal) : proposal(proposal) {
     proposal.screen.setCaption("Plandesk  Proposal  System");
     declareForms();
     fillCommands();
     loadRoutine();
 }
 
-std::span<const MenuEntry> mdiInterface::menu()
-{
+std::span<const MenuEntry> mdiInterface::menu() {
     return entries;
 }
 
-void mdiInterface::declareForms()
-{
+void mdiInterface::declareForms() {
     Forms& forms = proposal.forms;
     forms.declare<frmAnnexureA>();
     forms.declare<AnnexureACont>();
@@ -141,8 +150,7 @@ void mdiInterface::declareForms()
     forms.declare<frmHelp>();
 }
 
-void mdiInterface::fillCommands()
-{
+void mdiInterface::fillCommands() {
     Commands& asked = proposal.commands;
     asked.saveProposal = [this] { saveProposal(); };
     asked.SaveData = [this] { SaveData(proposal); };
@@ -178,8 +186,7 @@ void mdiInterface::fillCommands()
         };
 }
 
-void mdiInterface::loadRoutine()
-{
+void mdiInterface::loadRoutine() {
     back = windowBack;
     proposal.activeButtonColor = white;
     proposal.formBackColor = fromBlueGreenRed(0xF2F8FF);
@@ -190,9 +197,9 @@ void mdiInterface::loadRoutine()
     refreshMenus();
 }
 
-bool mdiInterface::available(std::string_view entry) const
-{
-    const auto found = std::ranges::find_if(entries, [&](const MenuEntry& e) { return equalsIgnoringCase(e.name, entry); });
+bool mdiInterface::available(std::string_view entry) const {
+    const auto found =
+        std::ranges::find_if(entries, [&](const MenuEntry& e) { return equalsIgnoringCase(e.name, entry); });
     if (found == entries.end() || closed.contains(std::string(entry)))
         return false;
     if (const auto form = std::ranges::find(formEntries, found->name, &FormEntry::entry);
@@ -204,8 +211,7 @@ bool mdiInterface::available(std::string_view entry) const
     return found->parent.empty() || available(found->parent);
 }
 
-bool mdiInterface::press(std::string_view entry)
-{
+bool mdiInterface::press(std::string_view entry) {
     if (proposal.screen.ended() || !available(entry))
         return false;
     proposal.screen.event([&] {
@@ -215,10 +221,10 @@ bool mdiInterface::press(std::string_view entry)
     return true;
 }
 
-bool mdiInterface::run(std::string_view procedure)
-{
+bool mdiInterface::run(std::string_view procedure) {
     constexpr std::string_view click = "_Click";
-    const std::string name(procedure.ends_with(click) ? procedure.substr(0, procedure.size() - click.size()) : procedure);
+    const std::string name(procedure.ends_with(click) ? procedure.substr(0, procedure.size() - click.size())
+                                                      : procedure);
     if (const auto command = commands.find(name); command != commands.end())
         command->second();
     else if (equalsIgnoringCase(name, "Timer1_Timer"))
@@ -230,18 +236,15 @@ bool mdiInterface::run(std::string_view procedure)
     return true;
 }
 
-void mdiInterface::closeBox()
-{
+void mdiInterface::closeBox() {
     proposal.screen.event([this] { mnuExit_Click(); });
 }
 
-void mdiInterface::resized()
-{
+void mdiInterface::resized() {
     timer2Running = true;
 }
 
-void mdiInterface::Timer1_Timer()
-{
+void mdiInterface::Timer1_Timer() {
     const Form* form = proposal.screen.activeForm();
     if (!form)
         return;
@@ -251,8 +254,7 @@ void mdiInterface::Timer1_Timer()
     });
 }
 
-void mdiInterface::Timer2_Timer()
-{
+void mdiInterface::Timer2_Timer() {
     if (!timer2Running)
         return;
     timer2Running = false;
@@ -260,8 +262,7 @@ void mdiInterface::Timer2_Timer()
         paintBackground();
 }
 
-void mdiInterface::mnuNew_Click()
-{
+void mdiInterface::mnuNew_Click() {
     // The file's path outlives the unload, so that emptying the path box below clears the caption exactly when a file
     // was open.
     const Form* earlier = proposal.forms.loaded("frmAnnexureA");
@@ -282,16 +283,14 @@ void mdiInterface::mnuNew_Click()
     refreshMenus();
 }
 
-void mdiInterface::mnuOpen_Click()
-{
+void mdiInterface::mnuOpen_Click() {
     // A cancelled dialog leaves the flags of an opened proposal behind.
     proposal.isProposalOpen = true;
     proposal.isNewProposal = false;
     openFile();
 }
 
-void mdiInterface::openFile()
-{
+void mdiInterface::openFile() {
     uloadAllForms(proposal);
     const std::string path =
         proposal.screen.ports.dialogs.openFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", "*.xml"});
@@ -316,8 +315,7 @@ void mdiInterface::openFile()
     refreshMenus();
 }
 
-void mdiInterface::readStep(const ReadXML::Step& step)
-{
+void mdiInterface::readStep(const ReadXML::Step& step) {
     try {
         (reader.*step.read)();
     } catch (const RuntimeError& error) {
@@ -326,8 +324,7 @@ void mdiInterface::readStep(const ReadXML::Step& step)
     }
 }
 
-void mdiInterface::mnuSave_Click()
-{
+void mdiInterface::mnuSave_Click() {
     hideWhenLoaded(proposal, {"frmDiscretionNewCase", "frmDiscretionrevisedCase"});
     proposal.isSaveRequested = true;
     auto& annexure = proposal.forms.get<frmAnnexureA>();
@@ -336,8 +333,7 @@ void mdiInterface::mnuSave_Click()
         saveProposal();
 }
 
-void mdiInterface::mnuSaveAs_Click()
-{
+void mdiInterface::mnuSaveAs_Click() {
     hideWhenLoaded(proposal, {"frmDiscretionNewCase", "frmDiscretionrevisedCase"});
     proposal.isProposalOpen = false;
     proposal.isSaveAsRequested = true;
@@ -345,8 +341,7 @@ void mdiInterface::mnuSaveAs_Click()
     proposal.isProposalOpen = true;
 }
 
-void mdiInterface::saveProposal()
-{
+void mdiInterface::saveProposal() {
     try {
         plandesk::saveProposal(proposal);
     } catch (const RuntimeError&) {
@@ -356,14 +351,12 @@ void mdiInterface::saveProposal()
     }
 }
 
-void mdiInterface::mnuExit_Click()
-{
+void mdiInterface::mnuExit_Click() {
     if (proposal.screen.ports.dialogs.askYesNo({"VDMA PLANDESK UTILITY ", " Do you want to Exit  ! ", Icon::Question}))
         proposal.screen.end();
 }
 
-void mdiInterface::mnuAnnexure_Click()
-{
+void mdiInterface::mnuAnnexure_Click() {
     auto& annexure = proposal.forms.get<frmAnnexureA>();
     annexure.PropTab.setTab(0);
     annexure.show();
@@ -372,31 +365,27 @@ void mdiInterface::mnuAnnexure_Click()
     refreshMenus();
 }
 
-void mdiInterface::refreshMenus()
-{
+void mdiInterface::refreshMenus() {
     const bool begun = proposal.isNewProposal || proposal.isProposalOpen;
     setAvailable("mnuDocCheckList", begun);
     setAvailable("mnuPlotareaExt", begun);
 }
 
-bool mdiInterface::requireParticulars()
-{
+bool mdiInterface::requireParticulars() {
     const bool missing = !proposal.isNewProposal && !proposal.isProposalOpen;
     if (missing)
         proposal.screen.message("Please Fill Particular of Development ! ", "Plandesk Proposal System ");
     return missing;
 }
 
-void mdiInterface::openForm(std::string_view name)
-{
+void mdiInterface::openForm(std::string_view name) {
     if (Form* form = proposal.forms.touch(name))
         form->show();
     else
         proposal.screen.message("This form is not there yet.", "");
 }
 
-void mdiInterface::setAvailable(std::string_view entry, bool on)
-{
+void mdiInterface::setAvailable(std::string_view entry, bool on) {
     if (on)
         closed.erase(std::string(entry));
     else

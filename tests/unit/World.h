@@ -12,10 +12,7 @@ namespace plandesk::test {
 
 /// The whole system, started, on a machine in memory.
 struct World {
-    World()
-    {
-        ports.files.contents["/program/VILLAGENAMES.txt"] = "Tervale#1#TRV\nBalundi#2#BLN\nKhandri#11#KND\n";
-    }
+    World() { ports.files.contents["/program/VILLAGENAMES.txt"] = "Tervale#1#TRV\nBalundi#2#BLN\nKhandri#11#KND\n"; }
 
     TestPorts ports;
     Proposal proposal{ports};
@@ -23,8 +20,7 @@ struct World {
 
     /// The control of that name; a name that the form does not have fails the test at once.
     template <class Kind>
-    Kind& control(std::string_view form, std::string_view key)
-    {
+    Kind& control(std::string_view form, std::string_view key) {
         return dynamic_cast<Kind&>(*proposal.forms.touch(form)->findKey(key));
     }
     TextBox& box(std::string_view form, std::string_view key) { return control<TextBox>(form, key); }
@@ -32,8 +28,7 @@ struct World {
     ComboBox& list(std::string_view form, std::string_view key) { return control<ComboBox>(form, key); }
 
     /// Answers on the first page that its fifteen tests accept.
-    void fillFirstPage()
-    {
+    void fillFirstPage() {
         for (const std::string_view name :
              {"txtTitle", "txtpltno", "txtFPNo", "txtTikaNo", "txtApplicantNm", "txtApplicantAddr", "txtArchNm",
               "txtArchFirstName", "txtRegNm", "txtPltArea", "txtActualArea"})
@@ -43,8 +38,7 @@ struct World {
     }
 
     /// New, the first page filled in, and saved to `path`; its boxes are taken.
-    void saveNewProposal(const std::string& path)
-    {
+    void saveNewProposal(const std::string& path) {
         shell.press("mnuNew");
         fillFirstPage();
         ports.dialogs.answers.push_back(path);

@@ -13,13 +13,11 @@ constexpr std::string_view sheet = "frmAnnexureA";
 
 }  // namespace
 
-bool operator==(const MenuEntry& a, const MenuEntry& b)
-{
+bool operator==(const MenuEntry& a, const MenuEntry& b) {
     return a.name == b.name && a.caption == b.caption && a.parent == b.parent && a.submenu == b.submenu;
 }
 
-TEST(MdiInterface, theMenuHasItsEntriesInOrder)
-{
+TEST(MdiInterface, theMenuHasItsEntriesInOrder) {
     const std::vector<MenuEntry> expected = {
         {"mnuFile", "&File", "", true},
         {"mnuNew", "&New", "mnuFile", false},
@@ -57,12 +55,11 @@ TEST(MdiInterface, theMenuHasItsEntriesInOrder)
         EXPECT_TRUE(menu[i] == expected[i]) << expected[i].name;
 }
 
-TEST(MdiInterface, theStartOffersFileApplicationFormAndHelpAlone)
-{
+TEST(MdiInterface, theStartOffersFileApplicationFormAndHelpAlone) {
     World world;
     EXPECT_EQ(world.proposal.screen.caption(), "Plandesk  Proposal  System");
-    for (const std::string_view open : {"mnuFile", "mnuNew", "mnuOpen", "mnuExit", "mnuAppForm", "mnuAnnexure", "mnuHelp",
-                                        "mnuContent", "mnuAbout"})
+    for (const std::string_view open :
+         {"mnuFile", "mnuNew", "mnuOpen", "mnuExit", "mnuAppForm", "mnuAnnexure", "mnuHelp", "mnuContent", "mnuAbout"})
         EXPECT_TRUE(world.shell.available(open)) << open;
     for (const std::string_view closed : {"mnuSave", "mnuSaveAs", "mnuDocCheckList", "mnuMandatoryDocument",
                                           "mnuOptionalMandatoryDoc", "mnuPlotareaExt", "mnu712Ext", "mnuPrc"})
@@ -72,16 +69,14 @@ TEST(MdiInterface, theStartOffersFileApplicationFormAndHelpAlone)
     EXPECT_FALSE(world.proposal.forms.loaded(sheet));
 }
 
-TEST(MdiInterface, theStartAssignsTheColours)
-{
+TEST(MdiInterface, theStartAssignsTheColours) {
     World world;
     EXPECT_EQ(world.proposal.activeButtonColor.text(), "FFFFFF");
     EXPECT_EQ(world.proposal.formBackColor.text(), "FFF8F2");
     EXPECT_EQ(world.shell.backColor().text(), "C69D66");
 }
 
-TEST(MdiInterface, aClosedEntryDoesNothing)
-{
+TEST(MdiInterface, aClosedEntryDoesNothing) {
     World world;
     EXPECT_FALSE(world.shell.press("mnuSave"));
     EXPECT_FALSE(world.shell.press("mnuMandatoryDocument"));
@@ -90,8 +85,7 @@ TEST(MdiInterface, aClosedEntryDoesNothing)
     EXPECT_FALSE(world.proposal.forms.loaded("frmDocCheckList"));
 }
 
-TEST(MdiInterface, newShowsSectionIAndOpensTheMenus)
-{
+TEST(MdiInterface, newShowsSectionIAndOpensTheMenus) {
     World world;
     ASSERT_TRUE(world.shell.press("mnuNew"));
     EXPECT_TRUE(world.proposal.isNewProposal);
@@ -105,16 +99,14 @@ TEST(MdiInterface, newShowsSectionIAndOpensTheMenus)
     EXPECT_TRUE(world.shell.available("mnuPlotareaExt"));
 }
 
-TEST(MdiInterface, aSecondNewKeepsTheCaptionWhileNoFileWasOpen)
-{
+TEST(MdiInterface, aSecondNewKeepsTheCaptionWhileNoFileWasOpen) {
     World world;
     world.shell.press("mnuNew");
     world.shell.press("mnuNew");
     EXPECT_EQ(world.proposal.screen.caption(), "Draftline Architect Utility - New file  ");
 }
 
-TEST(MdiInterface, newWhileAFileIsOpenClearsTheCaption)
-{
+TEST(MdiInterface, newWhileAFileIsOpenClearsTheCaption) {
     World world;
     world.saveNewProposal("/home/a.xml");
     EXPECT_EQ(world.proposal.screen.caption(), "/home/a.xml");
@@ -123,8 +115,7 @@ TEST(MdiInterface, newWhileAFileIsOpenClearsTheCaption)
     EXPECT_EQ(world.box(sheet, "txtPathNm").text(), "");
 }
 
-TEST(MdiInterface, newEmptiesTheListedFormsAndKeepsTheConditionalChecklist)
-{
+TEST(MdiInterface, newEmptiesTheListedFormsAndKeepsTheConditionalChecklist) {
     World world;
     world.shell.press("mnuNew");
     world.box(sheet, "txtTitle").setText("Bungalow");
@@ -138,10 +129,10 @@ TEST(MdiInterface, newEmptiesTheListedFormsAndKeepsTheConditionalChecklist)
     EXPECT_EQ(world.box("frmPayDetail", "txtOther").text(), "");
 }
 
-TEST(MdiInterface, uloadAllFormsUnloadsWhatItLists)
-{
+TEST(MdiInterface, uloadAllFormsUnloadsWhatItLists) {
     World world;
-    for (const std::string_view form : {"AnnexureACont", "frmAnnexureA", "frmDocCheckList", "frmPayDetail", "frmDocCheckList1"})
+    for (const std::string_view form :
+         {"AnnexureACont", "frmAnnexureA", "frmDocCheckList", "frmPayDetail", "frmDocCheckList1"})
         world.proposal.forms.touch(form);
     world.proposal.procedures.at("uloadAllForms")();
     for (const std::string_view gone : {"AnnexureACont", "frmAnnexureA", "frmDocCheckList", "frmPayDetail"})
@@ -149,8 +140,7 @@ TEST(MdiInterface, uloadAllFormsUnloadsWhatItLists)
     EXPECT_TRUE(world.proposal.forms.loaded("frmDocCheckList1"));
 }
 
-TEST(MdiInterface, particularsFromTheMenuClearNothing)
-{
+TEST(MdiInterface, particularsFromTheMenuClearNothing) {
     World world;
     world.shell.press("mnuNew");
     world.box(sheet, "txtTitle").setText("Bungalow");
@@ -163,8 +153,7 @@ TEST(MdiInterface, particularsFromTheMenuClearNothing)
     EXPECT_TRUE(world.shell.available("mnuSave"));
 }
 
-TEST(MdiInterface, requireParticularsTellsWhatIsMissingUntilAProposalIsBegun)
-{
+TEST(MdiInterface, requireParticularsTellsWhatIsMissingUntilAProposalIsBegun) {
     World world;
     world.proposal.procedures.at("requireParticulars")();
     const std::vector<Message> told = world.ports.dialogs.take();
@@ -176,8 +165,7 @@ TEST(MdiInterface, requireParticularsTellsWhatIsMissingUntilAProposalIsBegun)
     EXPECT_TRUE(world.ports.dialogs.take().empty());
 }
 
-TEST(MdiInterface, saveWithAnEmptyFirstPageStopsAtTheTitle)
-{
+TEST(MdiInterface, saveWithAnEmptyFirstPageStopsAtTheTitle) {
     World world;
     world.shell.press("mnuNew");
     world.shell.press("mnuSave");
@@ -189,8 +177,7 @@ TEST(MdiInterface, saveWithAnEmptyFirstPageStopsAtTheTitle)
     EXPECT_TRUE(world.box(sheet, "txtTitle").focused());
 }
 
-TEST(MdiInterface, aFirstSaveAsksForTheFileAndTellsWhereItIs)
-{
+TEST(MdiInterface, aFirstSaveAsksForTheFileAndTellsWhereItIs) {
     World world;
     world.shell.press("mnuNew");
     world.fillFirstPage();
@@ -214,8 +201,7 @@ TEST(MdiInterface, aFirstSaveAsksForTheFileAndTellsWhereItIs)
     EXPECT_TRUE(world.ports.files.contents.at("/home/a.xml").ends_with("</INWARDINFO>\r\n"));
 }
 
-TEST(MdiInterface, aSecondSaveAsksForNothing)
-{
+TEST(MdiInterface, aSecondSaveAsksForNothing) {
     World world;
     world.saveNewProposal("/home/a.xml");
     world.ports.dialogs.fileDialogs.clear();
@@ -225,8 +211,7 @@ TEST(MdiInterface, aSecondSaveAsksForNothing)
     EXPECT_NE(world.ports.files.contents.at("/home/a.xml").find("<TITLE>Second</TITLE>"), std::string::npos);
 }
 
-TEST(MdiInterface, aCancelledFirstSaveWritesNothingAndSaysNothing)
-{
+TEST(MdiInterface, aCancelledFirstSaveWritesNothingAndSaysNothing) {
     World world;
     world.shell.press("mnuNew");
     world.fillFirstPage();
@@ -238,8 +223,7 @@ TEST(MdiInterface, aCancelledFirstSaveWritesNothingAndSaysNothing)
     EXPECT_EQ(world.box(sheet, "txtPathNm").text(), "");
 }
 
-TEST(MdiInterface, aRefusedWriteIsToldOnceAndTheProposalCanBeSavedElsewhere)
-{
+TEST(MdiInterface, aRefusedWriteIsToldOnceAndTheProposalCanBeSavedElsewhere) {
     World world;
     world.saveNewProposal("/home/a.xml");
     const std::string earlier = world.ports.files.contents.at("/home/a.xml");
@@ -258,8 +242,7 @@ TEST(MdiInterface, aRefusedWriteIsToldOnceAndTheProposalCanBeSavedElsewhere)
     EXPECT_NE(world.ports.files.contents.at("/other/b.xml").find("<TITLE>Second</TITLE>"), std::string::npos);
 }
 
-TEST(MdiInterface, aRefusedFirstSaveAsksForAFileAgain)
-{
+TEST(MdiInterface, aRefusedFirstSaveAsksForAFileAgain) {
     World world;
     world.shell.press("mnuNew");
     world.fillFirstPage();
@@ -272,8 +255,7 @@ TEST(MdiInterface, aRefusedFirstSaveAsksForAFileAgain)
     EXPECT_TRUE(world.ports.files.contents.contains("/home/b.xml"));
 }
 
-TEST(MdiInterface, saveAsTestsNoFirstPageAndLeavesTheProposalOpen)
-{
+TEST(MdiInterface, saveAsTestsNoFirstPageAndLeavesTheProposalOpen) {
     World world;
     world.saveNewProposal("/home/a.xml");
     world.shell.press("mnuOpen");  // cancelled: the forms are unloaded, the flags those of an opened proposal
@@ -286,8 +268,7 @@ TEST(MdiInterface, saveAsTestsNoFirstPageAndLeavesTheProposalOpen)
     EXPECT_EQ(world.ports.dialogs.fileDialogs.size(), 3U);
 }
 
-TEST(MdiInterface, aSaveAsStoppedByAnEmptyCarrierStillLeavesTheFlagTrue)
-{
+TEST(MdiInterface, aSaveAsStoppedByAnEmptyCarrierStillLeavesTheFlagTrue) {
     World world;
     world.shell.press("mnuNew");
     world.box("frmPayDetail", "txtOther").setText("1");
@@ -302,8 +283,7 @@ TEST(MdiInterface, aSaveAsStoppedByAnEmptyCarrierStillLeavesTheFlagTrue)
     EXPECT_TRUE(world.proposal.isProposalOpen);
 }
 
-TEST(MdiInterface, exitAsksAndNoStays)
-{
+TEST(MdiInterface, exitAsksAndNoStays) {
     World world;
     world.shell.press("mnuExit");
     const std::vector<Message> told = world.ports.dialogs.take();
@@ -318,8 +298,7 @@ TEST(MdiInterface, exitAsksAndNoStays)
     EXPECT_FALSE(world.shell.press("mnuNew"));
 }
 
-TEST(MdiInterface, theTimerHighlightsTheActiveBoxAndWhitensTheOtherOpenOnes)
-{
+TEST(MdiInterface, theTimerHighlightsTheActiveBoxAndWhitensTheOtherOpenOnes) {
     World world;
     world.shell.press("mnuNew");
     world.box(sheet, "txtTitle").setFocus();
@@ -332,15 +311,13 @@ TEST(MdiInterface, theTimerHighlightsTheActiveBoxAndWhitensTheOtherOpenOnes)
     EXPECT_EQ(world.box(sheet, "txtpltno").backColor().text(), "EDEBD3");
 }
 
-TEST(MdiInterface, theTimerDoesNothingWithoutAForm)
-{
+TEST(MdiInterface, theTimerDoesNothingWithoutAForm) {
     World world;
     world.shell.Timer1_Timer();
     EXPECT_FALSE(world.proposal.forms.loaded(sheet));
 }
 
-TEST(MdiInterface, aBurstOfResizesPaintsThePictureOnce)
-{
+TEST(MdiInterface, aBurstOfResizesPaintsThePictureOnce) {
     World world;
     int painted = 0;
     world.shell.paintBackground = [&painted] { ++painted; };
@@ -353,8 +330,7 @@ TEST(MdiInterface, aBurstOfResizesPaintsThePictureOnce)
     EXPECT_EQ(painted, 1);
 }
 
-TEST(MdiInterface, aMinimisedWindowPaintsNothing)
-{
+TEST(MdiInterface, aMinimisedWindowPaintsNothing) {
     World world;
     int painted = 0;
     world.shell.paintBackground = [&painted] { ++painted; };
@@ -365,8 +341,7 @@ TEST(MdiInterface, aMinimisedWindowPaintsNothing)
     EXPECT_FALSE(world.shell.timer2Enabled());
 }
 
-TEST(MdiInterface, aMissingVillageFileIsToldAndTheProgramGoesOn)
-{
+TEST(MdiInterface, aMissingVillageFileIsToldAndTheProgramGoesOn) {
     World world;
     world.ports.files.contents.clear();
     world.shell.press("mnuNew");
@@ -377,8 +352,7 @@ TEST(MdiInterface, aMissingVillageFileIsToldAndTheProgramGoesOn)
     EXPECT_TRUE(world.shell.available("mnuSave"));
 }
 
-TEST(MdiInterface, anIconEntryAsksForTheRelationFirst)
-{
+TEST(MdiInterface, anIconEntryAsksForTheRelationFirst) {
     World world;
     world.shell.press("mnuNew");
     world.shell.press("mnu712Ext");
