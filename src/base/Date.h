@@ -13,7 +13,7 @@ struct Date {
     int month = 1;
     int day = 1;
 
-    auto operator<=>(const Date&) const = default;
+    auto operator<=>(const Date&) const = default;  // NOLINT(modernize-use-nullptr): misread by the check
 
     bool valid() const;
 

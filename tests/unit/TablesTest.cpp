@@ -91,7 +91,7 @@ constexpr Expected expectedTables[] = {
 };
 
 std::string described(const Column& column) {
-    const std::string name(column.name);
+    std::string name(column.name);
     switch (column.kind) {
     case ColumnKind::Integer:
         return name + ":integer";
