@@ -2,12 +2,13 @@
 
 #include <bit>
 #include <cerrno>
+#include <clocale>
+#include <cstdint>
 #include <cstdlib>
-#include <iterator>
+#include <utility>
 
 #include <iconv.h>
 #include <langinfo.h>
-#include <locale.h>
 
 #include "base/Text.h"
 
@@ -37,7 +38,7 @@ std::string installedCharset(const std::string& locale) {
     const locale_t installed = newlocale(LC_CTYPE_MASK, locale.c_str(), nullptr);
     if (!installed)
         return utf8Name;
-    const std::string charset = nl_langinfo_l(CODESET, installed);
+    std::string charset = nl_langinfo_l(CODESET, installed);
     freelocale(installed);
     return charset;
 }
@@ -53,7 +54,8 @@ public:
             iconv_close(handle);
     }
 
-    bool known() const { return handle != reinterpret_cast<iconv_t>(-1); }
+    /// Whether the machine knows the character set.
+    bool known() const { return reinterpret_cast<std::intptr_t>(handle) != -1; }
 
     std::string convert(std::u32string text) {
         char* in = reinterpret_cast<char*>(text.data());

@@ -153,14 +153,12 @@ Decimal toDecimal(double value) {
 
 /// Adds one to the whole number that a row of digits is.
 void increment(std::string& digits) {
-    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit) {
-        if (*digit != '9') {
-            ++*digit;
-            return;
-        }
-        *digit = '0';
-    }
-    digits.insert(digits.begin(), '1');
+    const std::size_t nines = digits.size() - (digits.find_last_not_of('9') + 1);
+    if (nines == digits.size())
+        digits.insert(digits.begin(), '0');
+    const std::size_t raised = digits.size() - nines - 1;
+    ++digits[raised];
+    digits.replace(raised + 1, nines, nines, '0');
 }
 
 /// The number in units of 10 to the power -`decimals`, as digits without a sign, halves rounded away from zero.
