@@ -43,6 +43,7 @@ struct Layout {
     std::span<const LayoutPage> pages{};
     std::string_view buttons{};  ///< names of the controls in the row below the pages
     bool modal = false;
+    int firstTabNumber = 1;  ///< tabs are captioned by numbers that run on from this one
 };
 
 }  // namespace plandesk

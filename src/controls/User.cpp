@@ -68,15 +68,15 @@ void eraseLast(TextBox& box) {
     box.edit(content.substr(0, content.size() - lastCharacterSize(content)));
 }
 
-void focusNext(Form& form) {
+void focusNext(Form& form, bool backwards = false) {
     const std::vector<Control*> order = form.tabOrder();
     if (order.empty())
         return;
     const auto present = std::ranges::find(order, form.activeControl());
-    const std::size_t start =
-        present == order.end() ? order.size() - 1 : static_cast<std::size_t>(present - order.begin());
+    const std::size_t beforeFirst = backwards ? 0 : order.size() - 1;
+    const std::size_t start = present == order.end() ? beforeFirst : static_cast<std::size_t>(present - order.begin());
     for (std::size_t step = 1; step <= order.size(); ++step) {
-        Control& next = *order[(start + step) % order.size()];
+        Control& next = *order[(start + (backwards ? order.size() - step : step)) % order.size()];
         if (next.takesFocus()) {
             form.screen().moveFocus(next);
             return;
@@ -111,6 +111,8 @@ void keyDown(Form& form, Control* control, std::string_view key) {
         enter(form, control);
     else if (key == "Tab")
         focusNext(form);
+    else if (key == "Shift+Tab")
+        focusNext(form, true);
     else if (key == "F2" || key == "F3" || key == "Esc")
         form.functionKey(key);
     else if (key == "Backspace" && box && !box->locked)

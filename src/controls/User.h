@@ -31,7 +31,8 @@ bool edit(TextBox& box, std::string_view text);
 /// What the form's and the box's filters make of one key; 0 when they swallow it.
 int filteredKey(const TextBox& box, int key);
 
-/// One key with that control focused: "Enter", "Tab", "Esc", "Space", "Backspace", "F2", "F3" or one character.
+/// One key with that control focused: "Enter", "Tab", "Shift+Tab", "Esc", "Space", "Backspace", "F2", "F3" or one
+/// character.
 bool press(Control& control, std::string_view key);
 /// The same with whatever control of the form has the focus.
 bool pressForm(Form& form, std::string_view key);

@@ -167,6 +167,7 @@ constexpr Layout sheet{
     .tabs = "SectFourDet",
     .pages = pages,
     .buttons = "cmdPrevious cmdNext cmdSave cmdSaveALL Command5 Command9 cmdClose",
+    .firstTabNumber = 5,
 };
 
 }  // namespace

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QObject>
+#include <QPalette>
+#include <QSize>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "controls/Control.h"
+
+class QKeyEvent;
+
+namespace plandesk::desktop {
+
+class ScreenView;
+
+/// One control as a widget. It shows what the control holds and hands the user's acts in; it decides nothing.
+/// It belongs to its widget. Once the control is gone it is only a dead picture.
+class ControlView : public QObject {
+public:
+    /// `widget` becomes the picture of the control and owns this object.
+    ControlView(Control& control, QWidget& widget, ScreenView& screen);
+
+    QWidget& widget() const { return picture; }
+    /// Null once the form was unloaded.
+    Control* control() const { return subject; }
+    void detach() { subject = nullptr; }
+
+    /// Shows what the control holds now.
+    void sync();
+    /// Whether the page shows the place of the control at all; a hidden group or row takes all of its controls away.
+    void setOnPage(bool on);
+    /// Says what a screen reader is to call it.
+    virtual void name(const QString& question);
+
+    /// Width that suits the control; a box that stands alone in its row may be wide.
+    virtual int naturalWidth(bool alone) const;
+    /// Width below which the control could not be read.
+    virtual int leastWidth() const { return naturalWidth(false); }
+    /// Size to be given when `available` pixels of width are there.
+    virtual QSize sizeFor(int available, bool alone);
+    /// It carries its own words and may stand in the place of a question.
+    virtual bool standsAsQuestion() const { return false; }
+    /// It takes the whole width of the page and what height there is.
+    virtual bool fillsPage() const { return false; }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    virtual void syncContent() {}
+    virtual QPalette::ColorRole backRole() const { return QPalette::Window; }
+    virtual Colour foreColor() const { return black; }
+    virtual bool changesByWheel() const { return false; }
+    /// Handles a key of the system's own. True when the widget is not to see it.
+    virtual bool systemKey(const QKeyEvent& event);
+    /// Runs an act of the user on the control and shows what came of it.
+    void act(const std::function<void()>& what, Qt::FocusReason reason = Qt::OtherFocusReason);
+
+    Control* subject;
+    QWidget& picture;
+    ScreenView& screen;
+
+private:
+    struct Colours {
+        Colour back;
+        Colour fore;
+        Colour form;
+        bool operator==(const Colours&) const = default;
+    };
+    void watch(QWidget& part);
+    void syncColours();
+    bool mousePressed();
+    void focusArrived(Qt::FocusReason reason);
+
+    std::optional<Colours> shown;
+    bool onPage = true;
+};
+
+/// The view of a control of any kind, its widget inside `parent`.
+ControlView& makeControlView(Control& control, QWidget& parent, ScreenView& screen);
+
+}  // namespace plandesk::desktop

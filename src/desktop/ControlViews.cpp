@@ -1,0 +1,313 @@
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTextBrowser>
+#include <QToolButton>
+#include <algorithm>
+
+#include "controls/Controls.h"
+#include "controls/Form.h"
+#include "controls/User.h"
+#include "desktop/ControlView.h"
+#include "desktop/ListBox.h"
+#include "desktop/Pictures.h"
+#include "desktop/QtText.h"
+#include "desktop/ScreenView.h"
+#include "desktop/TextBoxView.h"
+
+namespace plandesk::desktop {
+
+namespace {
+
+/// Breaks a caption at blanks so that no line is wider than `width`, where its words allow.
+QString brokenOverLines(const QString& caption, const QFontMetrics& metrics, int width) {
+    QString result;
+    QString line;
+    for (const QString& word : caption.split(' ')) {
+        const QString longer = line.isEmpty() ? word : line + ' ' + word;
+        if (!line.isEmpty() && metrics.horizontalAdvance(longer) > width) {
+            result += line + '\n';
+            line = word;
+        } else {
+            line = longer;
+        }
+    }
+    return result + line;
+}
+
+/// Option and check box: a mark and a caption, which may take several lines.
+class ToggleView : public ControlView {
+public:
+    ToggleView(Captioned& captioned, QAbstractButton& button, ScreenView& screen)
+        : ControlView(captioned, button, screen), button(button) {
+        connect(&button, &QAbstractButton::clicked, this, [this] { act([this] { user::click(*subject); }); });
+    }
+
+    void name(const QString& question) override {
+        const QString own = words().trimmed();
+        ControlView::name(question.isEmpty() || question == own ? own : question + ": " + own);
+    }
+    int naturalWidth(bool /*alone*/) const override { return markWidth() + textWidth(words()); }
+    int leastWidth() const override {
+        return std::min(naturalWidth(false), leastCharacters * button.fontMetrics().averageCharWidth());
+    }
+    QSize sizeFor(int available, bool /*alone*/) override {
+        button.setText(brokenOverLines(words(), button.fontMetrics(), available - markWidth()));
+        const QSize hint = button.sizeHint();
+        return {std::min(available, hint.width()), hint.height()};
+    }
+    bool standsAsQuestion() const override { return true; }
+
+protected:
+    QAbstractButton& button;
+
+private:
+    static constexpr int leastCharacters = 24;
+
+    QString words() const { return subject ? toQt(static_cast<Captioned&>(*subject).caption()) : button.text(); }
+    int markWidth() const { return button.sizeHint().width() - textWidth(button.text()); }
+    int textWidth(const QString& text) const { return button.fontMetrics().size(Qt::TextShowMnemonic, text).width(); }
+    bool systemKey(const QKeyEvent& event) override {
+        const bool back = event.key() == Qt::Key_Left || event.key() == Qt::Key_Up;
+        if (back || event.key() == Qt::Key_Right || event.key() == Qt::Key_Down) {
+            act([&] { user::press(*subject, back ? "Shift+Tab" : "Tab"); }, Qt::TabFocusReason);
+            return true;
+        }
+        return ControlView::systemKey(event);
+    }
+    void syncContent() override {
+        const QString caption = words();
+        if (caption != shownCaption)
+            button.setText(shownCaption = caption);
+        button.setChecked(checked());
+    }
+    virtual bool checked() const = 0;
+
+    QString shownCaption;
+};
+
+class OptionView : public ToggleView {
+public:
+    OptionView(OptionButton& option, QRadioButton& button, ScreenView& screen) : ToggleView(option, button, screen) {
+        button.setAutoExclusive(false);
+    }
+
+private:
+    bool checked() const override { return static_cast<OptionButton&>(*subject).value(); }
+};
+
+class CheckView : public ToggleView {
+public:
+    using ToggleView::ToggleView;
+
+private:
+    bool checked() const override { return static_cast<CheckBox&>(*subject).value() != 0; }
+};
+
+class ListView : public ControlView {
+public:
+    ListView(ComboBox& list, ListBox& box, ScreenView& screen) : ControlView(list, box, screen), box(box) {
+        connect(&box, &QComboBox::activated, this,
+                [this](int place) { act([&] { user::pick(static_cast<ComboBox&>(*subject), place); }); });
+    }
+
+private:
+    QPalette::ColorRole backRole() const override { return QPalette::Button; }
+    bool changesByWheel() const override { return true; }
+    void syncContent() override {
+        const auto& list = static_cast<ComboBox&>(*subject);
+        if (!sameItems(list)) {
+            QStringList items;
+            for (int place = 0; place < list.listCount(); ++place)
+                items += toQt(list.item(place));
+            box.clear();
+            box.addItems(items);
+        }
+        box.setCurrentIndex(list.listIndex());
+        box.setForeignText(list.listIndex() < 0 ? toQt(list.text()) : QString());
+    }
+    bool sameItems(const ComboBox& list) const {
+        bool same = box.count() == list.listCount();
+        for (int place = 0; same && place < box.count(); ++place)
+            same = box.itemText(place) == toQt(list.item(place));
+        return same;
+    }
+
+    ListBox& box;
+};
+
+class DateView : public ControlView {
+public:
+    DateView(DatePicker& picker, QDateEdit& edit, ScreenView& screen) : ControlView(picker, edit, screen), edit(edit) {
+        constexpr int firstYear = 100;
+        constexpr int lastYear = 9999;
+        edit.setLocale(QLocale::c());
+        edit.setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+        edit.setDateRange({firstYear, 1, 1}, {lastYear, 12, 31});
+        edit.setCalendarPopup(true);
+        connect(&edit, &QDateEdit::dateChanged, this, [this](QDate date) {
+            act([&] { user::pickDate(static_cast<DatePicker&>(*subject), {date.year(), date.month(), date.day()}); });
+        });
+    }
+
+private:
+    QPalette::ColorRole backRole() const override { return QPalette::Base; }
+    bool changesByWheel() const override { return true; }
+    void syncContent() override {
+        const Date date = static_cast<DatePicker&>(*subject).date();
+        edit.setDate({date.year, date.month, date.day});
+    }
+
+    QDateEdit& edit;
+};
+
+class LabelView : public ControlView {
+public:
+    LabelView(Captioned& captioned, QLabel& label, ScreenView& screen)
+        : ControlView(captioned, label, screen), label(label) {
+        label.setTextFormat(Qt::PlainText);
+        if (captioned.click) {
+            label.setCursor(Qt::PointingHandCursor);
+            QFont font = label.font();
+            font.setUnderline(true);
+            label.setFont(font);
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonRelease &&
+            label.rect().contains(static_cast<QMouseEvent*>(event)->pos()))
+            act([this] { user::click(*subject); });
+        return ControlView::eventFilter(watched, event);
+    }
+    void name(const QString&) override {}
+
+private:
+    Colour foreColor() const override { return static_cast<Captioned&>(*subject).foreColor(); }
+    void syncContent() override { label.setText(toQt(static_cast<Captioned&>(*subject).caption())); }
+
+    QLabel& label;
+};
+
+class ButtonView : public ControlView {
+public:
+    ButtonView(Captioned& captioned, QPushButton& button, ScreenView& screen)
+        : ControlView(captioned, button, screen), button(button) {
+        button.setAutoDefault(false);
+        connect(&button, &QPushButton::clicked, this, [this] { act([this] { user::click(*subject); }); });
+    }
+
+    int naturalWidth(bool /*alone*/) const override {
+        // Style hints make every button as wide as a word; numbered ones stand closer.
+        return button.fontMetrics().size(Qt::TextShowMnemonic, button.text()).width() + button.sizeHint().height();
+    }
+
+private:
+    QPalette::ColorRole backRole() const override { return QPalette::Button; }
+    void syncContent() override {
+        button.setText(toQt(static_cast<Captioned&>(*subject).caption()));
+        button.setAccessibleName(button.text().remove('&').trimmed());
+        markCurrent();
+    }
+    void name(const QString&) override {}
+    /// Of numbered buttons the one in another colour is the current one; the two colours are hard to tell apart.
+    void markCurrent() {
+        const bool current =
+            subject->index() != Control::noIndex && subject->backColor() != subject->form().backColor();
+        if (QFont font = button.font(); font.bold() != current) {
+            font.setBold(current);
+            button.setFont(font);
+        }
+    }
+
+    QPushButton& button;
+};
+
+class ImageView : public ControlView {
+public:
+    ImageView(Captioned& image, QToolButton& button, ScreenView& screen) : ControlView(image, button, screen) {
+        const int side = button.fontMetrics().height();
+        button.setAutoRaise(true);
+        button.setIcon(detailsIcon(side));
+        button.setIconSize({side, side});
+        connect(&button, &QToolButton::clicked, this, [this] { act([this] { user::click(*subject); }); });
+    }
+
+    void name(const QString& question) override { ControlView::name(question + ": " + picture.toolTip()); }
+};
+
+class TabsView : public ControlView {
+public:
+    TabsView(TabStrip& strip, QTabBar& bar, ScreenView& screen) : ControlView(strip, bar, screen), bar(bar) {
+        bar.setDrawBase(false);
+        const int first = strip.form().layout().firstTabNumber;
+        for (int tab = 0; tab < strip.count(); ++tab)
+            bar.addTab(QString::number(first + tab));
+        connect(&bar, &QTabBar::currentChanged, this,
+                [this](int tab) { act([&] { user::showTab(static_cast<TabStrip&>(*subject), tab); }); });
+    }
+
+private:
+    bool changesByWheel() const override { return true; }
+    void syncContent() override { bar.setCurrentIndex(static_cast<TabStrip&>(*subject).tab()); }
+
+    QTabBar& bar;
+};
+
+class RichTextView : public ControlView {
+public:
+    RichTextView(RichText& text, QTextBrowser& browser, ScreenView& screen) : ControlView(text, browser, screen) {
+        browser.setHtml(toQt(text.html));
+    }
+
+    int naturalWidth(bool /*alone*/) const override {
+        constexpr int characters = 80;
+        return characters * picture.fontMetrics().averageCharWidth();
+    }
+    QSize sizeFor(int available, bool alone) override {
+        constexpr int lines = 26;
+        return {std::min(available, naturalWidth(alone)), lines * picture.fontMetrics().lineSpacing()};
+    }
+    bool fillsPage() const override { return true; }
+
+private:
+    QPalette::ColorRole backRole() const override { return QPalette::Base; }
+};
+
+}  // namespace
+
+ControlView& makeControlView(Control& control, QWidget& parent, ScreenView& screen) {
+    switch (control.kind()) {
+    case ControlKind::TextBox:
+        return makeTextBoxView(static_cast<TextBox&>(control), parent, screen);
+    case ControlKind::OptionButton:
+        return *new OptionView(static_cast<OptionButton&>(control), *new QRadioButton(&parent), screen);
+    case ControlKind::CheckBox:
+        return *new CheckView(static_cast<CheckBox&>(control), *new QCheckBox(&parent), screen);
+    case ControlKind::ComboBox:
+        return *new ListView(static_cast<ComboBox&>(control), *new ListBox(parent), screen);
+    case ControlKind::DatePicker:
+        return *new DateView(static_cast<DatePicker&>(control), *new QDateEdit(&parent), screen);
+    case ControlKind::Button:
+        return *new ButtonView(static_cast<Button&>(control), *new QPushButton(&parent), screen);
+    case ControlKind::Image:
+        return *new ImageView(static_cast<Image&>(control), *new QToolButton(&parent), screen);
+    case ControlKind::TabStrip:
+        return *new TabsView(static_cast<TabStrip&>(control), *new QTabBar(&parent), screen);
+    case ControlKind::RichText:
+        return *new RichTextView(static_cast<RichText&>(control), *new QTextBrowser(&parent), screen);
+    case ControlKind::Label:
+    case ControlKind::Frame:
+        return *new LabelView(static_cast<Captioned&>(control), *new QLabel(&parent), screen);
+    case ControlKind::Grid:
+        break;
+    }
+    return *new ControlView(control, *new QWidget(&parent), screen);
+}
+
+}  // namespace plandesk::desktop

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+#include <functional>
+
+namespace plandesk::desktop {
+
+/// The room inside the main window in which the forms stand, with the picture in its middle.
+class Desk : public QWidget {
+public:
+    explicit Desk(QWidget& mainWindow);
+
+    void setBackColor(const QColor& colour);
+    /// Draws the picture to the middle of the present size. Until the next call it stays where it is.
+    void paintBackground();
+
+    std::function<void()> resized = [] {};
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QPixmap picture;
+    QPoint place;
+};
+
+}  // namespace plandesk::desktop

@@ -1,0 +1,196 @@
+#include "desktop/FormView.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "base/Text.h"
+#include "controls/Controls.h"
+#include "controls/Screen.h"
+#include "controls/User.h"
+#include "desktop/FlowLine.h"
+#include "desktop/Keys.h"
+#include "desktop/PageView.h"
+#include "desktop/QtText.h"
+#include "desktop/ScreenView.h"
+
+namespace plandesk::desktop {
+
+FormView::FormView(Form& shown, ScreenView& screen, QWidget& parent) : QWidget(&parent), form(&shown), screen(screen) {
+    setObjectName(toQt(form->name()));
+    setAccessibleName(toQt(form->caption()).trimmed());
+    setAutoFillBackground(true);
+    const Layout& layout = form->layout();
+    head = makeViews(layout.head);
+    tabs = makeView(layout.tabs, *this);
+    pages.resize(tabs ? layout.pages.size() : 1);
+    buttons = makeViews(layout.buttons);
+    showChosenPage();
+    syncAll();
+}
+
+FormView::~FormView() = default;
+
+ControlView* FormView::makeView(std::string_view key, QWidget& parent) {
+    Control* control = key.empty() ? nullptr : form->findKey(key);
+    if (!control)
+        return nullptr;
+    ControlView& view = makeControlView(*control, parent, screen);
+    drawn[control] = &view;
+    view.sync();
+    return &view;
+}
+
+FormView::Views FormView::makeViews(std::string_view keys) {
+    Views views;
+    for (const std::string& key : split(keys, " ")) {
+        if (ControlView* view = makeView(key, *this)) {
+            view->name({});
+            views.push_back(view);
+        }
+    }
+    return views;
+}
+
+std::size_t FormView::chosenPage() const {
+    const auto* strip = tabs && tabs->control() ? static_cast<const TabStrip*>(tabs->control()) : nullptr;
+    return strip ? std::min(static_cast<std::size_t>(strip->tab()), pages.size() - 1) : 0;
+}
+
+void FormView::showChosenPage() {
+    current = chosenPage();
+    const bool isNew = !pages[current].area;
+    if (isNew)
+        drawPage(current);
+    for (std::size_t number = 0; number < pages.size(); ++number)
+        if (pages[number].area)
+            pages[number].area->setVisible(number == current);
+    arrange();
+}
+
+void FormView::drawPage(std::size_t number) {
+    const Layout& layout = form->layout();
+    std::vector<LayoutGroup> groups;
+    for (std::size_t page = 0; page < layout.pages.size(); ++page)
+        if (!tabs || page == number)
+            groups.insert(groups.end(), layout.pages[page].groups.begin(), layout.pages[page].groups.end());
+    Page& page = pages[number];
+    page.area = new QScrollArea(this);
+    page.area->setFrameShape(QFrame::NoFrame);
+    page.area->setFocusPolicy(Qt::NoFocus);
+    page.view = new PageView(*page.area, std::move(groups), layout.questionWidth,
+                             [this](std::string_view key, QWidget& parent) { return makeView(key, parent); });
+    page.area->setWidget(page.view);
+}
+
+void FormView::sync(Control& control) {
+    if (const auto view = drawn.find(&control); view != drawn.end())
+        view->second->sync();
+    if (tabs && tabs->control() == &control && chosenPage() != current)
+        showChosenPage();
+}
+
+void FormView::syncAll() {
+    QPalette palette;
+    palette.setColor(QPalette::Window, toQt(form->backColor()));
+    setPalette(palette);
+    for (const auto& [control, view] : drawn)
+        view->sync();
+}
+
+void FormView::detach() {
+    form = nullptr;
+    for (const auto& [control, view] : drawn)
+        view->detach();
+}
+
+QWidget* FormView::widgetOf(const Control& control) const {
+    const auto view = drawn.find(&control);
+    return view == drawn.end() ? nullptr : &view->second->widget();
+}
+
+void FormView::takeKeys(const Control* control, Qt::FocusReason reason) {
+    QWidget* widget = control && control->takesFocus() ? widgetOf(*control) : nullptr;
+    if (!widget || !widget->isVisibleTo(this))
+        widget = this;
+    if (window()->focusWidget() == widget)
+        return;
+    widget->setFocus(reason);
+    const Page& page = pages[current];
+    if (!page.view->isAncestorOf(widget))
+        return;
+    QCoreApplication::sendPostedEvents(page.view, QEvent::LayoutRequest);
+    page.area->ensureWidgetVisible(widget, gap(), 3 * gap());
+}
+
+int FormView::gap() const {
+    return fontMetrics().averageCharWidth();
+}
+
+int FormView::placeViews(const Views& views, int width, int top) const {
+    FlowLine line(2 * gap(), width - 2 * gap(), top + gap(), 0, gap());
+    for (ControlView* view : views)
+        if (view->control() && view->control()->visible())
+            line.add(view->widget(), view->sizeFor(width - 4 * gap(), false));
+    return views.empty() ? top : line.finish() + gap();
+}
+
+void FormView::arrange() {
+    int top = placeViews(head, width(), 0);
+    if (tabs && tabs->control() && tabs->control()->visible()) {
+        const QSize size = tabs->widget().sizeHint();
+        tabs->widget().setGeometry(QRect({2 * gap(), top}, size));
+        top += size.height();
+    }
+    const int buttonsHeight = placeViews(buttons, width(), 0);
+    placeViews(buttons, width(), height() - buttonsHeight);
+    const Page& page = pages[current];
+    const int pageHeight = std::max(0, height() - buttonsHeight - top);
+    page.area->setGeometry(0, top, width(), pageHeight);
+    page.area->verticalScrollBar()->setSingleStep(fontMetrics().height() * 2);
+    page.view->arrange(width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent), pageHeight);
+    QCoreApplication::removePostedEvents(this, QEvent::LayoutRequest);
+}
+
+QSize FormView::naturalSize(QSize limit) {
+    // Forms of several pages are all of one width, so that nothing jumps where one leads to the other.
+    const int leastCharacters = pages.size() > 1 ? 136 : 60;
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int wanted = std::max({width(), pages[current].view->naturalWidth() + scrollBar, leastCharacters * gap()});
+    const int newWidth = std::min(wanted, limit.width());
+    if (pages.size() > 1)
+        return {newWidth, limit.height()};
+    pages[current].view->arrange(newWidth - scrollBar, 0);
+    const int frame = placeViews(head, newWidth, 0) + placeViews(buttons, newWidth, 0);
+    return {newWidth, std::min(frame + pages[current].view->height(), limit.height())};
+}
+
+bool FormView::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest)
+        arrange();
+    return QWidget::event(event);
+}
+
+void FormView::resizeEvent(QResizeEvent* /*event*/) {
+    arrange();
+}
+
+void FormView::keyPressEvent(QKeyEvent* event) {
+    const std::string_view key = systemKeyName(*event);
+    if (key.empty() || !form)
+        return QWidget::keyPressEvent(event);
+    screen.act(Qt::TabFocusReason, [&] { user::pressForm(*form, key); });
+}
+
+void FormView::mousePressEvent(QMouseEvent* /*event*/) {
+    if (form && !form->front())
+        screen.act(Qt::MouseFocusReason, [this] { form->screen().event([this] { form->bringToFront(); }); });
+}
+
+bool FormView::focusNextPrevChild(bool /*next*/) {
+    // The system moves the focus, the toolkit never does.
+    return true;
+}
+
+}  // namespace plandesk::desktop

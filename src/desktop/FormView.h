@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QScrollArea>
+#include <QWidget>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "controls/Form.h"
+#include "desktop/ControlView.h"
+
+namespace plandesk::desktop {
+
+class PageView;
+class ScreenView;
+
+/// A form as its layout tells: a row of links and page buttons, the pages, a row of buttons. A page is drawn when it is
+/// shown for the first time.
+class FormView : public QWidget {
+public:
+    FormView(Form& form, ScreenView& screen, QWidget& parent);
+    ~FormView() override;
+
+    /// Shows what the control holds now, where it has been drawn.
+    void sync(Control& control);
+    /// Shows everything anew that was drawn.
+    void syncAll();
+    /// The form is gone; this is only a dead picture now.
+    void detach();
+
+    /// Gives the keyboard to the control, or to the form when the control is not there.
+    void takeKeys(const Control* control, Qt::FocusReason reason);
+    /// Widget of the control; null when it has not been drawn.
+    QWidget* widgetOf(const Control& control) const;
+    /// Size that shows the page without scrolling, as far as `limit` allows.
+    QSize naturalSize(QSize limit);
+
+protected:
+    bool event(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    struct Page {
+        QScrollArea* area = nullptr;
+        PageView* view = nullptr;
+    };
+    using Views = std::vector<ControlView*>;
+
+    ControlView* makeView(std::string_view key, QWidget& parent);
+    Views makeViews(std::string_view keys);
+    std::size_t chosenPage() const;
+    void showChosenPage();
+    void drawPage(std::size_t number);
+    int placeViews(const Views& views, int width, int top) const;
+    void arrange();
+    int gap() const;
+
+    Form* form;
+    ScreenView& screen;
+    std::unordered_map<const Control*, ControlView*> drawn;
+    Views head;
+    ControlView* tabs = nullptr;
+    Views buttons;
+    std::vector<Page> pages;
+    std::size_t current = 0;
+};
+
+}  // namespace plandesk::desktop

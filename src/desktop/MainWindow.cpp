@@ -1,0 +1,142 @@
+#include "desktop/MainWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QShortcut>
+#include <QStatusBar>
+#include <algorithm>
+#include <array>
+
+#include "desktop/QtText.h"
+#include "shell/mdiInterface.h"
+
+namespace plandesk::desktop {
+
+namespace {
+
+constexpr QSize firstSize{1180, 820};
+constexpr int tick = 100;  // milliseconds, both timers
+
+struct Shortcut {
+    std::string_view entry;
+    QKeySequence::StandardKey key;
+};
+constexpr std::array<Shortcut, 4> shortcuts = {{
+    {"mnuNew", QKeySequence::New},
+    {"mnuOpen", QKeySequence::Open},
+    {"mnuSave", QKeySequence::Save},
+    {"mnuContent", QKeySequence::HelpContents},
+}};
+
+/// A caption as the toolkit takes it for a title, so that the user reads just the caption.
+QString asTitle(std::string_view caption) {
+    // An empty title would be replaced by the program's name.
+    if (caption.empty())
+        return QStringLiteral(" ");
+    return toQt(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
+    : proposal(proposal), shell(shell), desk(new Desk(*this)), screenView(proposal.screen, *desk) {
+    setObjectName(QStringLiteral("mdiInterface"));
+    setCentralWidget(desk);
+    makeMenu();
+    makeStatusBar();
+    makeTimers();
+    screenView.mainWindowTouched = [this] { showState(); };
+    desk->resized = [this] {
+        screenView.fitWindows();
+        this->shell.resized();
+        timer2.start(tick);
+    };
+    shell.paintBackground = [this] { desk->paintBackground(); };
+    shell.minimised = [this] { return isMinimized(); };
+    auto* close = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4), this);
+    connect(close, &QShortcut::activated, this, [this] { closeFrontForm(); });
+    showState();
+    screenView.refresh();
+    resize(firstSize.boundedTo(screen()->availableSize()));
+}
+
+MainWindow::~MainWindow() {
+    shell.paintBackground = [] {};
+    shell.minimised = [] { return false; };
+}
+
+QAction* MainWindow::entry(std::string_view name) const {
+    const auto found = entries.find(name);
+    return found == entries.end() ? nullptr : found->second;
+}
+
+void MainWindow::makeMenu() {
+    std::map<std::string_view, QMenu*> submenus;
+    for (const MenuEntry& item : mdiInterface::menu()) {
+        const auto parent = submenus.find(item.parent);
+        const QString caption = toQt(item.caption);
+        QAction* action = nullptr;
+        if (item.submenu) {
+            QMenu* menu = parent == submenus.end() ? menuBar()->addMenu(caption) : parent->second->addMenu(caption);
+            submenus[item.name] = menu;
+            action = menu->menuAction();
+        } else {
+            action = parent == submenus.end() ? menuBar()->addAction(caption) : parent->second->addAction(caption);
+            connect(action, &QAction::triggered, this,
+                    [this, name = item.name] { screenView.act(Qt::OtherFocusReason, [&] { shell.press(name); }); });
+        }
+        action->setObjectName(toQt(item.name));
+        entries[std::string(item.name)] = action;
+    }
+    for (const Shortcut& shortcut : shortcuts)
+        if (QAction* action = entry(shortcut.entry))
+            action->setShortcut(shortcut.key);
+}
+
+void MainWindow::makeStatusBar() {
+    auto* panel = new QLabel(QStringLiteral("Powered by   Meridane Works"));
+    panel->setObjectName(QStringLiteral("statusPanel"));
+    statusBar()->addWidget(panel);
+}
+
+void MainWindow::makeTimers() {
+    connect(&timer1, &QTimer::timeout, this, [this] {
+        shell.Timer1_Timer();
+        screenView.refresh();
+    });
+    timer1.start(tick);
+    connect(&timer2, &QTimer::timeout, this, [this] {
+        shell.Timer2_Timer();
+        if (!shell.timer2Enabled())
+            timer2.stop();
+    });
+}
+
+void MainWindow::showState() {
+    if (const QString title = asTitle(proposal.screen.caption()); windowTitle() != title)
+        setWindowTitle(title);
+    desk->setBackColor(toQt(shell.backColor()));
+    for (const auto& [name, action] : entries)
+        action->setEnabled(shell.available(name));
+}
+
+void MainWindow::closeFrontForm() {
+    screenView.act(Qt::OtherFocusReason, [this] {
+        proposal.screen.event([this] {
+            if (Form* front = proposal.screen.frontForm())
+                front->closeBox();
+        });
+    });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!proposal.screen.ended())
+        screenView.act(Qt::OtherFocusReason, [this] { shell.closeBox(); });
+    event->setAccepted(proposal.screen.ended());
+}
+
+}  // namespace plandesk::desktop

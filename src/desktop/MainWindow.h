@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QTimer>
+#include <map>
+#include <string>
+
+#include "desktop/Desk.h"
+#include "desktop/ScreenView.h"
+
+class QAction;
+
+namespace plandesk {
+class Proposal;
+class mdiInterface;
+}  // namespace plandesk
+
+namespace plandesk::desktop {
+
+/// The picture of the main window: menu, desk with the forms, status bar, and the beat of the two timers.
+class MainWindow : public QMainWindow {
+public:
+    MainWindow(Proposal& proposal, mdiInterface& shell);
+    ~MainWindow() override;
+
+    ScreenView& forms() { return screenView; }
+    /// The menu entry of that name; null when there is none.
+    QAction* entry(std::string_view name) const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void makeMenu();
+    void makeStatusBar();
+    void makeTimers();
+    void showState();
+    void closeFrontForm();
+
+    Proposal& proposal;
+    mdiInterface& shell;
+    Desk* desk;
+    ScreenView screenView;
+    std::map<std::string, QAction*, std::less<>> entries;
+    QTimer timer1;
+    QTimer timer2;
+};
+
+}  // namespace plandesk::desktop

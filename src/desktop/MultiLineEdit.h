@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <functional>
+
+#include "desktop/FilteredEdit.h"
+
+namespace plandesk::desktop {
+
+/// An editor of several lines over a text that it does not own. The editor knows only one kind of line end, so it works
+/// out each edit as a cut and a piece put in; what the user did not touch keeps the line ends it had.
+class MultiLineEdit : public FilteredEdit<QPlainTextEdit> {
+public:
+    explicit MultiLineEdit(QWidget& parent);
+
+    /// Shows a text; the caret stays where it was. Nothing happens when it is shown already.
+    void show(const QString& text);
+    /// Told the whole new text after each edit of the user.
+    std::function<void(const QString& text)> edited = [](const QString&) {};
+
+protected:
+    void insertFromMimeData(const QMimeData* source) override;
+
+private:
+    void typed();
+    /// Puts `piece` in place of the characters from `from` up to `to`, counted as the editor counts them.
+    void replace(qsizetype from, qsizetype to, const QString& piece);
+
+    QString content;
+    bool showing = false;
+};
+
+}  // namespace plandesk::desktop

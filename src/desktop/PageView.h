@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+#include <functional>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "controls/Layout.h"
+#include "desktop/ControlView.h"
+
+namespace plandesk::desktop {
+
+/// Makes the view of a control of the form by its name in the layout; null when the form has no such control.
+using ViewMaker = std::function<ControlView*(std::string_view key, QWidget& parent)>;
+
+/// One page of a form: groups of rows, each a question with the controls that answer it, in columns that run down the
+/// whole page. What does not fit beside its question stands below it.
+class PageView : public QWidget {
+public:
+    /// `questionWidth`: widest question column, in average characters of the font.
+    PageView(QWidget& parent, std::vector<LayoutGroup> groups, int questionWidth, const ViewMaker& maker);
+
+    /// Lays the page out in that width; the page takes the height it needs. `viewHeight`: what one sees of it at once.
+    void arrange(int width, int viewHeight);
+    /// Width in which every answer stands beside its question.
+    int naturalWidth();
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    struct Row {
+        QLabel* item = nullptr;
+        QLabel* question = nullptr;
+        ControlView* liveQuestion = nullptr;  ///< set when the question is the caption of a label of the form
+        QLabel* mark = nullptr;
+        QLabel* unit = nullptr;
+        std::vector<ControlView*> controls;
+        bool shown = true;
+    };
+    struct Group {
+        ControlView* frame = nullptr;
+        QLabel* title = nullptr;
+        std::vector<QLabel*> heads;  ///< the first stands over the questions
+        std::vector<Row> rows;
+        bool shown = true;
+        QRect outline;
+    };
+    /// Where the columns begin, in pixels of the page.
+    struct Columns {
+        int item = 0;
+        int question = 0;
+        int questionWidth = 0;
+        int mark = 0;
+        int controls = 0;
+        int right = 0;
+        int naturalWidth = 0;
+    };
+
+    Group makeGroup(const LayoutGroup& group, const ViewMaker& maker);
+    Row makeRow(const LayoutRow& row, std::span<const std::string_view> heads, const ViewMaker& maker);
+    QLabel* makeLabel(std::string_view text);
+    static void nameControls(const Row& row, std::span<const std::string_view> heads);
+    /// Whether the row's first control carries the words that others have as their question.
+    static bool leadsRow(const Row& row);
+    void updateShown();
+    static void setShown(const Row& row);
+
+    Columns columnsFor(int width) const;
+    int controlsWidth(const Row& row) const;
+    std::vector<int> tableColumns(const Group& group) const;
+    // Each of these puts a part at `top` and tells where it ends.
+    int placeGroup(Group& group, const Columns& columns, int top);
+    int placeTitle(const Group& group, const Columns& columns, int top);
+    int placeHeads(const Group& group, const Columns& columns, const std::vector<int>& widths, int top);
+    int placeTableRow(const Row& row, const Columns& columns, const std::vector<int>& widths, int top);
+    int placeRow(const Row& row, const Columns& columns, int top);
+    int placeQuestion(const Row& row, const Columns& columns, int top, int width);
+    int placeFilling(ControlView& view, const Columns& columns, int top);
+    int placeControls(const Row& row, int left, int right, int top);
+    int lineHeight() const;
+    int gap() const;
+
+    int questionCharacters;
+    std::vector<Group> groups;
+    int lastWidth = 0;
+    int lastViewHeight = 0;
+};
+
+}  // namespace plandesk::desktop

@@ -1,0 +1,126 @@
+#include "desktop/Pictures.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <array>
+
+namespace plandesk::desktop {
+
+namespace {
+
+constexpr QSize planSize{520, 360};
+
+// Walls of the plan, with gaps where doors and windows are.
+constexpr std::array<QLine, 18> outerWalls = {{
+    {40, 40, 150, 40},
+    {210, 40, 330, 40},
+    {390, 40, 480, 40},
+    {480, 40, 480, 120},
+    {480, 180, 480, 300},
+    {480, 300, 420, 300},
+    {350, 300, 270, 300},
+    {220, 300, 120, 300},
+    {60, 300, 40, 300},
+    {40, 300, 40, 220},
+    {40, 160, 40, 40},
+    {200, 40, 200, 110},
+    {200, 160, 200, 190},
+    {40, 190, 120, 190},
+    {165, 190, 330, 190},
+    {330, 40, 330, 130},
+    {330, 175, 330, 300},
+    {330, 190, 400, 190},
+}};
+constexpr std::array<QLine, 7> windows = {{
+    {150, 40, 210, 40},
+    {330, 40, 390, 40},
+    {480, 120, 480, 180},
+    {350, 300, 420, 300},
+    {60, 300, 120, 300},
+    {40, 160, 40, 220},
+    {445, 190, 480, 190},
+}};
+
+struct Door {
+    QPoint hinge;
+    int leaf;
+    int startAngle;  ///< degrees, the leaf swings a quarter circle from here
+};
+constexpr std::array<Door, 5> doors = {{
+    {{270, 300}, 50, 90},
+    {{200, 160}, 50, 90},
+    {{165, 190}, 45, 180},
+    {{330, 175}, 45, 0},
+    {{400, 190}, 45, 270},
+}};
+
+void drawDoor(QPainter& painter, const Door& door) {
+    constexpr int quarter = 90;
+    constexpr int units = 16;
+    const QRect circle(door.hinge - QPoint(door.leaf, door.leaf), QSize(2 * door.leaf, 2 * door.leaf));
+    painter.drawPie(circle, door.startAngle * units, quarter * units);
+}
+
+void drawDimension(QPainter& painter, QLine line) {
+    const QPoint tick = line.dx() == 0 ? QPoint(6, 0) : QPoint(0, 6);
+    painter.drawLine(line);
+    painter.drawLine(line.p1() - tick, line.p1() + tick);
+    painter.drawLine(line.p2() - tick, line.p2() + tick);
+}
+
+void drawStairs(QPainter& painter) {
+    for (int x = 215; x <= 320; x += 15)
+        painter.drawLine(x, 50, x, 110);
+    painter.drawRect(215, 50, 105, 60);
+    painter.drawLine(222, 80, 312, 80);
+}
+
+}  // namespace
+
+QPixmap floorPlanPicture() {
+    const QColor ink(0x5B, 0x45, 0x24);
+    QPixmap picture(planSize);
+    picture.fill(QColor(0xF7, 0xEF, 0xE1));
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0xEA, 0xDC, 0xC3), 1));
+    for (int x = 20; x < planSize.width(); x += 20)
+        painter.drawLine(x, 0, x, planSize.height());
+    for (int y = 20; y < planSize.height(); y += 20)
+        painter.drawLine(0, y, planSize.width(), y);
+    painter.setPen(QPen(ink, 1));
+    for (const Door& door : doors)
+        drawDoor(painter, door);
+    drawStairs(painter);
+    drawDimension(painter, {40, 336, 480, 336});
+    drawDimension(painter, {506, 40, 506, 300});
+    painter.setPen(QPen(ink, 7, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLines(outerWalls.data(), static_cast<int>(outerWalls.size()));
+    painter.setPen(QPen(ink, 5, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLines(windows.data(), static_cast<int>(windows.size()));
+    painter.setPen(QPen(Qt::white, 2, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLines(windows.data(), static_cast<int>(windows.size()));
+    painter.setPen(QPen(ink, 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(picture.rect().adjusted(1, 1, -1, -1));
+    return picture;
+}
+
+QIcon detailsIcon(int side) {
+    constexpr double grid = 14.0;
+    QPixmap picture(side, side);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(side / grid, side / grid);
+    painter.setPen(QPen(QColor(0x40, 0x50, 0x70), 1));
+    painter.setBrush(Qt::white);
+    painter.drawRect(QRectF(1.5, 0.5, 9, 12));
+    for (const double y : {3.5, 5.5, 7.5})
+        painter.drawLine(QPointF(3.5, y), QPointF(8.5, y));
+    painter.setPen(QPen(QColor(0xC0, 0x50, 0x10), 2));
+    painter.drawLine(QPointF(7, 11), QPointF(12.5, 5.5));
+    return picture;
+}
+
+}  // namespace plandesk::desktop

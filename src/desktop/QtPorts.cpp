@@ -1,0 +1,112 @@
+#include "desktop/QtPorts.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QStandardPaths>
+#include <array>
+
+#include "desktop/QtText.h"
+
+namespace plandesk::desktop {
+
+namespace {
+
+/// System information tools that desktops bring along, the first one found is started.
+constexpr std::array systemInformationTools = {"kinfocenter", "hardinfo2",           "hardinfo",
+                                               "hwinfo-gui",  "mate-system-monitor", "gnome-system-monitor"};
+
+QMessageBox::Icon iconOf(Icon icon) {
+    switch (icon) {
+    case Icon::Information:
+        return QMessageBox::Information;
+    case Icon::Question:
+        return QMessageBox::Question;
+    case Icon::Critical:
+        return QMessageBox::Critical;
+    case Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+void prepare(QMessageBox& box) {
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setTextFormat(Qt::PlainText);
+}
+
+std::string chosenPath(QFileDialog& chooser, const FileDialog& dialog) {
+    chooser.setObjectName(QStringLiteral("fileDialog"));
+    chooser.setNameFilters({toQt(dialog.filter), QFileDialog::tr("All files (*)")});
+    chooser.setDefaultSuffix(toQt(dialog.defaultExtension));
+    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty())
+        return dialog.fileName;
+    return fromQt(chooser.selectedFiles().constFirst());
+}
+
+}  // namespace
+
+QString QtDialogs::titleOf(const Message& message) const {
+    return toQt(message.title.empty() ? program.title() : message.title);
+}
+
+void QtDialogs::showMessage(const Message& message) {
+    QMessageBox box(iconOf(message.icon), titleOf(message), toQt(message.text), QMessageBox::Ok, parent);
+    prepare(box);
+    box.exec();
+}
+
+bool QtDialogs::askYesNo(const Message& question) {
+    QMessageBox box(iconOf(question.icon), titleOf(question), toQt(question.text), QMessageBox::Yes | QMessageBox::No,
+                    parent);
+    prepare(box);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
+std::string QtDialogs::openFile(const FileDialog& dialog) {
+    QFileDialog chooser(parent, toQt(dialog.title));
+    chooser.setFileMode(QFileDialog::ExistingFile);
+    return chosenPath(chooser, dialog);
+}
+
+std::string QtDialogs::saveFile(const FileDialog& dialog) {
+    QFileDialog chooser(parent, toQt(dialog.title));
+    chooser.setAcceptMode(QFileDialog::AcceptSave);
+    if (!dialog.fileName.empty())
+        chooser.selectFile(toQt(dialog.fileName));
+    return chosenPath(chooser, dialog);
+}
+
+Date QtClock::today() const {
+    const QDate today = QDate::currentDate();
+    return {today.year(), today.month(), today.day()};
+}
+
+std::string QtProgram::folder() const {
+    return fromQt(QCoreApplication::applicationDirPath());
+}
+
+std::string QtProgram::title() const {
+    return "Plandesk";
+}
+
+std::string QtProgram::version() const {
+    return PLANDESK_VERSION;
+}
+
+bool QtProgram::startSystemInformation() {
+    for (const char* tool : systemInformationTools)
+        if (const QString found = QStandardPaths::findExecutable(QString::fromLatin1(tool)); !found.isEmpty())
+            return QProcess::startDetached(found, {});
+    return false;
+}
+
+void QtProgram::end() {
+    QCoreApplication::exit(0);
+}
+
+}  // namespace plandesk::desktop

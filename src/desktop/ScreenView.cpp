@@ -1,0 +1,186 @@
+#include "desktop/ScreenView.h"
+
+#include <QApplication>
+#include <QWidget>
+#include <algorithm>
+#include <utility>
+
+#include "controls/Control.h"
+#include "controls/Form.h"
+#include "desktop/ChildWindow.h"
+#include "desktop/FormView.h"
+
+namespace plandesk::desktop {
+
+ScreenView::ScreenView(Screen& screen, QWidget& desk) : screen(screen), desk(desk) {
+    screen.observer = this;
+}
+
+ScreenView::~ScreenView() {
+    screen.observer = nullptr;
+}
+
+void ScreenView::act(Qt::FocusReason howFocusMoves, const std::function<void()>& what) {
+    if (underWay > 0 || screen.ended())
+        return;
+    reason = howFocusMoves;
+    ++underWay;
+    what();
+    --underWay;
+    refresh();
+}
+
+void ScreenView::later() {
+    if (std::exchange(posted, true))
+        return;
+    QMetaObject::invokeMethod(
+        this, [this] { refresh(); }, Qt::QueuedConnection);
+}
+
+void ScreenView::refresh() {
+    posted = false;
+    if (screen.ended())
+        return;
+    constexpr int rounds = 3;  // giving the focus runs reactions, which may change more
+    for (int round = 0; round < rounds; ++round) {
+        showForms();
+        showControls();
+        if (std::exchange(mainChanged, false))
+            mainWindowTouched();
+        if (!giveFocus())
+            break;
+    }
+    placeKeyboard();
+}
+
+void ScreenView::showForms() {
+    if (changedForms.empty())
+        return;
+    for (Form* form : std::exchange(changedForms, {})) {
+        ChildWindow* window = windowOf(*form);
+        if (!window && form->visible()) {
+            window = new ChildWindow(*form, *this, desk);
+            windows[form] = window;
+            window->fit();
+        } else if (window) {
+            window->syncForm();
+        }
+        if (window)
+            window->setVisible(form->visible());
+    }
+    for (Form* form : std::exchange(raised, {}))
+        if (ChildWindow* window = windowOf(*form))
+            window->raise();
+    for (const auto& [form, window] : windows)
+        window->colourBar(form == screen.frontForm());
+}
+
+void ScreenView::showControls() {
+    for (Control* control : std::exchange(changedControls, {}))
+        if (FormView* view = viewOf(control->form()))
+            view->sync(*control);
+}
+
+Control* ScreenView::keyboardTarget(const Form& form) {
+    if (Control* last = form.activeControl(); last && last->takesFocus())
+        return last;
+    const std::vector<Control*> order = form.tabOrder();
+    const auto firstOf = [&order](const auto& condition) {
+        const auto found = std::ranges::find_if(order, condition);
+        return found == order.end() ? nullptr : *found;
+    };
+    // One wants to begin with the answers, not with the buttons above them.
+    Control* answer =
+        firstOf([](const Control* control) { return control->takesFocus() && control->kind() != ControlKind::Button; });
+    return answer ? answer : firstOf([](const Control* control) { return control->takesFocus(); });
+}
+
+bool ScreenView::giveFocus() {
+    const Form* front = screen.frontForm();
+    if (underWay > 0 || screen.focused() || !front)
+        return false;
+    Control* target = keyboardTarget(*front);
+    if (!target)
+        return false;
+    ++underWay;
+    screen.event([&] { screen.setFocus(*target); });
+    --underWay;
+    return true;
+}
+
+void ScreenView::placeKeyboard() {
+    // A menu or an open list has the keyboard for itself; the next look comes when it has closed.
+    if (!focusMoved || QApplication::activePopupWidget())
+        return;
+    focusMoved = false;
+    const Control* focused = screen.focused();
+    const Form* form = focused ? &focused->form() : screen.frontForm();
+    if (FormView* view = form ? viewOf(*form) : nullptr)
+        view->takeKeys(focused, reason);
+    reason = Qt::OtherFocusReason;
+}
+
+void ScreenView::fitWindows() {
+    for (const auto& [form, window] : windows)
+        window->fit();
+}
+
+void ScreenView::focusStrayed() {
+    focusMoved = true;
+    later();
+}
+
+ChildWindow* ScreenView::windowOf(const Form& form) const {
+    const auto window = windows.find(&form);
+    return window == windows.end() ? nullptr : window->second;
+}
+
+FormView* ScreenView::viewOf(const Form& form) const {
+    const ChildWindow* window = windowOf(form);
+    return window ? &window->view() : nullptr;
+}
+
+void ScreenView::controlChanged(Control& control) {
+    if (!windows.contains(&control.form()))
+        return;
+    changedControls.insert(&control);
+    focusMoved = focusMoved || control.focused();
+    later();
+}
+
+void ScreenView::formChanged(Form& form) {
+    changedForms.insert(&form);
+    if (form.visible() && form.front()) {
+        std::erase(raised, &form);
+        raised.push_back(&form);
+    }
+    focusMoved = true;
+    later();
+}
+
+void ScreenView::formUnloading(Form& form) {
+    changedForms.erase(&form);
+    std::erase(raised, &form);
+    std::erase_if(changedControls, [&form](const Control* control) { return &control->form() == &form; });
+    if (const auto window = windows.find(&form); window != windows.end()) {
+        ChildWindow* gone = window->second;
+        windows.erase(window);
+        gone->detach();
+        gone->hide();
+        gone->deleteLater();
+    }
+    focusMoved = true;
+    later();
+}
+
+void ScreenView::focusChanged(Control* /*focused*/) {
+    focusMoved = true;
+    later();
+}
+
+void ScreenView::mainWindowChanged() {
+    mainChanged = true;
+    later();
+}
+
+}  // namespace plandesk::desktop

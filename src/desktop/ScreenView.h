@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "controls/Screen.h"
+
+class QWidget;
+
+namespace plandesk::desktop {
+
+class ChildWindow;
+class FormView;
+
+/// The forms of a screen as child windows of one widget. It hears of every change in the system and shows all of them
+/// together when the event that made them has ended, or when a message box opens within it.
+class ScreenView : public QObject, private ScreenObserver {
+public:
+    /// `desk` is the room inside the main window; both outlive this.
+    ScreenView(Screen& screen, QWidget& desk);
+    ~ScreenView() override;
+
+    /// Runs one act of the user on the system, then shows what came of it. Does nothing while another act is under way,
+    /// which is so as long as a message box or file dialog of it is open. `reason`: how the focus moves, if it does.
+    void act(Qt::FocusReason reason, const std::function<void()>& what);
+    /// Shows all that changed since the last time.
+    void refresh();
+    /// The desk has another size.
+    void fitWindows();
+    /// The toolkit moved the focus by itself; it is put back in a moment.
+    void focusStrayed();
+
+    /// View of the form; null when it is not drawn yet.
+    FormView* viewOf(const Form& form) const;
+    ChildWindow* windowOf(const Form& form) const;
+
+    std::function<void()> mainWindowTouched = [] {};  ///< caption or menu are to be shown anew
+
+private:
+    void controlChanged(Control& control) override;
+    void formChanged(Form& form) override;
+    void formUnloading(Form& form) override;
+    void focusChanged(Control* focused) override;
+    void mainWindowChanged() override;
+
+    void later();
+    void showForms();
+    void showControls();
+    /// The control of the form that keys go to when none has the focus; null when none can take it.
+    static Control* keyboardTarget(const Form& form);
+    /// Gives the focus to the front form when nothing has it. True when that ran reactions.
+    bool giveFocus();
+    void placeKeyboard();
+
+    Screen& screen;
+    QWidget& desk;
+    std::unordered_map<const Form*, ChildWindow*> windows;
+    std::unordered_set<Form*> changedForms;
+    std::vector<Form*> raised;  ///< each came to the front, the last one last
+    std::unordered_set<Control*> changedControls;
+    bool mainChanged = false;
+    bool focusMoved = false;
+    bool posted = false;
+    int underWay = 0;
+    Qt::FocusReason reason = Qt::OtherFocusReason;
+};
+
+}  // namespace plandesk::desktop

@@ -1,0 +1,102 @@
+#include "desktop/TextBoxView.h"
+
+#include <QLineEdit>
+#include <algorithm>
+#include <limits>
+
+#include "controls/Controls.h"
+#include "controls/Form.h"
+#include "controls/User.h"
+#include "desktop/FilteredEdit.h"
+#include "desktop/MultiLineEdit.h"
+#include "desktop/QtText.h"
+
+namespace plandesk::desktop {
+
+namespace {
+
+// Widths of boxes in average characters.
+constexpr int numberWidth = 14;
+constexpr int textWidth = 42;
+constexpr int leastTextWidth = 8;
+constexpr int linesShown = 4;
+
+class TextBoxView : public ControlView {
+public:
+    TextBoxView(TextBox& box, QWidget& widget, ScreenView& screen) : ControlView(box, widget, screen) {}
+
+    int leastWidth() const override { return leastTextWidth * characterWidth(); }
+
+protected:
+    TextBox& box() const { return static_cast<TextBox&>(*subject); }
+    QPalette::ColorRole backRole() const override { return QPalette::Base; }
+    int characterWidth() const { return picture.fontMetrics().averageCharWidth(); }
+    int filter(int key) const { return subject ? user::filteredKey(box(), key) : 0; }
+    void hand(const std::string& text) {
+        act([&] { user::edit(box(), text); });
+    }
+};
+
+using LineEdit = FilteredEdit<QLineEdit>;
+
+class LineView : public TextBoxView {
+public:
+    LineView(TextBox& box, LineEdit& line, ScreenView& screen) : TextBoxView(box, line, screen), line(line) {
+        line.setMaxLength(std::numeric_limits<int>::max());
+        line.filter = [this](int key) { return filter(key); };
+        connect(&line, &QLineEdit::textEdited, this, [this](const QString& text) { hand(fromQt(text)); });
+    }
+
+    int naturalWidth(bool alone) const override {
+        const bool number = subject && box().keyPress;
+        return (alone && !number ? textWidth : numberWidth) * characterWidth();
+    }
+
+private:
+    void syncContent() override {
+        line.setReadOnly(box().locked);
+        if (const QString text = toQt(box().text()); line.text() != text) {
+            const int caret = line.hasFocus() ? line.cursorPosition() : 0;
+            line.setText(text);
+            line.setCursorPosition(caret);
+        }
+    }
+
+    LineEdit& line;
+};
+
+class MultiLineView : public TextBoxView {
+public:
+    MultiLineView(TextBox& box, MultiLineEdit& edit, ScreenView& screen) : TextBoxView(box, edit, screen), edit(edit) {
+        edit.filter = [this](int key) { return filter(key); };
+        edit.edited = [this](const QString& text) { hand(fromQt(text)); };
+    }
+
+    int naturalWidth(bool /*alone*/) const override { return textWidth * characterWidth(); }
+    QSize sizeFor(int available, bool alone) override {
+        const int height = (linesShown + 1) * edit.fontMetrics().lineSpacing();
+        return {std::min(available, naturalWidth(alone)), height};
+    }
+
+private:
+    void syncContent() override {
+        edit.setReadOnly(box().locked);
+        edit.show(toQt(box().text()));
+    }
+    bool systemKey(const QKeyEvent& event) override {
+        const bool breaksLine = systemKeyName(event) == "Enter" && !box().form().enterActsAsTab();
+        return !breaksLine && ControlView::systemKey(event);
+    }
+
+    MultiLineEdit& edit;
+};
+
+}  // namespace
+
+ControlView& makeTextBoxView(TextBox& box, QWidget& parent, ScreenView& screen) {
+    if (box.multiLine)
+        return *new MultiLineView(box, *new MultiLineEdit(parent), screen);
+    return *new LineView(box, *new LineEdit(&parent), screen);
+}
+
+}  // namespace plandesk::desktop

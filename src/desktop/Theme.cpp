@@ -1,0 +1,25 @@
+#include "desktop/Theme.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace plandesk::desktop {
+
+void useTheme() {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    const QColor paper(0xF3, 0xEC, 0xE2);
+    QPalette palette(QColor(0xF3, 0xF0, 0xEA), paper);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(role, Qt::black);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x6E, 0x6E, 0x6E));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, Qt::white);
+    palette.setColor(QPalette::ToolTipText, Qt::black);
+    palette.setColor(QPalette::Highlight, QColor(0x2F, 0x5D, 0x8C));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    QApplication::setPalette(palette);
+}
+
+}  // namespace plandesk::desktop

@@ -1,0 +1,95 @@
+// Takes a picture of every page of every form at 1024 x 700, once with the system's font and once with one of twice the
+// size, into the folder given as the only argument.
+
+#include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <filesystem>
+#include <iostream>
+
+#include "desktop/Theme.h"
+#include "gui/Session.h"
+
+namespace {
+
+using namespace plandesk;
+using namespace plandesk::test;
+
+class Camera {
+public:
+    Camera(Session& session, std::filesystem::path folder, std::string suffix)
+        : session(session), folder(std::move(folder)), suffix(std::move(suffix)) {}
+
+    /// One picture, and one more for each further screenful of the page.
+    void take(const std::string& name) {
+        session.settle();
+        QScrollArea* page = nullptr;
+        for (QScrollArea* area : session.window.findChildren<QScrollArea*>())
+            if (area->isVisible() && area->window() == &session.window && frontHolds(*area))
+                page = area;
+        QScrollBar* bar = page ? page->verticalScrollBar() : nullptr;
+        if (bar)
+            bar->setValue(0);
+        for (int part = 1;; ++part) {
+            session.settle();
+            const std::string file = name + (part > 1 ? "-" + std::to_string(part) : "") + suffix + ".png";
+            session.window.grab().save(QString::fromStdString((folder / file).string()));
+            if (!bar || bar->value() == bar->maximum())
+                break;
+            bar->setValue(bar->value() + bar->pageStep() * 9 / 10);
+        }
+    }
+
+    void takePages(Form& form) {
+        form.show();
+        const auto strip = [&]() -> TabStrip* { return dynamic_cast<TabStrip*>(form.findKey(form.layout().tabs)); }();
+        for (int tab = 0; tab < (strip ? strip->count() : 1); ++tab) {
+            if (strip)
+                strip->setTab(tab);
+            take(form.name() + (strip ? "-page" + std::to_string(form.layout().firstTabNumber + tab) : ""));
+        }
+        form.hide();
+    }
+
+private:
+    bool frontHolds(const QWidget& widget) const {
+        const Form* front = session.proposal.screen.frontForm();
+        const QWidget* view = front ? session.window.forms().viewOf(*front) : nullptr;
+        return view && view->isAncestorOf(&widget);
+    }
+
+    Session& session;
+    std::filesystem::path folder;
+    std::string suffix;
+};
+
+void takeAll(const std::filesystem::path& folder, const std::string& suffix) {
+    Session session;
+    QTest::qWait(250);
+    Camera camera(session, folder, suffix);
+    camera.take("mdiInterface");
+    session.press("mnuNew");
+    for (const std::string_view name : {"frmAnnexureA", "AnnexureACont", "frmPayDetail", "frmDocCheckList",
+                                        "frmDocCheckList1", "frmHelp", "frmAbout"})
+        if (Form* form = session.proposal.forms.touch(name))
+            camera.takePages(*form);
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc != 2) {
+        std::cerr << "usage: plandesk-screenshots FOLDER\n";
+        return 2;
+    }
+    QApplication application(argc, argv);
+    desktop::useTheme();
+    const std::filesystem::path folder = argv[1];
+    std::filesystem::create_directories(folder);
+    takeAll(folder, "");
+    QFont large = QApplication::font();
+    large.setPointSizeF(2 * large.pointSizeF());
+    QApplication::setFont(large);
+    takeAll(folder, "-large");
+    return 0;
+}
