@@ -14,6 +14,7 @@
 #include "fees/frmPayDetail.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
+#include "particulars/particulars.h"
 #include "shell/frmAbout.h"
 #include "shell/frmHelp.h"
 
@@ -158,6 +159,7 @@ void mdiInterface::fillCommands() {
     asked.buildAnnexureB = [this] { buildAnnexureB(proposal); };
     asked.readXml = [this] { openFile(); };
     asked.refreshMenus = [this] { refreshMenus(); };
+    asked.showPayment = [this] { showPayment(proposal); };
     asked.open = [this](std::string_view name) { openForm(name); };
 
     auto& named = proposal.procedures;
@@ -167,6 +169,9 @@ void mdiInterface::fillCommands() {
     named["uloadAllForms"] = [this] { uloadAllForms(proposal); };
     named["requireParticulars"] = [this] { requireParticulars(); };
     named["closeAllForms"] = [this] { closeAllForms(proposal); };
+    named["showAnnexureFirstPage"] = [this] { showAnnexureFirstPage(proposal); };
+    named["showSectionFourPage"] = [this] { showSectionFourPage(proposal); };
+    named["showPaymentColors"] = [this] { proposal.forms.get<frmPayDetail>().showPaymentColors(); };
     named["createAllTables"] = [this] { proposal.tables.createAllTables(); };
     named["readSections"] = [this] { reader.readSections(); };
     for (const ReadXML::Step& step : ReadXML::steps)

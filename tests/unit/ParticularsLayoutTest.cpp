@@ -2,6 +2,7 @@
 #include <map>
 #include <span>
 
+#include "unit/LayoutCheck.h"
 #include "unit/ParticularsFixture.h"
 
 // What the pages of both forms say, question by question, and that every control has its place in them.
@@ -271,27 +272,6 @@ protected:
         return found;
     }
 
-    /// Every name that the layout says, wherever it stands.
-    static std::vector<std::string> allNames(const Form& form) {
-        const Layout& layout = form.layout();
-        std::vector<std::string> all = names(layout.head);
-        const auto add = [&all](std::string_view keys) {
-            for (std::string& key : names(keys))
-                all.push_back(std::move(key));
-        };
-        add(layout.tabs);
-        add(layout.buttons);
-        for (const LayoutPage& page : layout.pages)
-            for (const LayoutGroup& group : page.groups) {
-                add(group.frame);
-                for (const LayoutRow& row : group.rows) {
-                    add(row.controls);
-                    add(row.label);
-                }
-            }
-        return all;
-    }
-
     static void expectQuestions(const Form& form, std::span<const Question> questions) {
         const std::map<std::string, Place> where = places(form);
         for (const Question& wanted : questions) {
@@ -307,7 +287,7 @@ protected:
 
     static void expectEachControlOnce(const Form& form, std::string_view neverShown) {
         std::map<std::string, int> said;
-        for (const std::string& key : allNames(form)) {
+        for (const std::string& key : layoutNames(form)) {
             ASSERT_NE(form.findKey(key), nullptr) << key;
             ++said[key];
         }

@@ -6,6 +6,7 @@
 
 #include "unit/FeesFixture.h"
 #include "unit/LayoutCheck.h"
+#include "unit/World.h"
 
 // Both document checklists and the doors behind their icons.
 
@@ -650,6 +651,58 @@ TEST_F(frmDocCheckListTest, EnterMovesOnLikeTab) {
     EXPECT_TRUE(mandatory().rows[0].pageTo.focused());
     user::press(mandatory().rows[0].pageTo, "Enter");
     EXPECT_TRUE(mandatory().rows[1].enclosed.focused());
+}
+
+// In the save of the whole proposal
+
+class ChecklistsInTheSaveTest : public ::testing::Test {
+protected:
+    ChecklistsInTheSaveTest() {
+        world.shell.press("mnuNew");
+        world.fillFirstPage();
+        world.ports.dialogs.take();
+    }
+    DocCheckList& form(std::string_view name) { return dynamic_cast<DocCheckList&>(*world.proposal.forms.touch(name)); }
+    /// Saves; the row 0 of that checklist has a tick and no pages.
+    void expectStoppedBy(std::string_view name) {
+        form(name).rows[0].enclosed.setValue(1);
+        world.shell.press("mnuSave");
+        const std::vector<Message> shown = world.ports.dialogs.take();
+        ASSERT_EQ(shown.size(), 1U);
+        EXPECT_EQ(shown[0].text, "Enter Document From Page No ! for : = " + form(name).rows[0].enclosed.caption());
+        EXPECT_TRUE(form(name).front());
+        EXPECT_TRUE(form(name).rows[0].pageFrom.focused());
+        EXPECT_TRUE(world.ports.dialogs.fileDialogs.empty());
+        EXPECT_EQ(world.box("frmAnnexureA", "txtSectFourVal").text(), "");
+    }
+    World world;
+};
+
+TEST_F(ChecklistsInTheSaveTest, ConditionalDocumentsStopTheSaveFirst) {
+    expectStoppedBy("frmDocCheckList1");
+    EXPECT_EQ(world.box("frmAnnexureA", "txtDocChkList").text(), "");
+    EXPECT_NE(world.box("frmAnnexureA", "txtPayDetail").text(), "");
+}
+
+TEST_F(ChecklistsInTheSaveTest, MandatoryDocumentsStopTheSaveNext) {
+    expectStoppedBy("frmDocCheckList");
+    EXPECT_EQ(split(world.box("frmAnnexureA", "txtDocChkList").text(), "#").size(), 14U);
+}
+
+TEST_F(ChecklistsInTheSaveTest, BothListsReachTheDocumentInTheirOrder) {
+    form("frmDocCheckList").rows[0].pageFrom.setText("1");
+    form("frmDocCheckList").rows[0].pageTo.setText("2");
+    form("frmDocCheckList1").rows[0].pageFrom.setText("3");
+    form("frmDocCheckList1").rows[0].pageTo.setText("4");
+    world.ports.dialogs.answers.emplace_back("/p.xml");
+    world.shell.press("mnuSave");
+    std::string expected = "<DOCCHKLIST>1-1-2";
+    for (int row = 1; row < 9; ++row)
+        expected += "#0-0-0";
+    expected += "1-3-4";
+    for (int row = 1; row < 14; ++row)
+        expected += "#0-0-0";
+    EXPECT_NE(world.ports.files.contents["/p.xml"].find(expected + "</DOCCHKLIST>"), std::string::npos);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "base/RuntimeError.h"
 #include "unit/FeesFixture.h"
 #include "unit/LayoutCheck.h"
+#include "unit/World.h"
 
 namespace plandesk::test {
 namespace {
@@ -699,6 +700,131 @@ TEST_F(frmPayDetailTest, ClosingTheFormHidesItAndKeepsItsValues) {
     fees().closeBox();
     EXPECT_FALSE(fees().visible());
     EXPECT_EQ(fees().txtOther.text(), "3");
+}
+
+// In the whole system
+
+constexpr std::array<std::string_view, 35> paymentElements = {
+    "AREADEVRESI",
+    "RATEDEVRESI",
+    "AMTDEVRESI",
+    "AREADEVCOM",
+    "RATEDEVCOM",
+    "AMTDEVCOM",
+    "AREADEVIND",
+    "RATEDEVIND",
+    "AMTDEVIND",
+    "AREASCRUTINYRESI",
+    "RATESCRUTINYRESI",
+    "AMTSCRUTINYRESI",
+    "AREASCRUTINYCOM",
+    "RATESCRUTINYCOM",
+    "AMTSCRUTINYCOM",
+    "AREASCRUTINYIND",
+    "RATESCRUTINYIND",
+    "AMTSCRUTINYIND",
+    "COMPUNDFEES",
+    "OTHER",
+    "TOTALAMOUNT",
+    "PAYMODE",
+    "PAYDATE",
+    "DRAFTCHQNO",
+    "BANKNAME",
+    "BRANCHNM",
+    "AREA-SCRUT-RESI-2",
+    "RATE-SCRUT-RESI-2",
+    "AMOUNT-SCRUT-RESI-2",
+    "AREA-SCRUT-COMM-2",
+    "RATE-SCRUT-COMM-2",
+    "AMOUNT-SCRUT-COMM-2",
+    "AREA-SCRUT-IND-2",
+    "RATE-SCRUT-IND-2",
+    "AMOUNT-SCRUT-IND-2",
+};
+
+/// A proposal that is saved through the menu; what its payment detail then reads.
+class PaymentInTheDocumentTest : public ::testing::Test {
+protected:
+    PaymentInTheDocumentTest() {
+        world.shell.press("mnuNew");
+        world.fillFirstPage();
+        world.ports.dialogs.take();
+    }
+    frmPayDetail& fees() { return world.proposal.forms.get<frmPayDetail>(); }
+    std::string savedPayment() {
+        world.ports.dialogs.answers.emplace_back("/p.xml");
+        world.shell.press("mnuSave");
+        const std::string& document = world.ports.files.contents["/p.xml"];
+        const std::size_t start = document.find("<PAYMENTDETAIL>");
+        const std::size_t end = document.find("</PAYMENTDETAIL>");
+        return end == std::string::npos ? "" : document.substr(start, end - start);
+    }
+    static std::string payment(const std::vector<std::string>& values) {
+        std::string text = "<PAYMENTDETAIL>";
+        for (std::size_t i = 0; i < paymentElements.size(); ++i)
+            text += "<" + std::string(paymentElements[i]) + ">" + values.at(i) + "</" +
+                    std::string(paymentElements[i]) + ">";
+        return text;
+    }
+    /// Values of the boxes in the order of the form, "v1" to "v30" for the fees.
+    void numberFees() {
+        int number = 0;
+        fees().forEach<TextBox>([&number](TextBox& each) { each.restoreText("v" + std::to_string(++number)); });
+        fees().DTPicker1.setDate({2024, 3, 9});
+        fees().txtRate.restoreText("20");
+        fees().txtChqDraftNo.restoreText("7");
+        fees().txtBankNm.restoreText("<Bank");
+        fees().txtBranchNm.restoreText("Fort");
+    }
+    static std::vector<std::string> numberedValues(const std::vector<std::string>& paid) {
+        std::vector<std::string> values = {"v19", "20", "v21", "v22", "v23", "v24", "v25", "v26", "v27", "v1", "v2",
+                                           "v3",  "v4", "v5",  "v6",  "v7",  "v8",  "v9",  "v28", "v29", "v30"};
+        values.insert(values.end(), paid.begin(), paid.end());
+        for (int number = 10; number <= 18; ++number)
+            values.push_back("v" + std::to_string(number));
+        return values;
+    }
+    World world;
+};
+
+TEST_F(PaymentInTheDocumentTest, EachValueStandsInItsElement) {
+    numberFees();
+    fees().OptCheque.setValue(true);
+    EXPECT_EQ(savedPayment(), payment(numberedValues({"PAYORDER", "09/03/2024", "7", "&lt;Bank", "Fort"})));
+}
+
+TEST_F(PaymentInTheDocumentTest, DraftSlidesItsValuesIntoTheElementsBefore) {
+    numberFees();
+    fees().OptDraft.setValue(true);
+    EXPECT_EQ(savedPayment(), payment(numberedValues({"09/03/2024", "7", "&lt;Bank", "Fort", ""})));
+}
+
+TEST_F(PaymentInTheDocumentTest, SecondScrutinyFeesKeepTheValuesOfTheFirstSave) {
+    fees().txtScrutinyRArea2.setText("11");
+    const std::string first = savedPayment();
+    fees().txtScrutinyRArea2.setText("22");
+    fees().txtOther.setText("5");
+    const std::string second = savedPayment();
+    EXPECT_NE(first.find("<AREA-SCRUT-RESI-2>11<"), std::string::npos);
+    EXPECT_NE(second.find("<AREA-SCRUT-RESI-2>11<"), std::string::npos);
+    EXPECT_NE(second.find("<OTHER>5<"), std::string::npos);
+    // A new proposal does not begin afresh either.
+    world.shell.press("mnuNew");
+    world.fillFirstPage();
+    EXPECT_NE(savedPayment().find("<AREA-SCRUT-RESI-2>11<"), std::string::npos);
+}
+
+TEST_F(PaymentInTheDocumentTest, LinkOfSectionFourShowsThePaymentWithTheFeeArea) {
+    world.proposal.feeArea = 88;
+    user::click(world.control<Label>("AnnexureACont", "lblPayment"));
+    EXPECT_TRUE(fees().front());
+    EXPECT_EQ(fees().txtArea.text(), "88");
+}
+
+TEST_F(PaymentInTheDocumentTest, PaymentColoursAreReachableByName) {
+    world.proposal.feeArea = 88;
+    world.proposal.procedures.at("showPaymentColors")();
+    EXPECT_EQ(fees().txtArea.text(), "88");
 }
 
 }  // namespace
