@@ -1,12 +1,15 @@
 #include "document/ReadXML.h"
 
 #include <algorithm>
+#include <optional>
+#include <span>
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "document/Answers.h"
+#include "document/Pieces.h"
 #include "document/SectionTables.h"
 #include "fees/frmPayDetail.h"
 #include "particulars/AnnexureACont.h"
@@ -19,62 +22,14 @@ namespace {
 
 constexpr std::size_t checklistGroup = 5;
 constexpr std::size_t feesGroup = 6;
-constexpr std::size_t payMode = 21;
 
-/// A field of the payment detail and the box or picker of frmPayDetail that takes it.
-struct FeeRow {
-    std::size_t field;
-    std::string_view element;
-    std::string_view control;
-};
-
-constexpr std::array fees = std::to_array<FeeRow>({
-    {0, "AREADEVRESI", "txtArea"},
-    {1, "RATEDEVRESI", "txtRate"},
-    {2, "AMTDEVRESI", "txtTotal"},
-    {3, "AREADEVCOM", "txtDevAreaC"},
-    {4, "RATEDEVCOM", "txtDevRateC"},
-    {5, "AMTDEVCOM", "txtDevAmtC"},
-    {6, "AREADEVIND", "txtDevAreaI"},
-    {7, "RATEDEVIND", "txtDevRateI"},
-    {8, "AMTDEVIND", "txtDevAmtI"},
-    {9, "AREASCRUTINYRESI", "txtScrutinyRArea"},
-    {10, "RATESCRUTINYRESI", "txtScrutinyRRate"},
-    {11, "AMTSCRUTINYRESI", "txtScrutinyRAmount"},
-    {12, "AREASCRUTINYCOM", "txtScrutinyCArea"},
-    {13, "RATESCRUTINYCOM", "txtScrutinyCRate"},
-    {14, "AMTSCRUTINYCOM", "txtScrutinyCAmount"},
-    {15, "AREASCRUTINYIND", "txtScrutinyIndArea"},
-    {16, "RATESCRUTINYIND", "txtScrutinyINDRate"},
-    {17, "AMTSCRUTINYIND", "txtScrutinyINDAmount"},
-    {18, "COMPUNDFEES", "txtCompoundFees"},
-    {19, "OTHER", "txtOther"},
-    {20, "TOTALAMOUNT", "txtGrandTotal"},
-});
-
-constexpr std::array bankDetails = std::to_array<FeeRow>({
-    {22, "PAYDATE", "DTPicker1"},
-    {23, "DRAFTCHQNO", "txtChqDraftNo"},
-    {24, "BANKNAME", "txtBankNm"},
-    {25, "BRANCHNM", "txtBranchNm"},
-});
-
-constexpr std::array secondScrutiny = std::to_array<FeeRow>({
-    {26, "AREA-SCRUT-RESI-2", "txtScrutinyRArea2"},
-    {27, "RATE-SCRUT-RESI-2", "txtScrutinyRRate2"},
-    {28, "AMOUNT-SCRUT-RESI-2", "txtScrutinyRAmount2"},
-    {29, "AREA-SCRUT-COMM-2", "txtScrutinyCArea2"},
-    {30, "RATE-SCRUT-COMM-2", "txtScrutinyCRate2"},
-    {31, "AMOUNT-SCRUT-COMM-2", "txtScrutinyCAmount2"},
-    {32, "AREA-SCRUT-IND-2", "txtScrutinyIndArea2"},
-    {33, "RATE-SCRUT-IND-2", "txtScrutinyINDRate2"},
-    {34, "AMOUNT-SCRUT-IND-2", "txtScrutinyINDAmount2"},
-});
-
-const std::string& piece(const std::vector<std::string>& pieces, std::size_t number) {
-    if (number >= pieces.size())
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
-    return pieces[number];
+/// A group of the flattened text; empty when there is none, so that each of its fields is out of range.
+std::string_view groupOf(std::string_view groups, std::size_t number) {
+    try {
+        return piece(groups, "||", number);
+    } catch (const RuntimeError&) {
+        return {};
+    }
 }
 
 void answerQuestion(const YesNoOptions& question, double number, bool strict) {
@@ -84,7 +39,7 @@ void answerQuestion(const YesNoOptions& question, double number, bool strict) {
     question.no->setValue(number == 0);
 }
 
-void assign(Form& form, std::string_view name, const std::string& text) {
+void assign(Form& form, std::string_view name, std::string_view text) {
     Control* control = form.find(name);
     if (auto* box = dynamic_cast<TextBox*>(control))
         box->setText(text);
@@ -94,18 +49,15 @@ void assign(Form& form, std::string_view name, const std::string& text) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
 }
 
-std::string valueOf(const FieldRow& row, const std::vector<std::string>& fields) {
-    const std::string& field = piece(fields, static_cast<std::size_t>(row.field));
-    return row.part == FieldRow::whole ? field : piece(split(field, "#"), static_cast<std::size_t>(row.part));
+std::string_view part(std::string_view fields, int field, int number) {
+    const std::string_view value = piece(fields, "@", static_cast<std::size_t>(field));
+    return number == FieldRow::whole ? value : piece(value, "#", static_cast<std::size_t>(number));
 }
 
-void readRow(const FieldRow& row, Form& form, const std::vector<std::string>& fields) {
-    if (row.onlyIf.field >= 0) {
-        const std::string& flags = piece(fields, static_cast<std::size_t>(row.onlyIf.field));
-        if (toDouble(piece(split(flags, "#"), static_cast<std::size_t>(row.onlyIf.part))) != 1)
-            return;
-    }
-    const std::string value = valueOf(row, fields);
+void readRow(const FieldRow& row, Form& form, std::string_view fields) {
+    if (row.onlyIf.field >= 0 && toDouble(part(fields, row.onlyIf.field, row.onlyIf.part)) != 1)
+        return;
+    const std::string_view value = part(fields, row.field, row.part);
     switch (row.decode) {
     case Decode::Plain:
         return assign(form, row.control, value);
@@ -116,6 +68,13 @@ void readRow(const FieldRow& row, Form& form, const std::vector<std::string>& fi
     case Decode::Special:
         return row.special(form, value);
     }
+}
+
+/// Whether the text box of that name is the one that an element of ANNEXUREB fills.
+bool takesElement(std::string_view box, std::string_view element) {
+    constexpr std::string_view prefix = "txt";
+    return box.size() == prefix.size() + element.size() && equalsIgnoringCase(box.substr(0, prefix.size()), prefix) &&
+           equalsIgnoringCase(box.substr(prefix.size()), element);
 }
 
 }  // namespace
@@ -143,101 +102,98 @@ void ReadXML::statement(const std::function<void()>& body) {
 }
 
 void ReadXML::readSections() {
-    flatten();
-    for (std::size_t number = 0; number < sectionTables().size(); ++number)
-        readSection(number);
-    readChecklists();
-    readFees();
+    const std::string groups = flatten();
+    for (std::size_t number = 0; number < sectionTables().size(); ++number) {
+        const SectionTable& table = sectionTables()[number];
+        Form& form = *proposal.forms.touch(table.form);
+        const std::string_view fields = groupOf(groups, number);
+        for (const FieldRow& row : table.rows)
+            statement([&] { readRow(row, form, fields); });
+    }
+    readChecklists(groups);
+    readFees(groupOf(groups, feesGroup));
     readAnnexureB();
 }
 
 // Nothing escapes the separators: an "@" or "||" typed in a value shifts or cuts what follows, and a backslash comes
 // back doubled.
-void ReadXML::flatten() {
-    std::string all;
-    if (proposalDom.root() != XmlDocument::none) {
-        for (auto child = proposalDom.firstChild(proposalDom.root()); child != XmlDocument::none;
-             child = proposalDom.nextSibling(child)) {
-            if (equalsIgnoringCase(proposalDom.name(child), "NTS"))
-                continue;
-            for (auto field = proposalDom.firstChild(child); field != XmlDocument::none;
-                 field = proposalDom.nextSibling(field))
-                all.append(replaceAll(proposalDom.text(field), R"(\)", R"(\\)")).append("@");
-            all += "||";
+std::string ReadXML::flatten() const {
+    std::string groups;
+    if (proposalDom.root() == XmlDocument::none)
+        return groups;
+    for (auto child = proposalDom.firstChild(proposalDom.root()); child != XmlDocument::none;
+         child = proposalDom.nextSibling(child)) {
+        if (equalsIgnoringCase(proposalDom.name(child), "NTS"))
+            continue;
+        for (auto field = proposalDom.firstChild(child); field != XmlDocument::none;
+             field = proposalDom.nextSibling(field)) {
+            for (const char character : proposalDom.text(field))
+                groups.append(character == '\\' ? 2 : 1, character);
+            groups += "@";
         }
+        groups += "||";
     }
-    groups = split(all, "||");
+    return groups;
 }
 
-const std::string& ReadXML::group(std::size_t number) const {
-    return piece(groups, number);
-}
-
-void ReadXML::readSection(std::size_t number) {
-    const SectionTable& table = sectionTables()[number];
-    Form& form = *proposal.forms.touch(table.form);
-    const Fields fields = number < groups.size() ? split(groups[number], "@") : Fields();
-    for (const FieldRow& row : table.rows)
-        statement([&] { readRow(row, form, fields); });
-}
-
-void ReadXML::readChecklists() {
-    Fields entries;
+void ReadXML::readChecklists(std::string_view groups) {
+    std::string_view entries;
     statement([&] {
-        std::string list = group(checklistGroup);
-        if (list.empty())
+        entries = piece(groups, "||", checklistGroup);
+        if (entries.empty())
             throw RuntimeError(ErrorNumber::InvalidProcedureCall);
-        list.pop_back();
-        entries = split(list, "#");
+        entries.remove_suffix(1);
     });
     readChecklist("frmDocCheckList", 0, 8, entries);
     // The conditional form's controls keep the numbers of the whole list.
     readChecklist("frmDocCheckList1", 9, 13, entries);
 }
 
-void ReadXML::readChecklist(std::string_view form, int first, int last, const Fields& entries) {
+void ReadXML::readChecklist(std::string_view form, int first, int last, std::string_view entries) {
     Form& sheet = *proposal.forms.touch(form);
-    const auto page = [&sheet](int number) { return static_cast<TextBox*>(sheet.find("txtDocPageNo", number)); };
+    const auto page = [&sheet](int number) { return dynamic_cast<TextBox*>(sheet.find("txtDocPageNo", number)); };
     for (int i = first; i <= last; ++i) {
-        Fields parts;
-        statement([&] { parts = split(piece(entries, static_cast<std::size_t>(i)), "-"); });
-        auto* check = static_cast<CheckBox*>(sheet.find("Check1", i));
+        std::optional<std::string_view> entry;
+        statement([&] { entry = piece(entries, "#", static_cast<std::size_t>(i)); });
+        auto* check = dynamic_cast<CheckBox*>(sheet.find("Check1", i));
         statement([&] { check->setValue(0); });
         statement([&] { page(2 * i)->setText(""); });
         statement([&] { page(2 * i + 1)->setText(""); });
-        if (parts.empty())
+        if (!entry)
             continue;
         statement([&] {
-            if (toDouble(parts[0]) == 1)
+            if (toDouble(piece(*entry, "-", 0)) == 1)
                 check->setValue(1);
         });
         statement([&] {
-            if (toDouble(piece(parts, 1)) != 0)
-                page(2 * i)->setText(parts[1]);
+            if (const std::string_view from = piece(*entry, "-", 1); toDouble(from) != 0)
+                page(2 * i)->setText(from);
         });
+        if (std::ranges::count(*entry, '-') < 2)
+            continue;
         statement([&] {
-            if (parts.size() > 2 && toDouble(parts[2]) != 0)
-                page(2 * i + 1)->setText(parts[2]);
+            if (const std::string_view to = piece(*entry, "-", 2); toDouble(to) != 0)
+                page(2 * i + 1)->setText(to);
         });
     }
 }
 
-void ReadXML::readFees() {
+void ReadXML::readFees(std::string_view fields) {
+    const FeeTables& tables = feeTables();
     auto& form = proposal.forms.get<frmPayDetail>();
-    const Fields fields = feesGroup < groups.size() ? split(groups[feesGroup], "@") : Fields();
-    const auto read = [&](std::span<const FeeRow> rows) {
-        for (const FeeRow& row : rows)
-            statement([&] { assign(form, row.control, piece(fields, row.field)); });
+    const auto read = [&](std::span<const FieldRow> rows) {
+        for (const FieldRow& row : rows)
+            statement([&] { readRow(row, form, fields); });
     };
-    read(fees);
+    read(tables.fees);
     bool cash = false;
     statement([&] {
-        cash = piece(fields, payMode) == "CASH";
+        cash = part(fields, tables.modeField, FieldRow::whole) == "CASH";
         (cash ? form.OptCash : form.OptCheque).setValue(true);
     });
     if (!cash)  // with cash, what the file holds of date, number, bank and branch is dropped
-        read(bankDetails);
-    read(secondScrutiny);
+        read(tables.bankDetails);
+    read(tables.secondScrutiny);
 }
 
 void ReadXML::readAnnexureB() {
@@ -255,21 +211,22 @@ void ReadXML::readAnnexureB() {
 }
 
 void ReadXML::readNamed(XmlDocument::Node element) {
-    const std::string& name = proposalDom.name(element);
-    const std::string text(proposalDom.text(element));
+    const std::string_view name = proposalDom.name(element);
+    const std::string_view text = proposalDom.text(element);
     if (name == "Section9a3536")
         readStreetsAndTrees(text);
-    const std::array<Form*, 2> sheets = {&proposal.forms.get<frmAnnexureA>(), &proposal.forms.get<AnnexureACont>()};
-    for (Form* form : sheets) {
-        if (auto* box = dynamic_cast<TextBox*>(form->find("txt" + name)))
-            statement([&] { box->setText(text); });
-        for (const int index : {1, 0}) {
-            auto* option = dynamic_cast<OptionButton*>(form->find(name, index));
-            if (!option)
-                continue;
+    readNamed(proposal.forms.get<frmAnnexureA>(), name, text);
+    readNamed(proposal.forms.get<AnnexureACont>(), name, text);
+}
+
+void ReadXML::readNamed(Form& form, std::string_view name, std::string_view text) {
+    for (Control* control : form.controls()) {
+        if (control->kind() == ControlKind::TextBox && takesElement(control->name(), name)) {
+            statement([&] { static_cast<TextBox*>(control)->setText(text); });
+        } else if (control->kind() == ControlKind::OptionButton && equalsIgnoringCase(control->name(), name)) {
             // A text that is no number leaves the number of the element before it in force.
             statement([&] { optionNumber = toInteger16(text); });
-            statement([&] { setOptionFromText(*option, optionNumber); });
+            statement([&] { setOptionFromText(*static_cast<OptionButton*>(control), optionNumber); });
         }
     }
 }
@@ -277,20 +234,19 @@ void ReadXML::readNamed(XmlDocument::Node element) {
 void ReadXML::readStreetsAndTrees(std::string_view text) {
     auto& first = proposal.forms.get<frmAnnexureA>();
     auto& second = proposal.forms.get<AnnexureACont>();
-    const Fields parts = split(text, "#");
     double abutting = 2;
-    statement([&] { abutting = toDouble(piece(parts, 0)); });
+    statement([&] { abutting = toDouble(piece(text, "#", 0)); });
     if (abutting == 1) {
         statement([&] { first.Opt77.yes.setValue(true); });
         statement([&] { first.Opt77.no.setValue(false); });
-        statement([&] { first.txtFstExistingWidth.setText(piece(parts, 2)); });
-        statement([&] { first.txtFstStreetWidth.setText(piece(parts, 1)); });
+        statement([&] { first.txtFstExistingWidth.setText(piece(text, "#", 2)); });
+        statement([&] { first.txtFstStreetWidth.setText(piece(text, "#", 1)); });
     } else if (abutting == 0) {
         statement([&] { first.Opt77.no.setValue(true); });
         statement([&] { first.Opt77.yes.setValue(false); });
     }
-    statement([&] { second.txtHowManyTrees.setText(piece(parts, 3)); });
-    statement([&] { second.txtNoOfTreesAffected.setText(piece(parts, 4)); });
+    statement([&] { second.txtHowManyTrees.setText(piece(text, "#", 3)); });
+    statement([&] { second.txtNoOfTreesAffected.setText(piece(text, "#", 4)); });
 }
 
 void ReadXML::requireRoot() const {
@@ -323,7 +279,10 @@ void ReadXML::readDiscretion() {
 }
 
 void setOptionFromText(OptionButton& option, int number) {
-    option.setValue(option.index() == 1 ? number == 1 : number == 0);
+    if (option.index() == 1)
+        option.setValue(number == 1);
+    else if (option.index() == 0)
+        option.setValue(number == 0);
 }
 
 }  // namespace plandesk

@@ -4,7 +4,6 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "document/XmlDocument.h"
 
@@ -46,27 +45,24 @@ public:
     void readDiscretion();
 
 private:
-    using Fields = std::vector<std::string>;
-
     void statement(const std::function<void()>& body);
-    void flatten();
-    const std::string& group(std::size_t number) const;
-    void readSection(std::size_t number);
-    void readChecklists();
-    void readChecklist(std::string_view form, int first, int last, const Fields& entries);
-    void readFees();
+    std::string flatten() const;
+    void readChecklists(std::string_view groups);
+    void readChecklist(std::string_view form, int first, int last, std::string_view entries);
+    void readFees(std::string_view fields);
     void readAnnexureB();
     void readNamed(XmlDocument::Node element);
+    void readNamed(Form& form, std::string_view name, std::string_view text);
     void readStreetsAndTrees(std::string_view text);
     void requireRoot() const;
 
     Proposal& proposal;
     XmlDocument proposalDom;
-    Fields groups;
-    int optionNumber = 0;  ///< number of the option element read last
+    int optionNumber = 0;  ///< number of the option element of ANNEXUREB read last
 };
 
-/// For a member of an option array: index 1 becomes (number = 1), index 0 becomes (number = 0).
+/// For a member of an option array: index 1 becomes (number = 1), index 0 becomes (number = 0). Nothing for any other
+/// option.
 void setOptionFromText(OptionButton& option, int number);
 
 }  // namespace plandesk

@@ -19,11 +19,11 @@ frmAnnexureA& annexure(Form& form) {
 }
 
 // "REV" lands on the position of "CHG"; the codes of positions that the list does not have are an error.
-void readCaseType(Form& form, const std::string& code) {
+void readCaseType(Form& form, std::string_view code) {
     annexure(form).cboCaseType.setListIndex(ReadComboValues(code, 0));
 }
 
-void readProject(Form& form, const std::string& code) {
+void readProject(Form& form, std::string_view code) {
     annexure(form).cboProposProj.setListIndex(ReadComboValues(code, 1));
 }
 
@@ -45,7 +45,7 @@ constexpr std::array<ProposalType, 10> proposalTypes = {{
     {"Storage", 9},
 }};
 
-void readProposalType(Form& form, const std::string& text) {
+void readProposalType(Form& form, std::string_view text) {
     const std::string_view type = trim(text);
     // An empty type clears the case type read just before and leaves the type itself.
     if (type.empty())
@@ -56,21 +56,20 @@ void readProposalType(Form& form, const std::string& text) {
         annexure(form).cboProposalTyp.setListIndex(found->position);
 }
 
-void readSector(Form& form, const std::string& text) {
+void readSector(Form& form, std::string_view text) {
     ComboBox& list = annexure(form).cboSector;
     if (trim(text).empty())
         return list.setListIndex(-1);
-    const double wanted = toDouble(text);
     for (int position = 0; position < list.listCount(); ++position)  // the last match stays
-        if (list.itemData(position) == wanted)
+        if (list.itemData(position) == toDouble(text))
             list.setListIndex(position);
 }
 
-void readApplicant(Form& form, const std::string& text) {
+void readApplicant(Form& form, std::string_view text) {
     annexure(form).txtApplicantNm.setText(text.substr(0, text.find('~')));  // the rest of the name is lost
 }
 
-void readProfessional(Form& form, const std::string& text) {
+void readProfessional(Form& form, std::string_view text) {
     frmAnnexureA& sheet = annexure(form);
     const std::string_view code = trim(text);
     if (code == "ARCH")
@@ -81,12 +80,12 @@ void readProfessional(Form& form, const std::string& text) {
         sheet.OptSE.setValue(true);
 }
 
-void readRegistration(Form& form, const std::string& text) {
+void readRegistration(Form& form, std::string_view text) {
     annexure(form).txtRegNm.setText(
         replaceAll(text, R"(\\)", R"(\)"));  // the one field whose backslashes are halved again
 }
 
-void readZone(Form& form, const std::string& code) {
+void readZone(Form& form, std::string_view code) {
     ComboBox& list = annexure(form).cboZone;
     if (code.empty())
         list.setListIndex(-1);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace plandesk {
@@ -25,7 +24,7 @@ struct FieldRow {
     int part;                  ///< place in the "#" list of the field, or `whole`
     std::string_view control;
     Decode decode = Decode::Plain;
-    void (*special)(Form& form, const std::string& text) = nullptr;
+    void (*special)(Form& form, std::string_view text) = nullptr;
     /// The row is read only when this part of another field of the section is numerically 1.
     struct Condition {
         int field = -1;
@@ -40,5 +39,16 @@ struct SectionTable {
 
 /// Sections I to V, in the order of their groups.
 std::span<const SectionTable> sectionTables();
+
+/// The payment detail: its fees, then the mode of payment, then the bank details, which only a payment that is not in
+/// cash has, then the second group of scrutiny fees.
+struct FeeTables {
+    std::string_view form;
+    std::span<const FieldRow> fees;
+    int modeField;
+    std::span<const FieldRow> bankDetails;
+    std::span<const FieldRow> secondScrutiny;
+};
+const FeeTables& feeTables();
 
 }  // namespace plandesk

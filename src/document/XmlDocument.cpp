@@ -1,8 +1,6 @@
 #include "document/XmlDocument.h"
 
 #include <array>
-#include <functional>
-#include <map>
 #include <memory>
 
 #include <fcntl.h>
@@ -30,33 +28,28 @@ bool blank(std::string_view text) {
 /// Fills a document from the parser's events.
 class XmlBuilder {
 public:
-    explicit XmlBuilder(XmlDocument& document) : document(document) { textNumber = number("#text"); }
+    explicit XmlBuilder(XmlDocument& document) : document(document) {}
 
-    void startElement(std::string_view prefix, std::string_view localName) {
+    void startElement(std::string_view name) {
         flush(!blank(pending));
-        const XmlDocument::Node element =
-            add(number(prefix.empty() ? std::string(localName) : std::string(prefix) + ":" + std::string(localName)));
-        open.push_back({element, XmlDocument::none});
+        open.push_back({add(name), XmlDocument::none});
     }
 
     void endElement() {
         flush(open.back().lastChild == XmlDocument::none || !blank(pending));
-        XmlDocument::Entry& entry = document.nodes[open.back().element];
-        entry.end = static_cast<XmlDocument::Node>(document.nodes.size());
-        entry.textEnd = textPosition();
+        document.nodes[open.back().element].end = static_cast<XmlDocument::Node>(document.nodes.size());
         open.pop_back();
     }
 
-    void characters(std::string_view text) {
+    void text(std::string_view text) {
         if (!open.empty())
             pending += text;
     }
 
     bool fits() const {
-        return document.nodes.size() < largestDocument && document.characters.size() + pending.size() < largestDocument;
+        return open.size() <= XmlDocument::deepestNesting && document.nodes.size() < largestDocument &&
+               document.names.size() < largestDocument && document.characters.size() + pending.size() < largestDocument;
     }
-
-    xmlParserCtxtPtr parser = nullptr;
 
 private:
     struct Open {
@@ -64,18 +57,11 @@ private:
         XmlDocument::Node lastChild;
     };
 
-    std::uint32_t number(const std::string& name) {
-        const auto [entry, added] = numbers.emplace(name, static_cast<std::uint32_t>(document.names.size()));
-        if (added)
-            document.names.push_back(name);
-        return entry->second;
-    }
-
-    std::uint32_t textPosition() const { return static_cast<std::uint32_t>(document.characters.size()); }
-
-    XmlDocument::Node add(std::uint32_t name) {
+    XmlDocument::Node add(std::string_view name) {
         const auto node = static_cast<XmlDocument::Node>(document.nodes.size());
-        document.nodes.push_back({name, node + 1, XmlDocument::none, textPosition(), textPosition()});
+        document.nodes.push_back({static_cast<std::uint32_t>(document.names.size()),
+                                  static_cast<std::uint32_t>(document.characters.size()), node + 1, XmlDocument::none});
+        document.names += name;
         if (!open.empty()) {
             if (open.back().lastChild != XmlDocument::none)
                 document.nodes[open.back().lastChild].nextSibling = node;
@@ -87,61 +73,64 @@ private:
     /// Turns the characters read since the last tag into a text node, or drops them.
     void flush(bool keep) {
         if (keep && !pending.empty()) {
-            const XmlDocument::Node node = add(textNumber);
+            add("");
             document.characters += pending;
-            document.nodes[node].textEnd = textPosition();
         }
         pending.clear();
     }
 
     XmlDocument& document;
-    std::map<std::string, std::uint32_t, std::less<>> numbers;
-    std::uint32_t textNumber = 0;
     std::vector<Open> open;
     std::string pending;
 };
 
 namespace {
 
-/// The builder, or null while the parser looks into a declared entity, whose content is not taken.
-XmlBuilder* builderOf(void* context) {
-    auto* parser = static_cast<xmlParserCtxtPtr>(context);
-    auto* builder = static_cast<XmlBuilder*>(parser->_private);
-    return builder && builder->parser == parser ? builder : nullptr;
+XmlBuilder& builderOf(void* context) {
+    return *static_cast<XmlBuilder*>(static_cast<xmlParserCtxtPtr>(context)->_private);
 }
 
-void onStartElement(void* context, const xmlChar* localName, const xmlChar* prefix, const xmlChar* /*uri*/,
-                    int /*namespaces*/, const xmlChar** /*declared*/, int /*attributes*/, int /*defaulted*/,
-                    const xmlChar** /*values*/) {
-    if (XmlBuilder* builder = builderOf(context))
-        builder->startElement(prefix ? view(prefix) : std::string_view(), view(localName));
+void onStartElement(void* context, const xmlChar* name, const xmlChar** /*attributes*/) {
+    builderOf(context).startElement(view(name));
+    if (!builderOf(context).fits())
+        xmlStopParser(static_cast<xmlParserCtxtPtr>(context));
 }
 
-void onEndElement(void* context, const xmlChar* /*localName*/, const xmlChar* /*prefix*/, const xmlChar* /*uri*/) {
-    if (XmlBuilder* builder = builderOf(context))
-        builder->endElement();
+void onEndElement(void* context, const xmlChar* /*name*/) {
+    builderOf(context).endElement();
 }
 
 void onCharacters(void* context, const xmlChar* text, int length) {
-    if (XmlBuilder* builder = builderOf(context))
-        builder->characters({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
+    builderOf(context).text({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
+}
+
+/// Keeps a declared entity, so that a reference to it is well-formed, without what it stands for.
+void onEntity(void* context, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
+              xmlChar* content) {
+    xmlChar nothing[] = "";
+    if (!xmlGetPredefinedEntity(name))
+        xmlSAX2EntityDecl(context, name, type, publicId, systemId, content ? nothing : nullptr);
 }
 
 xmlSAXHandler handlers() {
-    xmlSAXHandler sax;
-    xmlSAXVersion(&sax, 2);  // declarations are kept as usual, so that a reference to a declared entity is well-formed
-    sax.startElementNs = onStartElement;
-    sax.endElementNs = onEndElement;
+    xmlSAXHandler sax{};
+    xmlSAXVersion(&sax, 1);  // without namespaces, whose declarations would be searched for each element
+    sax.startElement = onStartElement;
+    sax.endElement = onEndElement;
     sax.characters = onCharacters;
     sax.ignorableWhitespace = onCharacters;
     sax.cdataBlock = onCharacters;
+    sax.entityDecl = onEntity;
+    sax.attributeDecl = nullptr;
+    sax.elementDecl = nullptr;
+    sax.notationDecl = nullptr;
+    sax.unparsedEntityDecl = nullptr;
     sax.reference = nullptr;
     sax.comment = nullptr;
     sax.processingInstruction = nullptr;
     sax.externalSubset = nullptr;
     sax.error = nullptr;
     sax.warning = nullptr;
-    sax.serror = nullptr;
     return sax;
 }
 
@@ -165,6 +154,14 @@ struct Descriptor {
     Descriptor& operator=(const Descriptor&) = delete;
 };
 
+/// Whether the parser waits for the end of a tag or document type that is longer than any we take. Only comments and
+/// processing instructions, which cost nothing, are waited for longer.
+bool waitsTooLong(const xmlParserCtxt& parser) {
+    const auto* begin = reinterpret_cast<const char*>(parser.input->cur);
+    const std::string_view waiting(begin, static_cast<std::size_t>(parser.input->end - parser.input->cur));
+    return waiting.size() > XmlDocument::longestTag && !waiting.starts_with("<!--") && !waiting.starts_with("<?");
+}
+
 bool parse(int file, XmlBuilder& builder) {
     xmlSAXHandler sax = handlers();
     const std::unique_ptr<xmlParserCtxt, FreeParser> parser(
@@ -172,18 +169,15 @@ bool parse(int file, XmlBuilder& builder) {
     if (!parser)
         return false;
     parser->_private = &builder;
-    builder.parser = parser.get();
     xmlCtxtUseOptions(parser.get(), XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
-    std::array<char, 64 * 1024> chunk;
-    while (builder.fits()) {
+    std::array<char, XmlDocument::longestTag / 2> chunk;
+    while (builder.fits() && !waitsTooLong(*parser)) {
         const ssize_t length = read(file, chunk.data(), chunk.size());
         if (length < 0)
             return false;
-        if (xmlParseChunk(parser.get(), chunk.data(), static_cast<int>(length), length == 0) != 0 &&
-            !parser->wellFormed)
-            return false;
-        if (length == 0)
-            return parser->wellFormed;
+        xmlParseChunk(parser.get(), chunk.data(), static_cast<int>(length), length == 0);
+        if (!parser->wellFormed || length == 0)
+            return parser->wellFormed && builder.fits();
     }
     return false;
 }
@@ -204,9 +198,16 @@ bool XmlDocument::load(const std::filesystem::path& path) {
     return loaded;
 }
 
+std::string_view XmlDocument::name(Node node) const {
+    const std::size_t begin = nodes[node].nameBegin;
+    const std::size_t end = node + 1 < nodes.size() ? nodes[node + 1].nameBegin : names.size();
+    return begin == end ? "#text" : std::string_view(names).substr(begin, end - begin);
+}
+
 std::string_view XmlDocument::text(Node node) const {
-    const Entry& entry = nodes[node];
-    return std::string_view(characters).substr(entry.textBegin, entry.textEnd - entry.textBegin);
+    const std::size_t begin = nodes[node].textBegin;
+    const std::size_t end = nodes[node].end < nodes.size() ? nodes[nodes[node].end].textBegin : characters.size();
+    return std::string_view(characters).substr(begin, end - begin);
 }
 
 }  // namespace plandesk

@@ -15,8 +15,14 @@ public:
     using Node = std::uint32_t;
     static constexpr Node none = 0xFFFFFFFF;
 
-    /// Loads a file. False when it is no regular file, cannot be read or is not well-formed; the document is then
-    /// without a root. No network, no external entities; entities declared in the file are not expanded.
+    /// Elements nested deeper than this, and a tag or document type of more than this many bytes, are refused like an
+    /// ill-formed file: what the parser takes for them grows faster than they do.
+    static constexpr std::size_t deepestNesting = 256;
+    static constexpr std::size_t longestTag = 16 * 1024;
+
+    /// Loads a file. False when it is no regular file, cannot be read, is not well-formed or is refused as told above;
+    /// the document is then without a root. No network, no external entities; a reference to an entity that the file
+    /// declares stands for nothing.
     bool load(const std::filesystem::path& path);
 
     /// The root element; `none` without one.
@@ -25,26 +31,26 @@ public:
     Node firstChild(Node node) const { return nodes[node].end > node + 1 ? node + 1 : none; }
     /// `none` behind the last child.
     Node nextSibling(Node node) const { return nodes[node].nextSibling; }
-    /// Name of an element, "#text" of a text.
-    const std::string& name(Node node) const { return names[nodes[node].name]; }
-    /// All text inside the node, joined, entities decoded. Valid until the next load.
+    /// Name of an element, "#text" of a text. Valid until the next load, like `text`.
+    std::string_view name(Node node) const;
+    /// All text inside the node, joined, entities decoded.
     std::string_view text(Node node) const;
 
 private:
     friend class XmlBuilder;
 
-    /// The nodes inside one follow it up to `end`; its text is the stretch of `characters` that they cover.
+    /// The nodes inside one follow it up to `end`. Its name reaches in `names` to where that of the next node begins,
+    /// its text in `characters` to where that of the node `end` begins.
     struct Entry {
-        std::uint32_t name;
+        std::uint32_t nameBegin;
+        std::uint32_t textBegin;
         Node end;
         Node nextSibling;
-        std::uint32_t textBegin;
-        std::uint32_t textEnd;
     };
 
     std::vector<Entry> nodes;
+    std::string names;
     std::string characters;
-    std::vector<std::string> names;
 };
 
 }  // namespace plandesk
