@@ -154,12 +154,13 @@ struct Descriptor {
     Descriptor& operator=(const Descriptor&) = delete;
 };
 
-/// Whether the parser waits for the end of a tag or document type that is longer than any we take. Only comments and
-/// processing instructions, which cost nothing, are waited for longer.
+/// Whether the parser waits for the end of a tag or document type that is longer than any we take. Character data,
+/// comments and processing instructions, which cost nothing, are waited for longer.
 bool waitsTooLong(const xmlParserCtxt& parser) {
     const auto* begin = reinterpret_cast<const char*>(parser.input->cur);
     const std::string_view waiting(begin, static_cast<std::size_t>(parser.input->end - parser.input->cur));
-    return waiting.size() > XmlDocument::longestTag && !waiting.starts_with("<!--") && !waiting.starts_with("<?");
+    return waiting.size() > XmlDocument::longestTag && parser.instate != XML_PARSER_CDATA_SECTION &&
+           !waiting.starts_with("<!--") && !waiting.starts_with("<?");
 }
 
 bool parse(int file, XmlBuilder& builder) {
