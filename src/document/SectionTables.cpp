@@ -80,9 +80,9 @@ void readProfessional(Form& form, std::string_view text) {
         sheet.OptSE.setValue(true);
 }
 
+// The one field whose backslashes are halved again.
 void readRegistration(Form& form, std::string_view text) {
-    annexure(form).txtRegNm.setText(
-        replaceAll(text, R"(\\)", R"(\)"));  // the one field whose backslashes are halved again
+    annexure(form).txtRegNm.setText(replaceAll(text, R"(\\)", R"(\)"));
 }
 
 void readZone(Form& form, std::string_view code) {
