@@ -1,7 +1,5 @@
 #include "fees/DocCheckList.h"
 
-#include <ranges>
-
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "fees/LandRecordDoors.h"
@@ -56,7 +54,9 @@ void DocCheckList::wireRows() {
 
 void DocCheckList::load() {
     cmdNext.setEnabled(false);
-    for (DocumentRow& row : rows | std::views::drop(kind.savedRows)) {
+    for (DocumentRow& row : rows) {
+        if (row.enclosed.index() < kind.savedRows)
+            continue;
         row.enclosed.setVisible(false);
         row.pageFrom.setVisible(false);
         row.pageTo.setVisible(false);
@@ -95,7 +95,9 @@ DocCheckList::Fault DocCheckList::rowFault(DocumentRow& row) {
 void DocCheckList::cmdSave_Click() {
     std::string& list = proposal.*kind.list;
     list.clear();
-    for (DocumentRow& row : rows | std::views::take(kind.savedRows)) {
+    for (DocumentRow& row : rows) {
+        if (row.enclosed.index() >= kind.savedRows)
+            break;
         if (const Fault fault = rowFault(row); !fault.text.empty())
             return refuse(fault);
         list += (row.enclosed.index() > 0 ? "#" : "") + rowText(row);
