@@ -26,6 +26,7 @@ constexpr Description descriptions[] = {
     {ErrorNumber::PathNotFound, "Path not found"},
     {ErrorNumber::ObjectNotSet, "Object variable or With block variable not set"},
     {ErrorNumber::InvalidPropertyValue, "Invalid property value"},
+    {ErrorNumber::InvalidPropertyArrayIndex, "Invalid property array index"},
     {ErrorNumber::ArgumentsOfWrongType,
      "Arguments are of the wrong type, are out of acceptable range, or are in conflict with one another."},
     {ErrorNumber::NoCurrentRecord,

@@ -1,0 +1,110 @@
+#include <array>
+
+#include "base/Date.h"
+#include "base/Numbers.h"
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "controls/Controls.h"
+#include "driver/Commands.h"
+#include "driver/Reference.h"
+#include "driver/Run.h"
+
+namespace plandesk::driver {
+
+namespace {
+
+void today(Run& run, const Words& words) {
+    const std::optional<Date> day = Date::parse(words[0].text);
+    if (!day)
+        throw ScriptError("no date " + quote(words[0].text));
+    run.clock.set = day;
+}
+
+bool toBoolean(std::string_view text) {
+    const bool on = equalsIgnoringCase(text, "true");
+    if (!on && !equalsIgnoringCase(text, "false"))
+        throw RuntimeError(ErrorNumber::TypeMismatch);
+    return on;
+}
+
+void assign(ComboBox& list, const Word& value) {
+    const std::optional<int> position = wholeNumber(value.text);
+    if (position && !value.quoted)
+        list.setListIndex(*position);
+    else
+        list.setText(value.text);
+}
+
+void assign(Control& control, const Word& value) {
+    if (auto* box = dynamic_cast<TextBox*>(&control))
+        box->setText(value.text);
+    else if (auto* option = dynamic_cast<OptionButton*>(&control))
+        option->setValue(toBoolean(value.text));
+    else if (auto* check = dynamic_cast<CheckBox*>(&control))
+        check->setValue(toInteger16(value.text));
+    else if (auto* list = dynamic_cast<ComboBox*>(&control))
+        assign(*list, value);
+    else if (auto* picker = dynamic_cast<DatePicker*>(&control))
+        picker->setDate(toDate(value.text));
+    else if (auto* strip = dynamic_cast<TabStrip*>(&control))
+        strip->setTab(toInteger16(value.text));
+    else if (auto* captioned = dynamic_cast<Captioned*>(&control))
+        captioned->setCaption(value.text);
+}
+
+void set(Run& run, const Words& words) {
+    Control& control = findControl(run, words[0]);
+    if (control.kind() == ControlKind::Grid || control.kind() == ControlKind::RichText)
+        throw ScriptError(quote(words[0].text) + " takes no value");
+    run.proposal.screen.event([&] { assign(control, words[1]); });
+}
+
+void touch(Run& run, const Words& words) {
+    if (!equalsIgnoringCase(words[0].text, "mdiInterface"))
+        run.form(words[0].text);
+}
+
+/// Calls a procedure of the main window, a form or the whole system; false when there is none of that name.
+bool call(Run& run, const std::string& name, Form* form) {
+    const std::string_view procedure = std::string_view(name).substr(name.find('.') + 1);
+    if (form)
+        return form->run(procedure);
+    if (const auto found = run.proposal.procedures.find(name); found != run.proposal.procedures.end()) {
+        found->second();
+        return true;
+    }
+    return run.shell.run(procedure);
+}
+
+void runProcedure(Run& run, const Words& words) {
+    const std::string& name = words[0].text;
+    const std::string owner = name.find('.') == name.npos ? "" : name.substr(0, name.find('.'));
+    Form* form = owner.empty() || equalsIgnoringCase(owner, "mdiInterface") ? nullptr : &run.form(owner);
+    bool known = true;
+    run.proposal.screen.event([&] { known = call(run, name, form); });
+    if (!known)
+        throw ScriptError("unknown procedure " + quote(name));
+}
+
+void fail(Run& run, const Words& words) {
+    const int step = countingNumber(words[1].text);
+    if (words[0].text != "write" || step == 0)
+        throw ScriptError("fail takes: write N, N from 1");
+    run.files.failAtStep(step);
+}
+
+constexpr std::array commands = std::to_array<Command>({
+    {"today", 1, 1, "dd/MM/yyyy", today},
+    {"set", 2, 2, "REF VALUE", set},
+    {"touch", 1, 1, "FORM", touch},
+    {"run", 1, 1, "PROCEDURE", runProcedure},
+    {"fail", 2, 2, "write N", fail},
+});
+
+}  // namespace
+
+std::span<const Command> machineCommands() {
+    return commands;
+}
+
+}  // namespace plandesk::driver

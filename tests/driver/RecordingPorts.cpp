@@ -1,0 +1,55 @@
+#include "driver/RecordingPorts.h"
+
+#include <array>
+#include <chrono>
+#include <ctime>
+#include <utility>
+
+namespace plandesk::driver {
+
+void RecordingDialogs::showMessage(const Message& message) {
+    messages.push_back(message);
+    // A box has one button; an answer that waits for a question or a file dialog is not spent on it.
+    if (!answers.empty() && answers.front() == "ok")
+        answers.pop_front();
+}
+
+bool RecordingDialogs::askYesNo(const Message& question) {
+    messages.push_back(question);
+    const std::string answer = nextAnswer("no");
+    return answer == "yes" || answer == "ok";
+}
+
+std::string RecordingDialogs::nextAnswer(const std::string& otherwise) {
+    if (answers.empty())
+        return otherwise;
+    std::string answer = std::move(answers.front());
+    answers.pop_front();
+    return answer;
+}
+
+std::string RecordingDialogs::chooseFile(const FileDialog& dialog) {
+    std::string answer = nextAnswer("cancel");
+    return answer == "cancel" || answer == "ok" ? dialog.fileName : answer;
+}
+
+Date SetClock::today() const {
+    if (set)
+        return *set;
+    const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    std::tm local = {};
+    localtime_r(&now, &local);
+    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
+}
+
+ScriptedProgram::ScriptedProgram(std::string folder) : ownFolder(std::move(folder)) {
+    while (ownFolder.size() > 1 && ownFolder.ends_with('/'))
+        ownFolder.pop_back();
+}
+
+std::string_view iconName(Icon icon) {
+    constexpr std::array<std::string_view, 4> names = {"none", "information", "question", "critical"};
+    return names.at(static_cast<std::size_t>(icon));
+}
+
+}  // namespace plandesk::driver

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <istream>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/FileStore.h"
+#include "driver/RecordingPorts.h"
+#include "driver/Script.h"
+#include "proposal/Proposal.h"
+#include "shell/mdiInterface.h"
+
+namespace plandesk::driver {
+
+/// One run of the whole system under a script.
+class Run {
+public:
+    /// `folder`: the program's own. `scriptName`: what failure lines call the script.
+    Run(std::string folder, std::string scriptName, std::ostream& out, std::ostream& err);
+
+    enum Status { Held = 0, Failed = 1, WrongScript = 2 };
+
+    /// Runs the script to its end, or to the line that is wrong; gives the exit status.
+    Status run(std::istream& script);
+
+    // What commands use.
+
+    /// Tells of an expectation that did not hold; the run goes on.
+    void failed(std::string_view expected, std::string_view found);
+    /// Tells of something that was not there for the user.
+    void unavailable(const Word& what);
+    /// The form of that name, touched. ScriptError when there is none.
+    Form& form(const std::string& name);
+
+    std::ostream& out;
+    RecordingDialogs dialogs;
+    SetClock clock;
+    FileStore files;
+    ScriptedProgram program;
+    Proposal proposal;
+    mdiInterface shell;
+
+private:
+    void runLine(std::string_view line);
+    std::ostream& tell();
+
+    std::ostream& err;
+    std::string scriptName;
+    int line = 0;
+    Status status = Held;
+};
+
+}  // namespace plandesk::driver

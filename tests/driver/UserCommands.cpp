@@ -1,0 +1,173 @@
+#include <algorithm>
+#include <array>
+
+#include "base/Text.h"
+#include "controls/Controls.h"
+#include "controls/User.h"
+#include "driver/Commands.h"
+#include "driver/Reference.h"
+#include "driver/Run.h"
+#include "proposal/Grid.h"
+
+namespace plandesk::driver {
+
+namespace {
+
+/// Lets the user act on what the word names, unless the program has ended, and tells when it was not there.
+template <class Act>
+void userAct(Run& run, const Word& what, Act act) {
+    if (run.proposal.screen.ended() || !act())
+        run.unavailable(what);
+}
+
+void menu(Run& run, const Words& words) {
+    const auto named = [&](const MenuEntry& entry) { return equalsIgnoringCase(entry.name, words[0].text); };
+    if (std::ranges::none_of(mdiInterface::menu(), named))
+        throw ScriptError("unknown menu entry " + quote(words[0].text));
+    userAct(run, words[0], [&] { return run.shell.press(words[0].text); });
+}
+
+template <bool (*act)(TextBox&, std::string_view)>
+void typing(Run& run, const Words& words) {
+    auto& box = findControl<TextBox>(run, words[0]);
+    userAct(run, words[0], [&] { return act(box, words[1].text); });
+}
+
+void clear(Run& run, const Words& words) {
+    auto& box = findControl<TextBox>(run, words[0]);
+    userAct(run, words[0], [&] { return user::clear(box); });
+}
+
+/// The name of a key as the system knows it, or the one character.
+std::string keyNamed(const Word& word) {
+    for (const char* key : {"Enter", "Tab", "Esc", "Space", "Backspace", "F2", "F3"})
+        if (equalsIgnoringCase(word.text, key))
+            return key;
+    if (codePoints(word.text).size() == 1)
+        return word.text;
+    throw ScriptError("unknown key " + quote(word.text));
+}
+
+void press(Run& run, const Words& words) {
+    Control& control = findControl(run, words[0]);
+    const std::string key = keyNamed(words[1]);
+    const bool typed = key == "Space" || key == "Backspace" || codePoints(key).size() == 1;
+    const auto* box = dynamic_cast<const TextBox*>(&control);
+    const bool lockedOut = box && box->locked && typed;
+    userAct(run, words[0], [&] { return !lockedOut && user::press(control, key); });
+}
+
+void pressForm(Run& run, const Words& words) {
+    Form& form = run.form(words[0].text);
+    const std::string key = keyNamed(words[1]);
+    userAct(run, words[0], [&] { return user::pressForm(form, key); });
+}
+
+void click(Run& run, const Words& words) {
+    Control& control = findControl(run, words[0]);
+    userAct(run, words[0], [&] { return user::click(control); });
+}
+
+int positionOf(const ComboBox& list, const Word& item) {
+    if (const std::optional<int> position = wholeNumber(item.text); position && !item.quoted)
+        return *position;
+    for (int position = 0; position < list.listCount(); ++position)
+        if (list.item(position) == item.text)
+            return position;
+    return -1;
+}
+
+void pick(Run& run, const Words& words) {
+    auto& list = findControl<ComboBox>(run, words[0]);
+    userAct(run, words[0], [&] { return user::pick(list, positionOf(list, words[1])); });
+}
+
+void date(Run& run, const Words& words) {
+    auto& picker = findControl<DatePicker>(run, words[0]);
+    const std::optional<Date> day = Date::parse(words[1].text);
+    if (!day)
+        throw ScriptError("no date " + quote(words[1].text));
+    userAct(run, words[0], [&] { return user::pickDate(picker, *day); });
+}
+
+void leave(Run& run, const Words& words) {
+    Control& control = findControl(run, words[0]);
+    userAct(run, words[0], [&] { return user::leave(control); });
+}
+
+void tab(Run& run, const Words& words) {
+    auto& strip = findControl<TabStrip>(run, words[0]);
+    const int place = countingNumber(words[1].text);
+    userAct(run, words[0], [&] { return user::showTab(strip, place); });
+}
+
+void cell(Run& run, const Words& words) {
+    auto& grid = findControl<Grid>(run, words[0]);
+    const int row = countingNumber(words[1].text);
+    const int column = countingNumber(words[2].text);
+    userAct(run, words[0], [&] { return user::editCell(grid, row, column, words[3].text); });
+}
+
+template <bool (*act)(Grid&, int, int)>
+void onCell(Run& run, const Words& words) {
+    auto& grid = findControl<Grid>(run, words[0]);
+    const int row = countingNumber(words[1].text);
+    const int column = countingNumber(words[2].text);
+    userAct(run, words[0], [&] { return act(grid, row, column); });
+}
+
+void deleteRow(Run& run, const Words& words) {
+    auto& grid = findControl<Grid>(run, words[0]);
+    const int row = countingNumber(words[1].text);
+    userAct(run, words[0], [&] { return user::deleteRow(grid, row); });
+}
+
+void close(Run& run, const Words& words) {
+    const std::string& name = words[0].text;
+    const bool mainWindow = equalsIgnoringCase(name, "mdiInterface");
+    if (!mainWindow && !run.proposal.forms.known(name))
+        throw ScriptError("unknown form " + quote(name));
+    userAct(run, words[0], [&] {
+        if (mainWindow) {
+            run.shell.closeBox();
+            return true;
+        }
+        Form* form = run.proposal.forms.loaded(name);
+        if (!form || !form->visible())
+            return false;
+        run.proposal.screen.event([form] { form->closeBox(); });
+        return true;
+    });
+}
+
+void answer(Run& run, const Words& words) {
+    run.dialogs.answers.push_back(words[0].text);
+}
+
+constexpr std::array commands = std::to_array<Command>({
+    {"menu", 1, 1, "NAME", menu},
+    {"type", 2, 2, "REF TEXT", typing<user::type>},
+    {"append", 2, 2, "REF TEXT", typing<user::append>},
+    {"clear", 1, 1, "REF", clear},
+    {"press", 2, 2, "REF KEY", press},
+    {"pressform", 2, 2, "FORM KEY", pressForm},
+    {"click", 1, 1, "REF", click},
+    {"pick", 2, 2, "REF N or REF \"TEXT\"", pick},
+    {"date", 2, 2, "REF dd/MM/yyyy", date},
+    {"leave", 1, 1, "REF", leave},
+    {"tab", 2, 2, "REF N", tab},
+    {"cell", 4, 4, "REF ROW COLUMN VALUE", cell},
+    {"cellclick", 3, 3, "REF ROW COLUMN", onCell<user::clickCell>},
+    {"cellbutton", 3, 3, "REF ROW COLUMN", onCell<user::pressCellButton>},
+    {"deleterow", 2, 2, "REF ROW", deleteRow},
+    {"close", 1, 1, "FORM", close},
+    {"answer", 1, 1, "VALUE", answer},
+});
+
+}  // namespace
+
+std::span<const Command> userCommands() {
+    return commands;
+}
+
+}  // namespace plandesk::driver
