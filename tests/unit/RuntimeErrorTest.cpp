@@ -29,6 +29,7 @@ TEST(RuntimeError, DescribesEachKindInThePlatformsWords) {
     EXPECT_EQ(descriptionOf(ErrorNumber::PathNotFound), "Path not found");
     EXPECT_EQ(descriptionOf(ErrorNumber::ObjectNotSet), "Object variable or With block variable not set");
     EXPECT_EQ(descriptionOf(ErrorNumber::InvalidPropertyValue), "Invalid property value");
+    EXPECT_EQ(descriptionOf(ErrorNumber::InvalidPropertyArrayIndex), "Invalid property array index");
     EXPECT_EQ(descriptionOf(ErrorNumber::ArgumentsOfWrongType),
               "Arguments are of the wrong type, are out of acceptable range, or are in conflict with one another.");
     EXPECT_EQ(descriptionOf(ErrorNumber::NoCurrentRecord),
