@@ -1,3 +1,5 @@
+#include <array>
+
 #include "unit/ParticularsFixture.h"
 
 // The two packed texts in which AnnexureACont leaves its answers.
@@ -30,7 +32,8 @@ protected:
                       const std::string& before = "", const std::string& after = "") {
         for (const int code : {1, 0, 2}) {
             answer(question, code);
-            EXPECT_EQ(value((this->*section)(), place), before + std::to_string(code) + after)
+            const std::string digit = std::to_string(code);
+            EXPECT_EQ(value((this->*section)(), place), join(std::array{before, digit, after}, ""))
                 << question.yes.name() << " " << code;
         }
     }
