@@ -8,7 +8,7 @@
 
 namespace plandesk::driver {
 
-class Run;
+class Session;
 
 using Words = std::vector<Word>;
 
@@ -17,7 +17,7 @@ struct Command {
     int least;  ///< number of words behind the name
     int most;
     std::string_view takes;  ///< what these words are, to tell of a wrong number of them
-    void (*run)(Run& run, const Words& words);
+    void (*run)(Session& session, const Words& words);
 };
 
 std::span<const Command> userCommands();     ///< what the user does

@@ -83,8 +83,8 @@ Json messages(const RecordingDialogs& dialogs) {
 
 }  // namespace
 
-void writeDump(const Run& run, std::ostream& out) {
-    const Proposal& proposal = run.proposal;
+void writeDump(const Session& session, std::ostream& out) {
+    const Proposal& proposal = session.proposal;
     Json state;
     state["caption"] = proposal.screen.caption();
     state["flags"] = members(proposal, Proposal::flags, &Proposal::FlagName::flag);
@@ -92,7 +92,7 @@ void writeDump(const Run& run, std::ostream& out) {
     state["fragments"] = members(proposal, Proposal::fragments, &Proposal::FragmentName::text);
     Json& menus = state["menus"] = Json::object();
     for (const MenuEntry& entry : mdiInterface::menu())
-        menus[std::string(entry.name)] = run.shell.available(entry.name);
+        menus[std::string(entry.name)] = session.shell.available(entry.name);
     Json& forms = state["forms"] = Json::object();
     for (const auto& [name, form] : proposal.forms.all())
         forms[name] = toJson(*form);
@@ -100,7 +100,7 @@ void writeDump(const Run& run, std::ostream& out) {
     for (const auto& [name, table] : proposal.tables.byName())
         if (table)
             tables[std::string(name)] = toJson(*table);
-    state["messages"] = messages(run.dialogs);
+    state["messages"] = messages(session.dialogs);
     state["shown"] = Json::array();
     state["printed"] = Json::array();
     // A text that is not valid UTF-8 does not stop the dump.

@@ -9,35 +9,35 @@
 #include "driver/Commands.h"
 #include "driver/Dump.h"
 #include "driver/Reference.h"
-#include "driver/Run.h"
+#include "driver/Session.h"
 
 namespace plandesk::driver {
 
 namespace {
 
-void compare(Run& run, const std::string& what, std::string_view expected, std::string_view found) {
+void compare(Session& session, const std::string& what, std::string_view expected, std::string_view found) {
     if (expected == found)
         return;
     constexpr std::size_t longText = 200;
     if (std::max(expected.size(), found.size()) <= longText)
-        return run.failed(what + " " + quote(expected), quote(found));
+        return session.failed(what + " " + quote(expected), quote(found));
     // Of long texts, what stands around the first difference.
     const auto ends = std::ranges::mismatch(expected, found);
     const auto at = static_cast<std::size_t>(ends.in1 - expected.begin());
     const std::size_t start = at - std::min(at, longText / 2);
-    run.failed(what + " " + quote(expected.substr(start, longText)),
-               quote(found.substr(start, longText)) + " (from byte " + std::to_string(start) +
-                   "; they differ at byte " + std::to_string(at) + ")");
+    session.failed(what + " " + quote(expected.substr(start, longText)),
+                   quote(found.substr(start, longText)) + " (from byte " + std::to_string(start) +
+                       "; they differ at byte " + std::to_string(at) + ")");
 }
 
-void expect(Run& run, const Words& words) {
+void expect(Session& session, const Words& words) {
     std::string found;
     try {
-        found = textOf(valueOf(run, words[0]));
+        found = textOf(valueOf(session, words[0]));
     } catch (const RuntimeError& error) {
-        return run.failed(words[0].text + " " + quote(words[1].text), error.description);
+        return session.failed(words[0].text + " " + quote(words[1].text), error.description);
     }
-    compare(run, words[0].text, words[1].text, found);
+    compare(session, words[0].text, words[1].text, found);
 }
 
 bool truth(const Word& word) {
@@ -46,21 +46,22 @@ bool truth(const Word& word) {
     return word.text == "true";
 }
 
-void expectMenu(Run& run, const Words& words) {
+void expectMenu(Session& session, const Words& words) {
     const auto named = [&](const MenuEntry& entry) { return equalsIgnoringCase(entry.name, words[0].text); };
     if (std::ranges::none_of(mdiInterface::menu(), named))
         throw ScriptError("unknown menu entry " + quote(words[0].text));
     const bool expected = truth(words[1]);
-    const bool found = run.shell.available(words[0].text);
+    const bool found = session.shell.available(words[0].text);
     if (found != expected)
-        run.failed(words[0].text + (expected ? " available" : " not available"), found ? "available" : "not available");
+        session.failed(words[0].text + (expected ? " available" : " not available"),
+                       found ? "available" : "not available");
 }
 
 std::string messageText(const Message& message) {
     return quote(message.title) + " " + quote(message.text) + " " + std::string(iconName(message.icon));
 }
 
-void expectMessage(Run& run, const Words& words) {
+void expectMessage(Session& session, const Words& words) {
     std::string expected = quote(words[0].text) + " " + quote(words[1].text);
     if (words.size() == 3) {
         constexpr std::array icons = {Icon::None, Icon::Information, Icon::Question, Icon::Critical};
@@ -68,33 +69,33 @@ void expectMessage(Run& run, const Words& words) {
             throw ScriptError("unknown icon " + quote(words[2].text));
         expected += " " + words[2].text;
     }
-    if (run.dialogs.messages.empty())
-        return run.failed("message " + expected, "none");
-    const Message message = run.dialogs.messages.front();
-    run.dialogs.messages.pop_front();
+    if (session.dialogs.messages.empty())
+        return session.failed("message " + expected, "none");
+    const Message message = session.dialogs.messages.front();
+    session.dialogs.messages.pop_front();
     const bool same = message.title == words[0].text && message.text == words[1].text &&
                       (words.size() == 2 || iconName(message.icon) == words[2].text);
     if (!same)
-        run.failed("message " + expected, "message " + messageText(message));
+        session.failed("message " + expected, "message " + messageText(message));
 }
 
-void expectNoMessage(Run& run, const Words&) {
-    if (!run.dialogs.messages.empty())
-        run.failed("no message", "message " + messageText(run.dialogs.messages.front()));
+void expectNoMessage(Session& session, const Words&) {
+    if (!session.dialogs.messages.empty())
+        session.failed("no message", "message " + messageText(session.dialogs.messages.front()));
 }
 
-PropertyValue flagNamed(const Run& run, const std::string& name) {
-    if (const std::optional<PropertyValue> value = projectValue(run.proposal, name))
+PropertyValue flagNamed(const Session& session, const std::string& name) {
+    if (const std::optional<PropertyValue> value = projectValue(session.proposal, name))
         return *value;
     throw ScriptError("unknown flag " + quote(name));
 }
 
-void expectFlag(Run& run, const Words& words) {
-    compare(run, words[0].text, words[1].text, textOf(flagNamed(run, words[0].text)));
+void expectFlag(Session& session, const Words& words) {
+    compare(session, words[0].text, words[1].text, textOf(flagNamed(session, words[0].text)));
 }
 
-void expectCaption(Run& run, const Words& words) {
-    compare(run, "caption", words[0].text, run.proposal.screen.caption());
+void expectCaption(Session& session, const Words& words) {
+    compare(session, "caption", words[0].text, session.proposal.screen.caption());
 }
 
 /// Whole content of a file without its last line end; nothing when it does not exist.
@@ -110,21 +111,21 @@ std::optional<std::string> fileText(const std::string& path) {
     return text;
 }
 
-void expectFile(Run& run, const Words& words) {
+void expectFile(Session& session, const Words& words) {
     const std::optional<std::string> found = fileText(words[0].text);
     if (found)
-        compare(run, "file " + words[0].text, words[1].text, *found);
+        compare(session, "file " + words[0].text, words[1].text, *found);
     else
-        run.failed("file " + words[0].text, "no such file");
+        session.failed("file " + words[0].text, "no such file");
 }
 
-void expectNoFile(Run& run, const Words& words) {
+void expectNoFile(Session& session, const Words& words) {
     if (std::filesystem::exists(std::filesystem::symlink_status(words[0].text)))
-        run.failed("no file " + words[0].text, "one");
+        session.failed("no file " + words[0].text, "one");
 }
 
-const Recordset* tableNamed(const Run& run, const std::string& name) {
-    for (const auto& [tableName, table] : run.proposal.tables.byName())
+const Recordset* tableNamed(const Session& session, const std::string& name) {
+    for (const auto& [tableName, table] : session.proposal.tables.byName())
         if (equalsIgnoringCase(tableName, name))
             return table;
     throw ScriptError("unknown table " + quote(name));
@@ -143,76 +144,76 @@ std::size_t columnOf(const Recordset& table, const Word& word) {
     return static_cast<std::size_t>(*place);
 }
 
-void expectTable(Run& run, const Words& words) {
+void expectTable(Session& session, const Words& words) {
     const std::string what = words[0].text + " " + words[1].text + " " + words[2].text;
     const auto row = static_cast<std::size_t>(countingNumber(words[1].text));
-    const Recordset* table = tableNamed(run, words[0].text);
+    const Recordset* table = tableNamed(session, words[0].text);
     if (!table)
-        return run.failed(what + " " + quote(words[3].text), "no table");
+        return session.failed(what + " " + quote(words[3].text), "no table");
     const std::size_t column = columnOf(*table, words[2]);
     const auto rows = table->allRows();
     if (row >= rows.size())
-        return run.failed(what + " " + quote(words[3].text), std::to_string(rows.size()) + " rows");
-    compare(run, what, words[3].text, cellText(rows[row][column]));
+        return session.failed(what + " " + quote(words[3].text), std::to_string(rows.size()) + " rows");
+    compare(session, what, words[3].text, cellText(rows[row][column]));
 }
 
-void expectRows(Run& run, const Words& words) {
+void expectRows(Session& session, const Words& words) {
     const int expected = countingNumber(words[1].text);
-    const Recordset* table = tableNamed(run, words[0].text);
+    const Recordset* table = tableNamed(session, words[0].text);
     if (!table)
-        run.failed(words[0].text + " with " + words[1].text + " rows", "no table");
+        session.failed(words[0].text + " with " + words[1].text + " rows", "no table");
     else if (table->rowCount() != expected)
-        run.failed(words[0].text + " with " + words[1].text + " rows", std::to_string(table->rowCount()));
+        session.failed(words[0].text + " with " + words[1].text + " rows", std::to_string(table->rowCount()));
 }
 
-void notThereYet(Run&, const Words&) {
+void notThereYet(Session&, const Words&) {
     throw ScriptError("not there yet");
 }
 
-void print(Run& run, const Words& words) {
+void print(Session& session, const Words& words) {
     try {
-        run.out << textOf(valueOf(run, words[0])) << '\n';
+        session.out << textOf(valueOf(session, words[0])) << '\n';
     } catch (const RuntimeError& error) {
         throw ScriptError(words[0].text + ": " + error.description);
     }
 }
 
-void printMessages(Run& run, const Words&) {
-    for (const Message& message : run.dialogs.messages)
-        run.out << messageText(message) << '\n';
-    run.dialogs.messages.clear();
+void printMessages(Session& session, const Words&) {
+    for (const Message& message : session.dialogs.messages)
+        session.out << messageText(message) << '\n';
+    session.dialogs.messages.clear();
 }
 
 /// The column names, then the rows, their cells quoted and divided by tabs.
-void printTable(Run& run, const Words& words) {
-    const Recordset* table = tableNamed(run, words[0].text);
+void printTable(Session& session, const Words& words) {
+    const Recordset* table = tableNamed(session, words[0].text);
     if (!table)
         return;
     const char* divider = "";
     for (const Column& column : table->columns())
-        run.out << std::exchange(divider, "\t") << column.name;
-    run.out << '\n';
+        session.out << std::exchange(divider, "\t") << column.name;
+    session.out << '\n';
     for (const std::span<const Value> row : table->allRows()) {
         divider = "";
         for (const Value& value : row)
-            run.out << std::exchange(divider, "\t") << (isNull(value) ? "null" : quote(cellText(value)));
-        run.out << '\n';
+            session.out << std::exchange(divider, "\t") << (isNull(value) ? "null" : quote(cellText(value)));
+        session.out << '\n';
     }
 }
 
-void printFlag(Run& run, const Words& words) {
-    run.out << textOf(flagNamed(run, words[0].text)) << '\n';
+void printFlag(Session& session, const Words& words) {
+    session.out << textOf(flagNamed(session, words[0].text)) << '\n';
 }
 
-void printFile(Run& run, const Words& words) {
+void printFile(Session& session, const Words& words) {
     if (const std::optional<std::string> text = fileText(words[0].text))
-        run.out << *text << '\n';
+        session.out << *text << '\n';
     else
-        run.failed("file " + words[0].text, "no such file");
+        session.failed("file " + words[0].text, "no such file");
 }
 
-void dump(Run& run, const Words&) {
-    writeDump(run, run.out);
+void dump(Session& session, const Words&) {
+    writeDump(session, session.out);
 }
 
 constexpr std::array commands = std::to_array<Command>({

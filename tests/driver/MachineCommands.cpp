@@ -7,17 +7,17 @@
 #include "controls/Controls.h"
 #include "driver/Commands.h"
 #include "driver/Reference.h"
-#include "driver/Run.h"
+#include "driver/Session.h"
 
 namespace plandesk::driver {
 
 namespace {
 
-void today(Run& run, const Words& words) {
+void today(Session& session, const Words& words) {
     const std::optional<Date> day = Date::parse(words[0].text);
     if (!day)
         throw ScriptError("no date " + quote(words[0].text));
-    run.clock.set = day;
+    session.clock.set = day;
 }
 
 bool toBoolean(std::string_view text) {
@@ -52,45 +52,45 @@ void assign(Control& control, const Word& value) {
         captioned->setCaption(value.text);
 }
 
-void set(Run& run, const Words& words) {
-    Control& control = findControl(run, words[0]);
+void set(Session& session, const Words& words) {
+    Control& control = findControl(session, words[0]);
     if (control.kind() == ControlKind::Grid || control.kind() == ControlKind::RichText)
         throw ScriptError(quote(words[0].text) + " takes no value");
-    run.proposal.screen.event([&] { assign(control, words[1]); });
+    session.proposal.screen.event([&] { assign(control, words[1]); });
 }
 
-void touch(Run& run, const Words& words) {
+void touch(Session& session, const Words& words) {
     if (!equalsIgnoringCase(words[0].text, "mdiInterface"))
-        run.form(words[0].text);
+        session.form(words[0].text);
 }
 
 /// Calls a procedure of the main window, a form or the whole system; false when there is none of that name.
-bool call(Run& run, const std::string& name, Form* form) {
+bool call(Session& session, const std::string& name, Form* form) {
     const std::string_view procedure = std::string_view(name).substr(name.find('.') + 1);
     if (form)
         return form->run(procedure);
-    if (const auto found = run.proposal.procedures.find(name); found != run.proposal.procedures.end()) {
+    if (const auto found = session.proposal.procedures.find(name); found != session.proposal.procedures.end()) {
         found->second();
         return true;
     }
-    return run.shell.run(procedure);
+    return session.shell.run(procedure);
 }
 
-void runProcedure(Run& run, const Words& words) {
+void runProcedure(Session& session, const Words& words) {
     const std::string& name = words[0].text;
     const std::string owner = name.find('.') == name.npos ? "" : name.substr(0, name.find('.'));
-    Form* form = owner.empty() || equalsIgnoringCase(owner, "mdiInterface") ? nullptr : &run.form(owner);
+    Form* form = owner.empty() || equalsIgnoringCase(owner, "mdiInterface") ? nullptr : &session.form(owner);
     bool known = true;
-    run.proposal.screen.event([&] { known = call(run, name, form); });
+    session.proposal.screen.event([&] { known = call(session, name, form); });
     if (!known)
         throw ScriptError("unknown procedure " + quote(name));
 }
 
-void fail(Run& run, const Words& words) {
+void fail(Session& session, const Words& words) {
     const int step = countingNumber(words[1].text);
     if (words[0].text != "write" || step == 0)
         throw ScriptError("fail takes: write N, N from 1");
-    run.files.failAtStep(step);
+    session.files.failAtStep(step);
 }
 
 constexpr std::array commands = std::to_array<Command>({

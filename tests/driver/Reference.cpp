@@ -81,20 +81,20 @@ PropertyValue formProperty(const Form& form, std::string_view name, std::string_
     unknownProperty(reference);
 }
 
-PropertyValue mainWindowProperty(const Run& run, std::string_view name, std::string_view reference) {
+PropertyValue mainWindowProperty(const Session& session, std::string_view name, std::string_view reference) {
     if (equalsIgnoringCase(name, "caption"))
-        return run.proposal.screen.caption();
+        return session.proposal.screen.caption();
     if (equalsIgnoringCase(name, "visible") || equalsIgnoringCase(name, "loaded"))
-        return !run.proposal.screen.ended();
+        return !session.proposal.screen.ended();
     if (equalsIgnoringCase(name, "backcolor"))
-        return run.shell.backColor().text();
+        return session.shell.backColor().text();
     unknownProperty(reference);
 }
 
-bool isLoaded(const Run& run, const std::string& form) {
-    if (!run.proposal.forms.known(form))
+bool isLoaded(const Session& session, const std::string& form) {
+    if (!session.proposal.forms.known(form))
         throw ScriptError("unknown form " + quote(form));
-    return run.proposal.forms.loaded(form) != nullptr;
+    return session.proposal.forms.loaded(form) != nullptr;
 }
 
 using Arguments = std::vector<int>;
@@ -232,23 +232,23 @@ std::optional<PropertyValue> property(const Control& control, std::string_view n
     return found->read(control, arguments);
 }
 
-Control& findControl(Run& run, const Word& reference) {
+Control& findControl(Session& session, const Word& reference) {
     const std::vector<Segment> segments = parseSegments(reference.text);
     if (segments.size() != 2)
         throw ScriptError(quote(reference.text) + " is no control");
-    return controlIn(run.form(segments[0].name), segments[1], reference.text);
+    return controlIn(session.form(segments[0].name), segments[1], reference.text);
 }
 
-PropertyValue valueOf(Run& run, const Word& reference) {
+PropertyValue valueOf(Session& session, const Word& reference) {
     const std::vector<Segment> segments = parseSegments(reference.text);
     const std::string& formName = segments[0].name;
     const Segment& second = segments[1];
     const bool bare = segments.size() == 2 && second.arguments.empty();
     if (bare && equalsIgnoringCase(formName, "mdiInterface"))
-        return mainWindowProperty(run, second.name, reference.text);
+        return mainWindowProperty(session, second.name, reference.text);
     if (bare && equalsIgnoringCase(second.name, "loaded"))
-        return isLoaded(run, formName);
-    const Form& form = run.form(formName);
+        return isLoaded(session, formName);
+    const Form& form = session.form(formName);
     if (segments.size() == 3) {
         const Control& control = controlIn(form, second, reference.text);
         if (Found value = property(control, segments[2].name, segments[2].arguments))

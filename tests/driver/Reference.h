@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "controls/Control.h"
-#include "driver/Run.h"
+#include "driver/Session.h"
 
 namespace plandesk::driver {
 
@@ -17,12 +17,12 @@ using PropertyValue = std::variant<bool, int, std::string>;
 std::string textOf(const PropertyValue& value);
 
 /// The control that FORM.CONTROL or FORM.CONTROL(INDEX) names; its form is loaded. ScriptError when there is none.
-Control& findControl(Run& run, const Word& reference);
+Control& findControl(Session& session, const Word& reference);
 
 /// The same, and of that kind.
 template <class Kind>
-Kind& findControl(Run& run, const Word& reference) {
-    Control& control = findControl(run, reference);
+Kind& findControl(Session& session, const Word& reference) {
+    Control& control = findControl(session, reference);
     if (auto* wanted = dynamic_cast<Kind*>(&control))
         return *wanted;
     throw ScriptError(reference.text + " is a " + std::string(kindName(control.kind())));
@@ -30,7 +30,7 @@ Kind& findControl(Run& run, const Word& reference) {
 
 /// Value of FORM.CONTROL, FORM.CONTROL.PROPERTY or FORM.PROPERTY. The form is loaded except by FORM.loaded.
 /// ScriptError for a form, control or property that there is not; RuntimeError for a place that a list or grid lacks.
-PropertyValue valueOf(Run& run, const Word& reference);
+PropertyValue valueOf(Session& session, const Word& reference);
 
 /// Names of the properties that are the control's own value.
 std::vector<std::string_view> ownProperties(const Control& control);

@@ -6,7 +6,7 @@
 #include "controls/User.h"
 #include "driver/Commands.h"
 #include "driver/Reference.h"
-#include "driver/Run.h"
+#include "driver/Session.h"
 #include "proposal/Grid.h"
 
 namespace plandesk::driver {
@@ -15,27 +15,27 @@ namespace {
 
 /// Lets the user act on what the word names, unless the program has ended, and tells when it was not there.
 template <class Act>
-void userAct(Run& run, const Word& what, Act act) {
-    if (run.proposal.screen.ended() || !act())
-        run.unavailable(what);
+void userAct(Session& session, const Word& what, Act act) {
+    if (session.proposal.screen.ended() || !act())
+        session.unavailable(what);
 }
 
-void menu(Run& run, const Words& words) {
+void menu(Session& session, const Words& words) {
     const auto named = [&](const MenuEntry& entry) { return equalsIgnoringCase(entry.name, words[0].text); };
     if (std::ranges::none_of(mdiInterface::menu(), named))
         throw ScriptError("unknown menu entry " + quote(words[0].text));
-    userAct(run, words[0], [&] { return run.shell.press(words[0].text); });
+    userAct(session, words[0], [&] { return session.shell.press(words[0].text); });
 }
 
 template <bool (*act)(TextBox&, std::string_view)>
-void typing(Run& run, const Words& words) {
-    auto& box = findControl<TextBox>(run, words[0]);
-    userAct(run, words[0], [&] { return act(box, words[1].text); });
+void typing(Session& session, const Words& words) {
+    auto& box = findControl<TextBox>(session, words[0]);
+    userAct(session, words[0], [&] { return act(box, words[1].text); });
 }
 
-void clear(Run& run, const Words& words) {
-    auto& box = findControl<TextBox>(run, words[0]);
-    userAct(run, words[0], [&] { return user::clear(box); });
+void clear(Session& session, const Words& words) {
+    auto& box = findControl<TextBox>(session, words[0]);
+    userAct(session, words[0], [&] { return user::clear(box); });
 }
 
 /// The name of a key as the system knows it, or the one character.
@@ -48,24 +48,24 @@ std::string keyNamed(const Word& word) {
     throw ScriptError("unknown key " + quote(word.text));
 }
 
-void press(Run& run, const Words& words) {
-    Control& control = findControl(run, words[0]);
+void press(Session& session, const Words& words) {
+    Control& control = findControl(session, words[0]);
     const std::string key = keyNamed(words[1]);
     const bool typed = key == "Space" || key == "Backspace" || codePoints(key).size() == 1;
     const auto* box = dynamic_cast<const TextBox*>(&control);
     const bool lockedOut = box && box->locked && typed;
-    userAct(run, words[0], [&] { return !lockedOut && user::press(control, key); });
+    userAct(session, words[0], [&] { return !lockedOut && user::press(control, key); });
 }
 
-void pressForm(Run& run, const Words& words) {
-    Form& form = run.form(words[0].text);
+void pressForm(Session& session, const Words& words) {
+    Form& form = session.form(words[0].text);
     const std::string key = keyNamed(words[1]);
-    userAct(run, words[0], [&] { return user::pressForm(form, key); });
+    userAct(session, words[0], [&] { return user::pressForm(form, key); });
 }
 
-void click(Run& run, const Words& words) {
-    Control& control = findControl(run, words[0]);
-    userAct(run, words[0], [&] { return user::click(control); });
+void click(Session& session, const Words& words) {
+    Control& control = findControl(session, words[0]);
+    userAct(session, words[0], [&] { return user::click(control); });
 }
 
 int positionOf(const ComboBox& list, const Word& item) {
@@ -77,71 +77,71 @@ int positionOf(const ComboBox& list, const Word& item) {
     return -1;
 }
 
-void pick(Run& run, const Words& words) {
-    auto& list = findControl<ComboBox>(run, words[0]);
-    userAct(run, words[0], [&] { return user::pick(list, positionOf(list, words[1])); });
+void pick(Session& session, const Words& words) {
+    auto& list = findControl<ComboBox>(session, words[0]);
+    userAct(session, words[0], [&] { return user::pick(list, positionOf(list, words[1])); });
 }
 
-void date(Run& run, const Words& words) {
-    auto& picker = findControl<DatePicker>(run, words[0]);
+void date(Session& session, const Words& words) {
+    auto& picker = findControl<DatePicker>(session, words[0]);
     const std::optional<Date> day = Date::parse(words[1].text);
     if (!day)
         throw ScriptError("no date " + quote(words[1].text));
-    userAct(run, words[0], [&] { return user::pickDate(picker, *day); });
+    userAct(session, words[0], [&] { return user::pickDate(picker, *day); });
 }
 
-void leave(Run& run, const Words& words) {
-    Control& control = findControl(run, words[0]);
-    userAct(run, words[0], [&] { return user::leave(control); });
+void leave(Session& session, const Words& words) {
+    Control& control = findControl(session, words[0]);
+    userAct(session, words[0], [&] { return user::leave(control); });
 }
 
-void tab(Run& run, const Words& words) {
-    auto& strip = findControl<TabStrip>(run, words[0]);
+void tab(Session& session, const Words& words) {
+    auto& strip = findControl<TabStrip>(session, words[0]);
     const int place = countingNumber(words[1].text);
-    userAct(run, words[0], [&] { return user::showTab(strip, place); });
+    userAct(session, words[0], [&] { return user::showTab(strip, place); });
 }
 
-void cell(Run& run, const Words& words) {
-    auto& grid = findControl<Grid>(run, words[0]);
+void cell(Session& session, const Words& words) {
+    auto& grid = findControl<Grid>(session, words[0]);
     const int row = countingNumber(words[1].text);
     const int column = countingNumber(words[2].text);
-    userAct(run, words[0], [&] { return user::editCell(grid, row, column, words[3].text); });
+    userAct(session, words[0], [&] { return user::editCell(grid, row, column, words[3].text); });
 }
 
 template <bool (*act)(Grid&, int, int)>
-void onCell(Run& run, const Words& words) {
-    auto& grid = findControl<Grid>(run, words[0]);
+void onCell(Session& session, const Words& words) {
+    auto& grid = findControl<Grid>(session, words[0]);
     const int row = countingNumber(words[1].text);
     const int column = countingNumber(words[2].text);
-    userAct(run, words[0], [&] { return act(grid, row, column); });
+    userAct(session, words[0], [&] { return act(grid, row, column); });
 }
 
-void deleteRow(Run& run, const Words& words) {
-    auto& grid = findControl<Grid>(run, words[0]);
+void deleteRow(Session& session, const Words& words) {
+    auto& grid = findControl<Grid>(session, words[0]);
     const int row = countingNumber(words[1].text);
-    userAct(run, words[0], [&] { return user::deleteRow(grid, row); });
+    userAct(session, words[0], [&] { return user::deleteRow(grid, row); });
 }
 
-void close(Run& run, const Words& words) {
+void close(Session& session, const Words& words) {
     const std::string& name = words[0].text;
     const bool mainWindow = equalsIgnoringCase(name, "mdiInterface");
-    if (!mainWindow && !run.proposal.forms.known(name))
+    if (!mainWindow && !session.proposal.forms.known(name))
         throw ScriptError("unknown form " + quote(name));
-    userAct(run, words[0], [&] {
+    userAct(session, words[0], [&] {
         if (mainWindow) {
-            run.shell.closeBox();
+            session.shell.closeBox();
             return true;
         }
-        Form* form = run.proposal.forms.loaded(name);
+        Form* form = session.proposal.forms.loaded(name);
         if (!form || !form->visible())
             return false;
-        run.proposal.screen.event([form] { form->closeBox(); });
+        session.proposal.screen.event([form] { form->closeBox(); });
         return true;
     });
 }
 
-void answer(Run& run, const Words& words) {
-    run.dialogs.answers.push_back(words[0].text);
+void answer(Session& session, const Words& words) {
+    session.dialogs.answers.push_back(words[0].text);
 }
 
 constexpr std::array commands = std::to_array<Command>({

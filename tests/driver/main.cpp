@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "driver/Run.h"
+#include "driver/Session.h"
 
 // plandesk-driver [--folder DIR] [SCRIPT]
 
@@ -37,19 +37,19 @@ Options parse(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int count, char** values) {
-    using plandesk::driver::Run;
+    using plandesk::driver::Session;
     std::ios::sync_with_stdio(false);
     const Options options = parse({values + 1, values + count});
     if (!options.understood) {
         std::cerr << "plandesk-driver [--folder DIR] [SCRIPT]\n";
-        return Run::WrongScript;
+        return Session::WrongScript;
     }
     if (options.script.empty())
-        return Run(options.folder, "-", std::cout, std::cerr).run(std::cin);
+        return Session(options.folder, "-", std::cout, std::cerr).run(std::cin);
     std::ifstream script(options.script, std::ios::binary);
     if (!script || std::filesystem::is_directory(options.script)) {
         std::cerr << options.script << ": cannot be read\n";
-        return Run::WrongScript;
+        return Session::WrongScript;
     }
-    return Run(options.folder, options.script, std::cout, std::cerr).run(script);
+    return Session(options.folder, options.script, std::cout, std::cerr).run(script);
 }

@@ -1,4 +1,4 @@
-#include "driver/Run.h"
+#include "driver/Session.h"
 
 #include <algorithm>
 
@@ -19,7 +19,7 @@ const Command& findCommand(const std::string& name) {
 
 }  // namespace
 
-Run::Run(std::string folder, std::string scriptName, std::ostream& out, std::ostream& err)
+Session::Session(std::string folder, std::string scriptName, std::ostream& out, std::ostream& err)
     : out(out),
       program(std::move(folder)),
       proposal(Ports{dialogs, clock, files, program}),
@@ -27,7 +27,7 @@ Run::Run(std::string folder, std::string scriptName, std::ostream& out, std::ost
       err(err),
       scriptName(std::move(scriptName)) {}
 
-Run::Status Run::run(std::istream& script) {
+Session::Status Session::run(std::istream& script) {
     std::string text;
     while (std::getline(script, text)) {
         ++line;
@@ -47,7 +47,7 @@ Run::Status Run::run(std::istream& script) {
     return status;
 }
 
-void Run::runLine(std::string_view content) {
+void Session::runLine(std::string_view content) {
     std::vector<Word> words = splitWords(content);
     if (words.empty())
         return;
@@ -59,21 +59,21 @@ void Run::runLine(std::string_view content) {
     command.run(*this, words);
 }
 
-std::ostream& Run::tell() {
+std::ostream& Session::tell() {
     out.flush();
     return err << scriptName << ':' << line << ": ";
 }
 
-void Run::failed(std::string_view expected, std::string_view found) {
+void Session::failed(std::string_view expected, std::string_view found) {
     tell() << "expected " << expected << ", found " << found << std::endl;
     status = Failed;
 }
 
-void Run::unavailable(const Word& what) {
+void Session::unavailable(const Word& what) {
     out << "unavailable " << what.text << '\n';
 }
 
-Form& Run::form(const std::string& name) {
+Form& Session::form(const std::string& name) {
     if (Form* found = proposal.forms.touch(name))
         return *found;
     throw ScriptError("unknown form " + quote(name));

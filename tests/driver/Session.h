@@ -15,10 +15,10 @@
 namespace plandesk::driver {
 
 /// One run of the whole system under a script.
-class Run {
+class Session {
 public:
     /// `folder`: the program's own. `scriptName`: what failure lines call the script.
-    Run(std::string folder, std::string scriptName, std::ostream& out, std::ostream& err);
+    Session(std::string folder, std::string scriptName, std::ostream& out, std::ostream& err);
 
     enum Status { Held = 0, Failed = 1, WrongScript = 2 };
 
