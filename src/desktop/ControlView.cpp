@@ -1,5 +1,6 @@
 #include "desktop/ControlView.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
@@ -42,6 +43,9 @@ void ControlView::sync() {
         return;
     const QSignalBlocker quiet(picture);
     picture.setEnabled(subject->enabled());
+    // A row that was hidden as a whole has put its widgets away, so that they would not ask for a new arrangement.
+    if (subject->visible() == picture.isHidden())
+        QCoreApplication::postEvent(picture.parentWidget(), new QEvent(QEvent::LayoutRequest));
     picture.setVisible(onPage && subject->visible());
     syncColours();
     syncContent();
@@ -67,7 +71,8 @@ void ControlView::syncColours() {
 }
 
 void ControlView::name(const QString& question) {
-    picture.setAccessibleName(question.trimmed());
+    const QString words = question.trimmed();
+    picture.setAccessibleName(words.isEmpty() ? toQt(subject->form().caption()).trimmed() : words);
 }
 
 int ControlView::naturalWidth(bool /*alone*/) const {

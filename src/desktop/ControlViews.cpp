@@ -24,6 +24,9 @@ namespace plandesk::desktop {
 
 namespace {
 
+/// Captions of more characters than this may be broken over lines.
+constexpr int leastCharacters = 24;
+
 /// Breaks a caption at blanks so that no line is wider than `width`, where its words allow.
 QString brokenOverLines(const QString& caption, const QFontMetrics& metrics, int width) {
     QString result;
@@ -67,8 +70,6 @@ protected:
     QAbstractButton& button;
 
 private:
-    static constexpr int leastCharacters = 24;
-
     QString words() const { return subject ? toQt(static_cast<Captioned&>(*subject).caption()) : button.text(); }
     int markWidth() const { return button.sizeHint().width() - textWidth(button.text()); }
     int textWidth(const QString& text) const { return button.fontMetrics().size(Qt::TextShowMnemonic, text).width(); }
@@ -186,6 +187,16 @@ public:
         return ControlView::eventFilter(watched, event);
     }
     void name(const QString&) override {}
+    QSize sizeFor(int available, bool /*alone*/) override {
+        const bool breaks = naturalWidth(false) > available;
+        if (breaks != label.wordWrap())
+            label.setWordWrap(breaks);
+        return breaks ? QSize(available, label.heightForWidth(available)) : label.sizeHint();
+    }
+    int naturalWidth(bool /*alone*/) const override { return label.fontMetrics().size(0, label.text()).width() + 1; }
+    int leastWidth() const override {
+        return std::min(naturalWidth(false), leastCharacters * label.fontMetrics().averageCharWidth());
+    }
 
 private:
     Colour foreColor() const override { return static_cast<Captioned&>(*subject).foreColor(); }

@@ -169,18 +169,18 @@ QSize FormView::naturalSize(QSize limit) {
 bool FormView::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest)
         arrange();
+    // Here, because the toolkit would take Tab for itself before it counts as a key.
+    if (event->type() == QEvent::KeyPress && form) {
+        if (const std::string_view key = systemKeyName(*static_cast<QKeyEvent*>(event)); !key.empty()) {
+            screen.act(Qt::TabFocusReason, [&] { user::pressForm(*form, key); });
+            return true;
+        }
+    }
     return QWidget::event(event);
 }
 
 void FormView::resizeEvent(QResizeEvent* /*event*/) {
     arrange();
-}
-
-void FormView::keyPressEvent(QKeyEvent* event) {
-    const std::string_view key = systemKeyName(*event);
-    if (key.empty() || !form)
-        return QWidget::keyPressEvent(event);
-    screen.act(Qt::TabFocusReason, [&] { user::pressForm(*form, key); });
 }
 
 void FormView::mousePressEvent(QMouseEvent* /*event*/) {

@@ -282,6 +282,7 @@ int PageView::placeQuestion(const Row& row, const Columns& columns, int top, int
 int PageView::placeTableRow(const Row& row, const Columns& columns, const std::vector<int>& widths, int top) {
     int bottom = std::max(top + lineHeight(), placeQuestion(row, columns, top, columns.questionWidth));
     std::size_t first = 0;
+    int middle = top + lineHeight() / 2;
     if (leadsRow(row)) {
         first = 1;
         ControlView& lead = *row.controls.front();
@@ -289,19 +290,20 @@ int PageView::placeTableRow(const Row& row, const Columns& columns, const std::v
         const int height = std::max(size.height(), lineHeight());
         lead.widget().setGeometry(QRect({columns.question, top}, QSize(size.width(), height)));
         bottom = std::max(bottom, top + height);
+        middle = top + height / 2;
     }
+    const auto place = [&](QWidget& widget, int left, QSize size) {
+        widget.setGeometry(QRect({left, std::max(top, middle - size.height() / 2)}, size));
+        bottom = std::max(bottom, widget.geometry().bottom() + 1);
+    };
     int left = columns.controls;
-    for (std::size_t place = first; place < row.controls.size(); ++place) {
-        const int width = widths[place - first];
-        const QSize size = row.controls[place]->sizeFor(width - gap(), false);
-        const int down = std::max(0, (lineHeight() - size.height()) / 2);
-        row.controls[place]->widget().setGeometry(QRect({left, top + down}, size));
-        bottom = std::max(bottom, top + size.height());
+    for (std::size_t cell = first; cell < row.controls.size(); ++cell) {
+        const int width = widths[cell - first];
+        place(row.controls[cell]->widget(), left, row.controls[cell]->sizeFor(width - gap(), false));
         left += width;
     }
     if (row.unit)
-        row.unit->setGeometry(
-            QRect({left, top + (lineHeight() - row.unit->sizeHint().height()) / 2}, row.unit->sizeHint()));
+        place(*row.unit, left, row.unit->sizeHint());
     return bottom;
 }
 
@@ -321,7 +323,9 @@ int PageView::placeRow(const Row& row, const Columns& columns, int top) {
 
 int PageView::placeFilling(ControlView& view, const Columns& columns, int top) {
     const int width = columns.right - columns.item;
-    const int height = std::max(view.sizeFor(width, true).height(), lastViewHeight - top - 2 * gap());
+    constexpr int leastLines = 8;
+    const int left = lastViewHeight - top - 2 * gap() - gap() / 2;
+    const int height = lastViewHeight == 0 ? view.sizeFor(width, true).height() : std::max(left, leastLines * lineHeight());
     view.widget().setGeometry(columns.item, top, width, height);
     return top + height;
 }

@@ -1,13 +1,38 @@
 #include "desktop/Theme.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
+#include <QStyleOption>
+#include <QWidget>
 
 namespace plandesk::desktop {
 
+namespace {
+
+/// Marks of options and check boxes grow with the font.
+class GrowingStyle : public QProxyStyle {
+public:
+    GrowingStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+        const int given = QProxyStyle::pixelMetric(metric, option, widget);
+        switch (metric) {
+        case PM_IndicatorWidth:
+        case PM_IndicatorHeight:
+        case PM_ExclusiveIndicatorWidth:
+        case PM_ExclusiveIndicatorHeight: return widget ? std::max(given, widget->fontMetrics().ascent()) : given;
+        default: return given;
+        }
+    }
+};
+
+}  // namespace
+
 void useTheme() {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new GrowingStyle);
     const QColor paper(0xF3, 0xEC, 0xE2);
     QPalette palette(QColor(0xF3, 0xF0, 0xEA), paper);
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
