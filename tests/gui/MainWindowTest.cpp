@@ -1,0 +1,294 @@
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+
+#include "desktop/Desk.h"
+#include "desktop/QtText.h"
+#include "gui/Registry.h"
+#include "gui/Session.h"
+#include "particulars/AnnexureACont.h"
+#include "particulars/frmAnnexureA.h"
+
+using namespace plandesk;
+using namespace plandesk::test;
+using namespace std::string_literals;
+
+namespace {
+
+/// Fills in what the fifteen checks of the first page ask for.
+void fillFirstPage(frmAnnexureA& form) {
+    for (TextBox* box :
+         {&form.txtTitle, &form.txtpltno, &form.txtFPNo, &form.txtTikaNo, &form.txtApplicantNm, &form.txtApplicantAddr,
+          &form.txtArchNm, &form.txtArchFirstName, &form.txtRegNm, &form.txtPltArea, &form.txtActualArea})
+        box->setText("1");
+    for (ComboBox* list : {&form.cboCaseType, &form.cboProposalTyp, &form.cboProposProj, &form.cboSector})
+        list->setListIndex(0);
+}
+
+}  // namespace
+
+class MainWindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theMenuIsTheSystemsMenu() {
+        Session session;
+        for (const MenuEntry& item : mdiInterface::menu()) {
+            const QAction* action = session.window.entry(item.name);
+            QVERIFY2(action, std::string(item.name).c_str());
+            QCOMPARE(action->text(), desktop::toQt(item.caption));
+            QCOMPARE(action->menu() != nullptr, item.submenu);
+            const QAction* parent = session.window.entry(item.parent);
+            const QList<QAction*> siblings = parent ? parent->menu()->actions() : session.window.menuBar()->actions();
+            QVERIFY2(siblings.contains(action), std::string(item.name).c_str());
+        }
+    }
+
+    void entriesAreGreyedAsTheSystemSays() {
+        Session session;
+        const auto agree = [&] {
+            for (const MenuEntry& item : mdiInterface::menu())
+                QCOMPARE(session.window.entry(item.name)->isEnabled(), session.shell.available(item.name));
+        };
+        agree();
+        QVERIFY(!session.window.entry("mnuSave")->isEnabled());
+        QVERIFY(!session.window.entry("mnuDocCheckList")->isEnabled());
+        session.press("mnuNew");
+        agree();
+        QVERIFY(session.window.entry("mnuSave")->isEnabled());
+        QVERIFY(session.window.entry("mnuDocCheckList")->isEnabled());
+    }
+
+    void theMenuIsReachedByItsMnemonics() {
+        Session session;
+        QTest::keyClick(&session.window, Qt::Key_F, Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_N);
+        session.settle();
+        QVERIFY(session.form<frmAnnexureA>().visible());
+        QVERIFY(session.widget(session.form<frmAnnexureA>().txtTitle).isVisible());
+    }
+
+    void shortcutsPressMenuEntries() {
+        Session session;
+        QTest::keyClick(&session.window, Qt::Key_N, Qt::ControlModifier);
+        session.settle();
+        QVERIFY(session.form<frmAnnexureA>().visible());
+        QTest::keyClick(&session.window, Qt::Key_F1);
+        session.settle();
+        QVERIFY(session.proposal.forms.loaded("frmHelp")->visible());
+        QTest::keyClick(&session.window, Qt::Key_F4, Qt::ControlModifier);
+        session.settle();
+        QVERIFY(session.form<frmAnnexureA>().front());
+    }
+
+    void theCaptionIsTheSystemsCaption_data() {
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("the first") << "Plandesk  Proposal  System";
+        QTest::newRow("trailing blanks") << "Draftline Architect Utility - New file  ";
+        QTest::newRow("a path") << "/home/architect/plot 12 [*].xml";
+        QTest::newRow("Devanagari") << "/घर/प्रस्ताव.xml";
+    }
+    void theCaptionIsTheSystemsCaption() {
+        QFETCH(QString, caption);
+        Session session;
+        session.proposal.screen.setCaption(desktop::fromQt(caption));
+        session.settle();
+        QCOMPARE(session.window.windowHandle()->title(), caption);
+    }
+
+    void anEmptyCaptionShowsNothing() {
+        Session session;
+        session.proposal.screen.setCaption("");
+        session.settle();
+        QCOMPARE(session.window.windowTitle().trimmed(), QString());
+        QCOMPARE(session.window.windowHandle()->title().trimmed(), QString());
+    }
+
+    void theStatusBarNamesItsMakers() {
+        Session session;
+        const auto* panel = session.window.statusBar()->findChild<QLabel*>("statusPanel");
+        QCOMPARE(panel->text(), QString("Powered by   Meridane Works"));
+        QVERIFY(panel->isVisible());
+    }
+
+    void thePictureIsPaintedOnceInTheMiddleAfterTheLastResize() {
+        Session session;
+        int painted = 0;
+        session.shell.paintBackground = [&, paint = session.shell.paintBackground] {
+            ++painted;
+            paint();
+        };
+        for (const int width : {900, 910, 920, 930}) {
+            session.window.resize(width, 700);
+            QTest::qWait(20);
+        }
+        QCOMPARE(painted, 0);
+        QTRY_COMPARE(painted, 1);
+        QTest::qWait(250);
+        QCOMPARE(painted, 1);
+        const QWidget* desk = session.window.centralWidget();
+        const QImage image = session.window.centralWidget()->grab().toImage();
+        QCOMPARE(image.pixelColor(1, 1), QColor(0xC6, 0x9D, 0x66));
+        int left = 0;
+        int right = 0;
+        const int middle = desk->height() / 2;
+        while (image.pixelColor(left, middle) == QColor(0xC6, 0x9D, 0x66))
+            ++left;
+        while (image.pixelColor(image.width() - 1 - right, middle) == QColor(0xC6, 0x9D, 0x66))
+            ++right;
+        QVERIFY(left > 100);
+        QVERIFY(qAbs(left - right) <= 1);
+    }
+
+    void theActiveTextBoxIsHighlighted() {
+        Session session;
+        session.press("mnuNew");
+        auto& form = session.form<frmAnnexureA>();
+        const auto colour = [&](const Control& control) {
+            return session.widget(control).palette().color(QPalette::Base);
+        };
+        QTRY_COMPARE(colour(form.txtTitle), QColor(0xED, 0xEB, 0xD3));
+        QCOMPARE(colour(form.txtpltno), QColor(Qt::white));
+        session.window.forms().act(Qt::OtherFocusReason, [&] { form.txtpltno.setFocus(); });
+        QTRY_COMPARE(colour(form.txtpltno), QColor(0xED, 0xEB, 0xD3));
+        QCOMPARE(colour(form.txtTitle), QColor(Qt::white));
+    }
+
+    void aTickOfTheTimerPaintsNothingThatDidNotChange() {
+        Session session;
+        session.press("mnuNew");
+        QTest::qWait(250);
+        struct PaintCounter : QObject {
+            int paints = 0;
+            bool eventFilter(QObject* watched, QEvent* event) override {
+                // The caret blinks in the active box; nothing else has a reason to be painted.
+                paints += event->type() == QEvent::Paint && watched != active ? 1 : 0;
+                return false;
+            }
+            QObject* active = nullptr;
+        } counter;
+        counter.active = &session.widget(session.form<frmAnnexureA>().txtTitle);
+        for (const Control* control : session.form<frmAnnexureA>().controls())
+            if (QWidget* widget = session.window.forms().viewOf(control->form())->widgetOf(*control))
+                widget->installEventFilter(&counter);
+        QTest::qWait(450);
+        QCOMPARE(counter.paints, 0);
+    }
+
+    void enterMovesOnAndWritesInProperCase() {
+        Session session;
+        session.press("mnuNew");
+        auto& form = session.form<frmAnnexureA>();
+        QTest::keyClicks(&session.widget(form.txtTitle), "a-12 b, 2nd floor");
+        QTest::keyClick(&session.widget(form.txtTitle), Qt::Key_Return);
+        QCOMPARE(form.txtTitle.text(), "A-12 B, 2Nd Floor"s);
+        QCOMPARE(session.widget<QLineEdit>(form.txtTitle).text(), QString("A-12 B, 2Nd Floor"));
+        QVERIFY(form.cboCaseType.focused());
+        QCOMPARE(session.window.focusWidget(), &session.widget(form.cboCaseType));
+    }
+
+    void anEmptyTitleHoldsTheFocusOnTheFirstPage() {
+        Session session;
+        session.press("mnuNew");
+        auto& form = session.form<frmAnnexureA>();
+        QTest::mouseClick(&session.widget(form.txtpltno), Qt::LeftButton);
+        QCOMPARE(session.dialogs.messages.size(), 1U);
+        QCOMPARE(session.dialogs.messages[0].text, "Proposal Title Can not be blank !"s);
+        session.settle();
+        QCOMPARE(session.window.focusWidget(), &session.widget(form.txtTitle));
+    }
+
+    void aMenuIsOpenedWithoutALeaveCheck() {
+        Session session;
+        session.press("mnuNew");
+        QTest::keyClick(&session.window, Qt::Key_H, Qt::AltModifier);
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        session.settle();
+        QVERIFY(session.dialogs.messages.empty());
+        auto& form = session.form<frmAnnexureA>();
+        QVERIFY(form.txtTitle.focused());
+        QTRY_COMPARE(session.window.focusWidget(), &session.widget(form.txtTitle));
+    }
+
+    void thePageButtonsTurnThePagesAndShowWhichOneItIs() {
+        Session session;
+        session.press("mnuNew");
+        auto& form = session.form<frmAnnexureA>();
+        fillFirstPage(form);
+        session.settle();
+        QTest::mouseClick(&session.widget(*form.findKey("cmdFormNo(2)")), Qt::LeftButton);
+        session.settle();
+        QCOMPARE(form.PropTab.tab(), 2);
+        QVERIFY(session.widget(form.Opt9.yes).isVisible());
+        QVERIFY(session.widget(*form.findKey("cmdFormNo(2)")).font().bold());
+        QVERIFY(!session.widget(*form.findKey("cmdFormNo(0)")).font().bold());
+        QTest::mouseClick(&session.widget(*form.findKey("cmdFormNo(8)")), Qt::LeftButton);
+        session.settle();
+        auto& next = session.form<AnnexureACont>();
+        QVERIFY(next.front());
+        QVERIFY(session.widget(next.txtHowManyTrees).isVisible());
+        QVERIFY(session.window.forms().viewOf(next)->isAncestorOf(session.window.focusWidget()));
+    }
+
+    void closedBoxesAreGreyAndOpenOnesWhite() {
+        Session session;
+        session.press("mnuNew");
+        auto& form = session.form<frmAnnexureA>();
+        form.PropTab.setTab(2);
+        session.settle();
+        const auto pixel = [&](const Control& control) {
+            const QImage image = session.widget(control).grab().toImage();
+            return image.pixelColor(image.width() / 2, image.height() / 2);
+        };
+        session.window.forms().act(Qt::OtherFocusReason, [&] { form.Opt9.no.choose(); });
+        QCOMPARE(pixel(form.txtWorkmen), QColor(0xE0, 0xE0, 0xE0));
+        QVERIFY(!session.widget(form.txtWorkmen).isEnabled());
+        session.window.forms().act(Qt::OtherFocusReason, [&] { form.Opt9.yes.choose(); });
+        QCOMPARE(pixel(form.txtWorkmen), QColor(Qt::white));
+        QVERIFY(session.widget(form.txtWorkmen).isEnabled());
+    }
+
+    void theCloseBoxAsksAndNoStays() {
+        Session session;
+        session.dialogs.answers = {"no"};
+        session.window.close();
+        QVERIFY(session.window.isVisible());
+        QCOMPARE(session.dialogs.messages.size(), 1U);
+        QCOMPARE(session.dialogs.messages[0].text, " Do you want to Exit  ! "s);
+        QCOMPARE(session.program.ends, 0);
+    }
+
+    void theCloseBoxAsksAndYesEndsTheProgram() {
+        Session session;
+        session.dialogs.answers = {"yes"};
+        session.window.close();
+        QVERIFY(!session.window.isVisible());
+        QCOMPARE(session.program.ends, 1);
+        session.press("mnuNew");
+        QCOMPARE(session.dialogs.messages.size(), 1U);
+    }
+
+    void newProposalsComeAndGoWithoutATrace() {
+        Session session;
+        for (int round = 0; round < 3; ++round) {
+            session.press("mnuNew");
+            auto& form = session.form<frmAnnexureA>();
+            QTest::keyClicks(&session.widget(form.txtTitle), "x");
+            QCOMPARE(form.txtTitle.text(), "x"s);
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        int windows = 0;
+        for (const QObject* child : session.window.centralWidget()->children())
+            windows += child->isWidgetType() ? 1 : 0;
+        QCOMPARE(windows, 1);
+    }
+};
+
+static const Registered<MainWindowTest> registered;
+
+#include "MainWindowTest.moc"

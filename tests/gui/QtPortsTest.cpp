@@ -1,0 +1,168 @@
+#include "desktop/QtPorts.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+
+#include "desktop/QtText.h"
+#include "gui/Registry.h"
+
+using namespace plandesk;
+using namespace plandesk::desktop;
+using namespace plandesk::test;
+using namespace std::string_literals;
+
+namespace {
+
+/// Does something to the dialog that opens next.
+template <class Dialog>
+void whenOpen(const std::function<void(Dialog&)>& act) {
+    constexpr int pause = 10;  // milliseconds
+    QTimer::singleShot(pause, qApp, [act] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isActiveWindow())
+            return whenOpen(act);
+        act(*dialog);
+    });
+}
+
+}  // namespace
+
+class QtPortsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
+    void aBoxShowsTitleTextAndIcon_data() {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("shownTitle");
+        QTest::addColumn<int>("icon");
+        QTest::addColumn<int>("shownIcon");
+        QTest::newRow("information") << "Payment Details"
+                                     << "Payment Details" << int(Icon::Information) << int(QMessageBox::Information);
+        QTest::newRow("blanks in the title")
+            << "Particulars of development ! "
+            << "Particulars of development ! " << int(Icon::Critical) << int(QMessageBox::Critical);
+        QTest::newRow("no title") << ""
+                                  << "Plandesk" << int(Icon::None) << int(QMessageBox::NoIcon);
+        QTest::newRow("question") << "?"
+                                  << "?" << int(Icon::Question) << int(QMessageBox::Question);
+    }
+    void aBoxShowsTitleTextAndIcon() {
+        QFETCH(QString, title);
+        QFETCH(QString, shownTitle);
+        QFETCH(int, icon);
+        QFETCH(int, shownIcon);
+        QtProgram program;
+        QtDialogs dialogs(program);
+        bool seen = false;
+        whenOpen<QMessageBox>([&](QMessageBox& box) {
+            seen = true;
+            QCOMPARE(box.windowTitle(), shownTitle);
+            QCOMPARE(box.text(), QString("<b>Enter</b> Draft No & more"));
+            QCOMPARE(box.textFormat(), Qt::PlainText);
+            QCOMPARE(int(box.icon()), shownIcon);
+            QCOMPARE(box.standardButtons(), QMessageBox::Ok);
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        dialogs.showMessage({fromQt(title), "<b>Enter</b> Draft No & more", static_cast<Icon>(icon)});
+        QVERIFY(seen);
+    }
+
+    void aQuestionIsAnswered_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<bool>("yes");
+        QTest::newRow("yes") << int(Qt::Key_Y) << true;
+        QTest::newRow("no") << int(Qt::Key_N) << false;
+        QTest::newRow("escape") << int(Qt::Key_Escape) << false;
+        QTest::newRow("enter, by accident") << int(Qt::Key_Return) << false;
+    }
+    void aQuestionIsAnswered() {
+        QFETCH(int, key);
+        QFETCH(bool, yes);
+        QtProgram program;
+        QtDialogs dialogs(program);
+        whenOpen<QMessageBox>([&](QMessageBox& box) {
+            const bool letter = key == Qt::Key_Y || key == Qt::Key_N;
+            QTest::keyClick(&box, static_cast<Qt::Key>(key), letter ? Qt::AltModifier : Qt::NoModifier);
+        });
+        QCOMPARE(dialogs.askYesNo({"VDMA PLANDESK UTILITY ", " Do you want to Exit  ! ", Icon::Question}), yes);
+    }
+
+    void aCancelledFileDialogGivesBackWhatItWasGiven() {
+        QtProgram program;
+        QtDialogs dialogs(program);
+        whenOpen<QFileDialog>([](QFileDialog& dialog) {
+            QCOMPARE(dialog.windowTitle(), QString("Select Proposals Path"));
+            QCOMPARE(dialog.nameFilters().constFirst(), QString("xml File(s) (*.xml)"));
+            dialog.reject();
+        });
+        QCOMPARE(dialogs.openFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", "*.xml"}), "*.xml"s);
+        whenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+        QCOMPARE(dialogs.saveFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", ""}), ""s);
+    }
+
+    void aNameWithoutAnExtensionGetsTheDefaultOne() {
+        QtProgram program;
+        QtDialogs dialogs(program);
+        const std::filesystem::path folder = std::filesystem::current_path();
+        whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+            dialog.setDirectory(toQt(folder.string()));
+            auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+            name->setText("प्रस्ताव 1");
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        QCOMPARE(dialogs.saveFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", ""}),
+                 (folder / "प्रस्ताव 1.xml").string());
+    }
+
+    void theProgramKnowsItself() {
+        const QtProgram program;
+        QCOMPARE(program.folder(), fromQt(QCoreApplication::applicationDirPath()));
+        QVERIFY(!program.folder().ends_with('/'));
+        QCOMPARE(program.title(), "Plandesk"s);
+        QFile about(QCoreApplication::applicationDirPath() + "/version.ini");
+        QVERIFY(about.open(QFile::ReadOnly));
+        about.readLine();
+        QCOMPARE(toQt(program.version()), QString::fromUtf8(about.readLine()).trimmed());
+    }
+
+    void theFirstSystemInformationToolInThePathIsStarted() {
+        const QByteArray path = qgetenv("PATH");
+        const std::filesystem::path folder = std::filesystem::current_path();
+        qputenv("PATH", folder.c_str());
+        QtProgram program;
+        QVERIFY(!program.startSystemInformation());
+        QFile tool("hardinfo");
+        QVERIFY(tool.open(QFile::WriteOnly));
+        tool.write("#!/bin/sh\n: > started\n");
+        tool.close();
+        tool.setPermissions(tool.permissions() | QFile::ExeOwner);
+        QVERIFY(program.startSystemInformation());
+        QTRY_VERIFY(std::filesystem::exists(folder / "started"));
+        qputenv("PATH", path);
+    }
+
+    void theClockIsTheMachines() {
+        const QDate today = QDate::currentDate();
+        const Date told = QtClock().today();
+        QVERIFY(QDate(told.year, told.month, told.day).daysTo(today) <= 1);
+    }
+
+    void theProgramEndsAtOnce() {
+        QtProgram program;
+        QTimer::singleShot(0, qApp, [&] { program.end(); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+    }
+};
+
+static const Registered<QtPortsTest> registered;
+
+#include "QtPortsTest.moc"
