@@ -130,9 +130,7 @@ void frmAnnexureA::load() {
     PropTab_Click();
     setComboValues();
     setFormColors(*this, proposal);
-    for (Control* control : {static_cast<Control*>(&lblFileNo), static_cast<Control*>(&lblRevNo),
-                             static_cast<Control*>(&txtFileNo), static_cast<Control*>(&txtRevNo)})
-        control->setVisible(false);
+    showFileAndRevision(false);
 }
 
 void frmAnnexureA::setComboValues() {
@@ -158,11 +156,16 @@ void frmAnnexureA::cboCaseType_Click() {
     const auto look = std::ranges::find(caseTypeLooks, trim(cboCaseType.text()), &CaseTypeLook::caseType);
     if (look == caseTypeLooks.end())
         return;
-    for (Control* control : {static_cast<Control*>(&lblFileNo), static_cast<Control*>(&lblRevNo),
-                             static_cast<Control*>(&txtFileNo), static_cast<Control*>(&txtRevNo)})
-        control->setVisible(look->numbered);
+    showFileAndRevision(look->numbered);
     if (look->numbered)
         lblRevNo.setCaption(look->revisionCaption);
+}
+
+void frmAnnexureA::showFileAndRevision(bool on) {
+    lblFileNo.setVisible(on);
+    lblRevNo.setVisible(on);
+    txtFileNo.setVisible(on);
+    txtRevNo.setVisible(on);
 }
 
 void frmAnnexureA::enterPressed() {
@@ -173,18 +176,18 @@ void frmAnnexureA::enterPressed() {
 void frmAnnexureA::cmdFormNo_Click(int index) {
     if (index != 0 && !validateAnnexureFirstPage())
         return;
+    Form* form = this;
     if (index < PageButtons::firstOfSectionFour) {
         goToTab(index);
-        show();
     } else {
         auto& continuation = proposal.forms.get<AnnexureACont>();
         continuation.SectFourDet.setTab(index - PageButtons::firstOfSectionFour);
-        continuation.show();
         continuation.paintPageButtons();
+        form = &continuation;
     }
+    form->show();
     if (index != 0)
-        focusFirstOfPage(index < PageButtons::firstOfSectionFour ? static_cast<Form&>(*this)
-                                                                 : proposal.forms.get<AnnexureACont>());
+        focusFirstOfPage(*form);
     proposal.currentFormNo = static_cast<std::int16_t>(index);
 }
 

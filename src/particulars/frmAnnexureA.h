@@ -200,6 +200,7 @@ private:
     void wireButtons();
     void PropTab_Click();
     void cboCaseType_Click();
+    void showFileAndRevision(bool on);
     void Opt2Y_Click();
     void Opt2N_Click();
     bool refuseLetters(TextBox& area);
