@@ -205,8 +205,10 @@ void frmPayDetail::saveFirstList() {
     for (const TextBox* box : {&txtCompoundFees, &txtOther, &txtGrandTotal})
         pieces.push_back(box->text());
     // A draft has no mode, not even an empty one: the pieces behind it slide one place forward.
-    if (!OptDraft.value())
-        pieces.emplace_back(OptCash.value() ? "CASH" : "PAYORDER");
+    if (OptCash.value())
+        pieces.emplace_back("CASH");
+    else if (OptCheque.value())
+        pieces.emplace_back("PAYORDER");
     pieces.push_back(DTPicker1.date().text());
     for (const TextBox* box : {&txtChqDraftNo, &txtBankNm, &txtBranchNm})
         pieces.emplace_back(trim(box->text()));

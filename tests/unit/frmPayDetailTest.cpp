@@ -569,6 +569,12 @@ TEST_F(frmPayDetailTest, DraftHasNoModeAndItsPiecesSlideForward) {
               (std::vector<std::string>{"0.00", "09/03/2024", "42", "Bank", "Fort"}));
 }
 
+TEST_F(frmPayDetailTest, NoModeChosenWritesNoneEither) {
+    fees().OptCash.setValue(false);
+    fees().SaveData();
+    EXPECT_EQ(split(firstList(), "$$").size(), 25U);
+}
+
 TEST_F(frmPayDetailTest, SecondListGrowsAtEachSave) {
     fees().txtScrutinyRArea2.setText("1");
     fees().SaveData();
