@@ -26,6 +26,13 @@ bool Forms::known(std::string_view name) const {
     return makers.contains(name);
 }
 
+std::vector<std::string> Forms::names() const {
+    std::vector<std::string> names;
+    for (const auto& [name, maker] : makers)
+        names.push_back(name);
+    return names;
+}
+
 void Forms::unload(std::string_view name) {
     const auto form = live.find(name);
     if (form == live.end())

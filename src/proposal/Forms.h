@@ -39,6 +39,8 @@ public:
     /// The form of that name in any case when it is loaded, else null. Loads nothing.
     Form* loaded(std::string_view name) const;
     bool known(std::string_view name) const;
+    /// Names of all known forms, loaded or not, in alphabetical order.
+    std::vector<std::string> names() const;
     /// Destroys the form when it is loaded. Its contents are gone; the next touch makes it afresh.
     void unload(std::string_view name);
 

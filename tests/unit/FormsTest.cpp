@@ -77,6 +77,7 @@ TEST_F(FormsTest, FormTouchedByItsClassIsKnownFromThenOn) {
     EXPECT_FALSE(forms.known("frmSecond"));
     forms.get<frmSecond>();
     EXPECT_TRUE(forms.known("frmSecond"));
+    EXPECT_EQ(forms.names(), (std::vector<std::string>{"frmFirst", "frmSecond"}));
 }
 
 TEST_F(FormsTest, LoadMayTouchOtherForms) {

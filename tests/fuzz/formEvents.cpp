@@ -1,0 +1,192 @@
+// Random bytes as what a user does to the forms: whatever is typed, pressed, clicked and closed, in whatever order, the
+// system goes on and its forms stay sound.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <iostream>
+#include <set>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "controls/Controls.h"
+#include "controls/User.h"
+#include "particulars/AnnexureACont.h"
+#include "particulars/frmAnnexureA.h"
+#include "proposal/Proposal.h"
+#include "unit/TestPorts.h"
+
+namespace plandesk {
+namespace {
+
+/// Reads the input from the front; zeros behind its end.
+class Bytes {
+public:
+    explicit Bytes(std::span<const std::uint8_t> bytes) : rest(bytes) {}
+
+    bool empty() const { return rest.empty(); }
+    std::uint8_t next() {
+        if (rest.empty())
+            return 0;
+        const std::uint8_t byte = rest.front();
+        rest = rest.subspan(1);
+        return byte;
+    }
+    /// A number from 0 to `count` - 1.
+    std::size_t below(std::size_t count) { return count == 0 ? 0 : next() % count; }
+    /// A text of up to 255 bytes, its length first.
+    std::string text() {
+        std::string text;
+        for (std::size_t left = next(); left > 0 && !empty(); --left)
+            text += static_cast<char>(next());
+        return text;
+    }
+
+private:
+    std::span<const std::uint8_t> rest;
+};
+
+struct Session {
+    test::TestPorts ports;
+    Proposal proposal{ports};
+    Form* form = nullptr;  ///< that the user is working on
+    Control* control = nullptr;
+
+    Session() {
+        ports.files.contents["/program/VILLAGENAMES.txt"] = "1#Khandri#KHN\n2#Pimpla#PMP\n";
+        proposal.forms.get<frmAnnexureA>();
+        proposal.forms.get<AnnexureACont>();
+    }
+
+    void choose(Bytes& bytes);
+    void act(Bytes& bytes);
+    void onTextBox(TextBox& box, Bytes& bytes);
+    void onForm(Bytes& bytes);
+    void check();
+};
+
+void fail(std::string_view what) {
+    std::cerr << "unsound: " << what << '\n';
+    std::abort();
+}
+
+void Session::choose(Bytes& bytes) {
+    const std::vector<std::string> names = proposal.forms.names();
+    form = proposal.forms.touch(names[bytes.below(names.size())]);
+    control = form->controls()[bytes.below(form->controls().size())];
+}
+
+void Session::onTextBox(TextBox& box, Bytes& bytes) {
+    switch (bytes.below(5)) {
+    case 0:
+        user::type(box, bytes.text());
+        break;
+    case 1:
+        user::append(box, bytes.text());
+        break;
+    case 2:
+        user::edit(box, bytes.text());
+        break;
+    case 3:
+        user::clear(box);
+        break;
+    default:
+        proposal.screen.event([&] { box.setText(bytes.text()); });
+    }
+}
+
+void Session::onForm(Bytes& bytes) {
+    const std::string name = form->name();
+    switch (bytes.below(5)) {
+    case 0:
+        proposal.screen.event([this] { form->show(); });
+        break;
+    case 1:
+        proposal.screen.event([this] { form->closeBox(); });
+        break;
+    case 2:
+        proposal.screen.event([&] { proposal.forms.unload(name); });
+        break;
+    case 3:
+        proposal.screen.event([this] { proposal.screen.dropFocus(); });
+        break;
+    default:
+        ports.dialogs.answers.push_back(bytes.below(2) == 0 ? "yes" : "no");
+    }
+}
+
+void Session::act(Bytes& bytes) {
+    static constexpr std::array<std::string_view, 9> keys = {"Enter", "Tab", "Esc", "Space", "Backspace",
+                                                             "F2",    "F3",  "7",   "\u0917"};
+    choose(bytes);
+    switch (bytes.below(6)) {
+    case 0:
+        user::press(*control, keys[bytes.below(keys.size())]);
+        return;
+    case 1:
+        user::pressForm(*form, keys[bytes.below(keys.size())]);
+        return;
+    case 2:
+        user::leave(*control);
+        return;
+    case 3:
+        return onForm(bytes);
+    default:
+        break;
+    }
+    if (auto* box = dynamic_cast<TextBox*>(control))
+        onTextBox(*box, bytes);
+    else if (auto* list = dynamic_cast<ComboBox*>(control))
+        user::pick(*list, static_cast<int>(bytes.next()) - 1);
+    else if (auto* picker = dynamic_cast<DatePicker*>(control))
+        user::pickDate(*picker, {2000 + bytes.next(), 1 + bytes.next() % 12, 1 + bytes.next() % 28});
+    else if (auto* strip = dynamic_cast<TabStrip*>(control))
+        user::showTab(*strip, bytes.next());
+    else
+        user::click(*control);
+}
+
+/// What holds after every event, whatever the user did.
+void Session::check() {
+    static const std::set<std::string> descriptions = [] {
+        std::set<std::string> known{"Out of stack space"};
+        for (const ErrorNumber number :
+             {ErrorNumber::InvalidProcedureCall, ErrorNumber::Overflow, ErrorNumber::SubscriptOutOfRange,
+              ErrorNumber::TypeMismatch, ErrorNumber::FileNotFound, ErrorNumber::PathFileAccess,
+              ErrorNumber::PathNotFound, ErrorNumber::ObjectNotSet, ErrorNumber::InvalidPropertyValue,
+              ErrorNumber::InvalidPropertyArrayIndex, ErrorNumber::NoCurrentRecord, ErrorNumber::ItemNotFound})
+            known.insert(RuntimeError(number).description);
+        return known;
+    }();
+    for (const Message& box : ports.dialogs.take())
+        if (box.icon == Icon::Critical && !descriptions.contains(box.text))
+            fail("a failure that is no run-time error of the platform: " + box.text);
+    const Control* focused = proposal.screen.focused();
+    bool focusFound = focused == nullptr;
+    for (const auto& [name, loaded] : proposal.forms.all()) {
+        for (const Control* one : loaded->controls())
+            focusFound = focusFound || one == focused;
+        loaded->forEach<ComboBox>([](const ComboBox& list) {
+            const int index = list.listIndex();
+            if (index < -1 || index >= list.listCount() || (index >= 0 && list.item(index) != list.text()))
+                fail("a list shows another text than its item");
+        });
+    }
+    if (!focusFound)
+        fail("the focus is on no loaded form");
+}
+
+}  // namespace
+}  // namespace plandesk
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    plandesk::Bytes bytes({data, size});
+    plandesk::Session session;
+    while (!bytes.empty() && !session.proposal.screen.ended()) {
+        session.act(bytes);
+        session.check();
+    }
+    return 0;
+}
