@@ -4,17 +4,28 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
+#include "base/Text.h"
 #include "controls/Form.h"
 #include "controls/Screen.h"
 #include "controls/User.h"
 
 namespace plandesk {
 
+namespace {
+
+constexpr std::string_view yesNoText(bool on) {
+    return on ? "Yes" : "No";
+}
+
+}  // namespace
+
 Grid::Grid(Form& form, std::string_view name) : Control(form, ControlKind::Grid, name, noIndex) {}
 
 void Grid::bind(std::shared_ptr<Recordset> table) {
     typed.reset();
     source = std::move(table);
+    if (atColumn >= columnCount())
+        atColumn = 0;
     touched();
 }
 
@@ -33,7 +44,7 @@ GridColumn Grid::column(int column) const {
 std::string Grid::cellText(int row, int column) const {
     const Value& value = source->valueAt(row + 1, column);
     if (const bool* on = std::get_if<bool>(&value); on && this->column(column).yesNo)
-        return *on ? "Yes" : "No";
+        return std::string(yesNoText(*on));
     return valueText(value);
 }
 
@@ -45,6 +56,10 @@ bool Grid::has(int row, int column) const {
     return row >= 0 && row < rowCount() && column >= 0 && column < columnCount();
 }
 
+bool Grid::isCurrent(int row, int column) const {
+    return has(row, column) && currentRow() == row && atColumn == column;
+}
+
 bool Grid::editable(int column) const {
     const GridColumn setting = this->column(column);
     return setting.width > 0 && !setting.locked;
@@ -54,6 +69,9 @@ void Grid::moveTo(int row, int column) {
     if (!has(row, column))
         return;
     endEdit();
+    // The reaction to the edit may have taken the row away.
+    if (!has(row, column))
+        return;
     const bool moved = row != currentRow() || column != atColumn;
     source->setAbsolutePosition(row + 1);
     atColumn = column;
@@ -75,7 +93,7 @@ bool Grid::editCell(int row, int column, std::string_view text) {
     if (!has(row, column) || !editable(column))
         return false;
     moveTo(row, column);
-    if (has(row, column) && currentRow() == row) {
+    if (isCurrent(row, column)) {
         typed = text;
         endEdit();
     }
@@ -93,9 +111,8 @@ void Grid::endEdit() {
     if (!typed)
         return;
     const std::string text = *std::exchange(typed, std::nullopt);
-    const ColumnKind kind = source->columns()[static_cast<std::size_t>(atColumn)].kind;
     try {
-        source->set(atColumn, text.empty() && kind != ColumnKind::Text ? Value() : toKind(text, kind));
+        source->set(atColumn, cellValue(text));
     } catch (const RuntimeError&) {
         touched();  // a text that the column cannot take is refused: the old value shows again
         return;
@@ -104,6 +121,17 @@ void Grid::endEdit() {
     touched();
     if (afterColumnUpdate)
         afterColumnUpdate(atColumn);
+}
+
+Value Grid::cellValue(const std::string& text) const {
+    const ColumnKind kind = source->columns()[static_cast<std::size_t>(atColumn)].kind;
+    if (text.empty() && kind != ColumnKind::Text)
+        return {};
+    if (column(atColumn).yesNo)
+        for (const bool on : {true, false})
+            if (equalsIgnoringCase(text, yesNoText(on)))
+                return on;
+    return toKind(text, kind);
 }
 
 void Grid::cancelEdit() {
@@ -124,7 +152,7 @@ bool Grid::deleteRow(int row) {
     if (!has(row, 0))
         return false;
     moveTo(row, atColumn);
-    if (beforeDelete && !beforeDelete())
+    if (currentRow() != row || (beforeDelete && !beforeDelete()))
         return true;
     source->deleteRow();
     touched();
@@ -146,11 +174,7 @@ Grid::Floating Grid::floating(const Control& editor) const {
 }
 
 bool Grid::fire(std::string_view event) {
-    if (event != "RowColChange")
-        return Control::fire(event);
-    if (rowColumnChange)
-        rowColumnChange();
-    return true;
+    return fires(event, "RowColChange", rowColumnChange) || Control::fire(event);
 }
 
 namespace user {
@@ -159,8 +183,10 @@ namespace {
 
 bool act(Grid& grid, const std::function<bool()>& action) {
     bool done = false;
-    if (user::focus(grid))
-        grid.form().screen().event([&] { done = action(); });
+    grid.form().screen().event([&] {
+        if (user::focus(grid))
+            done = action();
+    });
     return done;
 }
 

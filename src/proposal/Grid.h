@@ -19,7 +19,7 @@ struct GridColumn {
     int width = 1000;     ///< in twips, 1/1440 inch; 0 hides the column
     bool locked = false;  ///< the user cannot type into it
     bool button = false;  ///< a button stands in the current cell
-    bool yesNo = false;   ///< a boolean reads "Yes" and "No"
+    bool yesNo = false;   ///< a boolean reads "Yes" and "No", and is typed so in any case
 };
 
 /// A grid bound to an in-memory table: it shows the table's visible rows and has the table's current row. Sorting and
@@ -93,6 +93,9 @@ public:
 
 private:
     bool has(int row, int column) const;
+    bool isCurrent(int row, int column) const;
+    /// What the current column makes of a typed text. RuntimeError 13 or 6 for one that it cannot take.
+    Value cellValue(const std::string& text) const;
 
     std::shared_ptr<Recordset> source;
     std::span<const GridColumn> settings;

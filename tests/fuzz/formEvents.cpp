@@ -13,10 +13,8 @@
 
 #include "controls/Controls.h"
 #include "controls/User.h"
-#include "particulars/AnnexureACont.h"
-#include "particulars/frmAnnexureA.h"
-#include "proposal/Proposal.h"
-#include "unit/TestPorts.h"
+#include "proposal/Grid.h"
+#include "unit/World.h"
 
 namespace plandesk {
 namespace {
@@ -48,22 +46,17 @@ private:
     std::span<const std::uint8_t> rest;
 };
 
-struct Session {
-    test::TestPorts ports;
-    Proposal proposal{ports};
-    Form* form = nullptr;  ///< that the user is working on
+/// The whole system with the form and the control that the user is at.
+struct Session : test::World {
+    Form* form = nullptr;
     Control* control = nullptr;
-
-    Session() {
-        ports.files.contents["/program/VILLAGENAMES.txt"] = "1#Khandri#KHN\n2#Pimpla#PMP\n";
-        proposal.forms.get<frmAnnexureA>();
-        proposal.forms.get<AnnexureACont>();
-    }
 
     void choose(Bytes& bytes);
     void act(Bytes& bytes);
     void onTextBox(TextBox& box, Bytes& bytes);
+    void onGrid(Grid& grid, Bytes& bytes);
     void onForm(Bytes& bytes);
+    void onMainWindow(Bytes& bytes);
     void check();
 };
 
@@ -97,23 +90,49 @@ void Session::onTextBox(TextBox& box, Bytes& bytes) {
     }
 }
 
+void Session::onGrid(Grid& grid, Bytes& bytes) {
+    const auto row = static_cast<int>(bytes.below(4));
+    const int column = bytes.next();
+    switch (bytes.below(4)) {
+    case 0:
+        user::editCell(grid, row, column, bytes.text());
+        break;
+    case 1:
+        user::pressCellButton(grid, row, column);
+        break;
+    case 2:
+        user::deleteRow(grid, row);
+        break;
+    default:
+        user::clickCell(grid, row, column);
+    }
+}
+
 void Session::onForm(Bytes& bytes) {
     const std::string name = form->name();
-    switch (bytes.below(5)) {
+    switch (bytes.below(3)) {
     case 0:
         proposal.screen.event([this] { form->show(); });
         break;
     case 1:
         proposal.screen.event([this] { form->closeBox(); });
         break;
-    case 2:
+    default:
         proposal.screen.event([&] { proposal.forms.unload(name); });
+    }
+}
+
+void Session::onMainWindow(Bytes& bytes) {
+    static constexpr std::array<std::string_view, 4> answers = {"yes", "no", "cancel", "/plans/proposal.xml"};
+    switch (bytes.below(3)) {
+    case 0:
+        shell.press(mdiInterface::menu()[bytes.below(mdiInterface::menu().size())].name);
         break;
-    case 3:
-        proposal.screen.event([this] { proposal.screen.dropFocus(); });
+    case 1:
+        shell.Timer1_Timer();
         break;
     default:
-        ports.dialogs.answers.push_back(bytes.below(2) == 0 ? "yes" : "no");
+        ports.dialogs.answers.emplace_back(answers[bytes.below(answers.size())]);
     }
 }
 
@@ -121,7 +140,7 @@ void Session::act(Bytes& bytes) {
     static constexpr std::array<std::string_view, 9> keys = {"Enter", "Tab", "Esc", "Space", "Backspace",
                                                              "F2",    "F3",  "7",   "\u0917"};
     choose(bytes);
-    switch (bytes.below(6)) {
+    switch (bytes.below(8)) {
     case 0:
         user::press(*control, keys[bytes.below(keys.size())]);
         return;
@@ -133,6 +152,8 @@ void Session::act(Bytes& bytes) {
         return;
     case 3:
         return onForm(bytes);
+    case 4:
+        return onMainWindow(bytes);
     default:
         break;
     }
@@ -144,6 +165,8 @@ void Session::act(Bytes& bytes) {
         user::pickDate(*picker, {2000 + bytes.next(), 1 + bytes.next() % 12, 1 + bytes.next() % 28});
     else if (auto* strip = dynamic_cast<TabStrip*>(control))
         user::showTab(*strip, bytes.next());
+    else if (auto* grid = dynamic_cast<Grid*>(control))
+        onGrid(*grid, bytes);
     else
         user::click(*control);
 }
