@@ -32,6 +32,14 @@ std::string_view groupOf(std::string_view groups, std::size_t number) {
     }
 }
 
+void appendDoubled(std::string& groups, std::string_view text) {
+    for (std::size_t backslash; (backslash = text.find('\\')) != std::string_view::npos;) {
+        groups.append(text.substr(0, backslash + 1)).append("\\");
+        text.remove_prefix(backslash + 1);
+    }
+    groups += text;
+}
+
 void answerQuestion(const YesNoOptions& question, double number, bool strict) {
     if (!strict && number != 0 && number != 1 && number != 2)
         return;
@@ -127,8 +135,7 @@ std::string ReadXML::flatten() const {
             continue;
         for (auto field = proposalDom.firstChild(child); field != XmlDocument::none;
              field = proposalDom.nextSibling(field)) {
-            for (const char character : proposalDom.text(field))
-                groups.append(character == '\\' ? 2 : 1, character);
+            appendDoubled(groups, proposalDom.text(field));
             groups += "@";
         }
         groups += "||";
