@@ -76,11 +76,11 @@ QAction* MainWindow::entry(std::string_view name) const {
 
 void MainWindow::makeMenu() {
     std::map<std::string_view, QMenu*> submenus;
-    for (const MenuEntry& item : mdiInterface::menu()) {
+    for (const MenuEntry& item : mainMenu()) {
         const auto parent = submenus.find(item.parent);
         const QString caption = toQt(item.caption);
         QAction* action = nullptr;
-        if (item.submenu) {
+        if (item.kind == EntryKind::Submenu) {
             QMenu* menu = parent == submenus.end() ? menuBar()->addMenu(caption) : parent->second->addMenu(caption);
             submenus[item.name] = menu;
             action = menu->menuAction();

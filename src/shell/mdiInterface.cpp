@@ -22,75 +22,6 @@ namespace plandesk {
 
 namespace {
 
-constexpr std::array entries = std::to_array<MenuEntry>({
-    {"mnuFile", "&File", "", true},
-    {"mnuNew", "&New", "mnuFile"},
-    {"mnuOpen", "&Open", "mnuFile"},
-    {"mnuSave", "&Save", "mnuFile"},
-    {"mnuSaveAs", "Save &As", "mnuFile"},
-    {"mnuExit", "E&xit", "mnuFile"},
-    {"mnuAppForm", "&Application Form", "", true},
-    {"mnuAnnexure", "Particulars of Development", "mnuAppForm"},
-    {"mnuSupervision", "Form of supervision", "mnuAppForm"},
-    {"mnuCommencement", "Notice for commencement of work", "mnuAppForm"},
-    {"mnuComPlintLevel", "Completion up to plinth level", "mnuAppForm"},
-    {"mnuBldgCompCertificate", "Building completion certificate", "mnuAppForm"},
-    {"mnuOccCertificate", "Part occupancy certificate", "mnuAppForm"},
-    {"mnuIssDCR", "Issue of DRC", "mnuAppForm"},
-    {"mnuTransOwnerShip", "Transferring ownership", "mnuAppForm"},
-    {"mnuDcrTransForm", "DRC transfer form", "mnuAppForm"},
-    {"mnuDCRUtilization", "DRC utilization form", "mnuAppForm"},
-    {"mnuDocCheckList", "&Document Checklist", "", true},
-    {"mnuMandatoryDocument", "Mandatory Document", "mnuDocCheckList"},
-    {"mnuOptionalMandatoryDoc", "Conditional Mandatory Documents", "mnuDocCheckList"},
-    {"mnuPlotareaExt", "&Plot area details", "", true},
-    {"mnuPlotExtRelationShip", "&Plot extract relationship", "mnuPlotareaExt"},
-    {"mnu712Ext", "7/12 extract", "mnuPlotareaExt"},
-    {"mnuPrc", "PRC", "mnuPlotareaExt"},
-    {"mnuNaOrder", "NA Order", "mnuPlotareaExt"},
-    {"mnuUlcOrder", "ULC Order", "mnuPlotareaExt"},
-    {"mnuHelp", "&Help", "", true},
-    {"mnuContent", "Contents....", "mnuHelp"},
-    {"mnuAbout", "About Architect Utility", "mnuHelp"},
-});
-
-/// What an entry does that only brings one form to the front.
-struct FormEntry {
-    std::string_view entry;
-    std::string_view form;
-};
-
-constexpr std::array formEntries = std::to_array<FormEntry>({
-    {"mnuSupervision", "frmofsupervision"},
-    {"mnuCommencement", "frmnoticeofcommencementofwork"},
-    {"mnuComPlintLevel", "frmcompletionuptoplinthlevel"},
-    {"mnuBldgCompCertificate", "frmbuildingcompletioncertificate"},
-    {"mnuOccCertificate", "frmforpartoccupancycertificate"},
-    {"mnuIssDCR", "frmIssuOfDRc"},
-    {"mnuTransOwnerShip", "frmtdrfortransferringownership"},
-    {"mnuDcrTransForm", "frmDRCTransfer"},
-    {"mnuDCRUtilization", "frmDRCUtilisationForm"},
-    {"mnuMandatoryDocument", "frmDocCheckList"},
-    {"mnuOptionalMandatoryDoc", "frmDocCheckList1"},
-    {"mnuPlotExtRelationShip", "frmPlotExtractRelation"},
-    {"mnuContent", "frmHelp"},
-    {"mnuAbout", "frmAbout"},
-});
-
-/// Entries that press an icon of the mandatory checklist. Those without a test of their own open the form outright.
-struct IconEntry {
-    std::string_view entry;
-    int icon;
-    std::string_view opens;
-};
-
-constexpr std::array iconEntries = std::to_array<IconEntry>({
-    {"mnu712Ext", 0, ""},
-    {"mnuPrc", 1, ""},
-    {"mnuNaOrder", 2, "frmNaOrder"},
-    {"mnuUlcOrder", 3, "frmScrutinyULC"},
-});
-
 // The discretion, development-right and conditional checklist forms keep their contents across New and Open.
 constexpr std::array<std::string_view, 19> unloadedForms = {"AnnexureACont",
                                                             "frmAnnexureA",
@@ -136,10 +67,6 @@ mdiInterface::mdiInterface(Proposal& proposal) : proposal(proposal) {
     loadRoutine();
 }
 
-std::span<const MenuEntry> mdiInterface::menu() {
-    return entries;
-}
-
 void mdiInterface::declareForms() {
     Forms& forms = proposal.forms;
     forms.declare<frmAnnexureA>();
@@ -183,12 +110,6 @@ void mdiInterface::fillCommands() {
     commands["mnuSaveAs"] = [this] { mnuSaveAs_Click(); };
     commands["mnuExit"] = [this] { mnuExit_Click(); };
     commands["mnuAnnexure"] = [this] { mnuAnnexure_Click(); };
-    for (const FormEntry& entry : formEntries)
-        commands[std::string(entry.entry)] = [this, form = entry.form] { openForm(form); };
-    for (const IconEntry& entry : iconEntries)
-        commands[std::string(entry.entry)] = [this, icon = entry.icon] {
-            proposal.forms.get<frmDocCheckList>().Image1_Click(icon);
-        };
 }
 
 void mdiInterface::loadRoutine() {
@@ -202,18 +123,10 @@ void mdiInterface::loadRoutine() {
     refreshMenus();
 }
 
-bool mdiInterface::available(std::string_view entry) const {
-    const auto found =
-        std::ranges::find_if(entries, [&](const MenuEntry& e) { return equalsIgnoringCase(e.name, entry); });
-    if (found == entries.end() || closed.contains(std::string(entry)))
-        return false;
-    if (const auto form = std::ranges::find(formEntries, found->name, &FormEntry::entry);
-        form != formEntries.end() && !proposal.forms.known(form->form))
-        return false;
-    if (const auto icon = std::ranges::find(iconEntries, found->name, &IconEntry::entry);
-        icon != iconEntries.end() && !icon->opens.empty() && !proposal.forms.known(icon->opens))
-        return false;
-    return found->parent.empty() || available(found->parent);
+bool mdiInterface::available(std::string_view name) const {
+    const MenuEntry* entry = findMenuEntry(name);
+    return entry && !closed.contains(std::string(name)) && (entry->form.empty() || proposal.forms.known(entry->form)) &&
+           (entry->parent.empty() || available(entry->parent));
 }
 
 bool mdiInterface::press(std::string_view entry) {
@@ -230,8 +143,13 @@ bool mdiInterface::run(std::string_view procedure) {
     constexpr std::string_view click = "_Click";
     const std::string name(procedure.ends_with(click) ? procedure.substr(0, procedure.size() - click.size())
                                                       : procedure);
+    const MenuEntry* entry = findMenuEntry(name);
     if (const auto command = commands.find(name); command != commands.end())
         command->second();
+    else if (entry && entry->kind == EntryKind::Form)
+        openForm(entry->form);
+    else if (entry && entry->kind == EntryKind::Icon)
+        proposal.forms.get<frmDocCheckList>().Image1_Click(entry->icon);
     else if (equalsIgnoringCase(name, "Timer1_Timer"))
         Timer1_Timer();
     else if (equalsIgnoringCase(name, "Timer2_Timer"))

@@ -3,7 +3,6 @@
 #include <functional>
 #include <map>
 #include <set>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -11,16 +10,9 @@
 #include "controls/Form.h"
 #include "document/ReadXML.h"
 #include "proposal/Proposal.h"
+#include "shell/MainMenu.h"
 
 namespace plandesk {
-
-/// One entry of the main menu.
-struct MenuEntry {
-    std::string_view name;
-    std::string_view caption;  ///< "&" before the mnemonic
-    std::string_view parent;   ///< name of the submenu it stands in; empty for the menu bar
-    bool submenu = false;
-};
 
 /// The main window without its picture: menu, proposal flags, the commands New, Open, Save, Save As and Exit, timers.
 /// Constructing it is the start of the program.
@@ -28,9 +20,6 @@ class mdiInterface {
 public:
     /// Makes the forms known, fills in the proposal's commands and runs the load routine.
     explicit mdiInterface(Proposal& proposal);
-
-    /// The menu in its order, each submenu before its entries.
-    static std::span<const MenuEntry> menu();
 
     /// Whether the entry, and the submenu it stands in, can be pressed. False for a name that is no entry.
     bool available(std::string_view entry) const;

@@ -91,7 +91,7 @@ void writeDump(const Session& session, std::ostream& out) {
     state["numbers"] = members(proposal, Proposal::numbers, &Proposal::NumberName::number);
     state["fragments"] = members(proposal, Proposal::fragments, &Proposal::FragmentName::text);
     Json& menus = state["menus"] = Json::object();
-    for (const MenuEntry& entry : mdiInterface::menu())
+    for (const MenuEntry& entry : mainMenu())
         menus[std::string(entry.name)] = session.shell.available(entry.name);
     Json& forms = state["forms"] = Json::object();
     for (const auto& [name, form] : proposal.forms.all())

@@ -48,8 +48,7 @@ bool truth(const Word& word) {
 }
 
 void expectMenu(Session& session, const Words& words) {
-    const auto named = [&](const MenuEntry& entry) { return equalsIgnoringCase(entry.name, words[0].text); };
-    if (std::ranges::none_of(mdiInterface::menu(), named))
+    if (!findMenuEntry(words[0].text))
         throw ScriptError("unknown menu entry " + quote(words[0].text));
     const bool expected = truth(words[1]);
     const bool found = session.shell.available(words[0].text);

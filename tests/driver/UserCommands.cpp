@@ -21,8 +21,7 @@ void userAct(Session& session, const Word& what, Act act) {
 }
 
 void menu(Session& session, const Words& words) {
-    const auto named = [&](const MenuEntry& entry) { return equalsIgnoringCase(entry.name, words[0].text); };
-    if (std::ranges::none_of(mdiInterface::menu(), named))
+    if (!findMenuEntry(words[0].text))
         throw ScriptError("unknown menu entry " + quote(words[0].text));
     userAct(session, words[0], [&] { return session.shell.press(words[0].text); });
 }

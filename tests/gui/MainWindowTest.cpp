@@ -36,11 +36,11 @@ class MainWindowTest : public QObject {
 private slots:
     void theMenuIsTheSystemsMenu() {
         Session session;
-        for (const MenuEntry& item : mdiInterface::menu()) {
+        for (const MenuEntry& item : mainMenu()) {
             const QAction* action = session.window.entry(item.name);
             QVERIFY2(action, std::string(item.name).c_str());
             QCOMPARE(action->text(), desktop::toQt(item.caption));
-            QCOMPARE(action->menu() != nullptr, item.submenu);
+            QCOMPARE(action->menu() != nullptr, item.kind == EntryKind::Submenu);
             const QAction* parent = session.window.entry(item.parent);
             const QList<QAction*> siblings = parent ? parent->menu()->actions() : session.window.menuBar()->actions();
             QVERIFY2(siblings.contains(action), std::string(item.name).c_str());
@@ -50,7 +50,7 @@ private slots:
     void entriesAreGreyedAsTheSystemSays() {
         Session session;
         const auto agree = [&] {
-            for (const MenuEntry& item : mdiInterface::menu())
+            for (const MenuEntry& item : mainMenu())
                 QCOMPARE(session.window.entry(item.name)->isEnabled(), session.shell.available(item.name));
         };
         agree();
