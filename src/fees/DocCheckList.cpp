@@ -40,6 +40,7 @@ DocCheckList::DocCheckList(Proposal& proposal, std::string_view name, const DocC
     cmdSave.click = [this] { cmdSave_Click(); };
     cmdSaveALL.click = [this] { this->proposal.commands.saveProposal(); };
     Command5.click = [this] { this->proposal.commands.open("rptDocChecklist"); };
+    cmdClose.toolTip = closesProgramTip;
     cmdClose.click = [this] { closeAllForms(this->proposal); };
 }
 

@@ -71,6 +71,7 @@ frmPayDetail::frmPayDetail(Proposal& proposal)
     cmdSave.click = [this] { SaveData(); };
     cmdSaveALL.click = [this] { this->proposal.commands.saveProposal(); };
     cmdPrint.click = [this] { cmdPrint_Click(); };
+    cmdClose.toolTip = closesProgramTip;
     cmdClose.click = [this] { closeAllForms(this->proposal); };
     procedure("SaveData", [this] { SaveData(); });
     procedure("validate", [this] { validate(); });

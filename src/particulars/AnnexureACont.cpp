@@ -44,7 +44,7 @@ constexpr TextBox AnnexureACont::*longTexts[] = {
 AnnexureACont::AnnexureACont(Proposal& proposal) : DataForm(proposal, formName, "Particulars of Development") {
     cmdNavPrev.toolTip = "Previous page";
     cmdNavNext.toolTip = "Next page";
-    cmdClose.toolTip = "Ends the program without saving";
+    cmdClose.toolTip = closesProgramTip;
     for (TextBox AnnexureACont::*box : longTexts)
         (this->*box).multiLine = true;
     txtRightWay.restoreText("2");

@@ -52,6 +52,9 @@ inline constexpr std::string_view noSpecialCharacter = "Do not enter any special
 /// RuntimeError 13 when a product is asked of a text that is no number.
 void checkRateBox(TextBox& first, TextBox& second, TextBox& target, bool compute);
 
+/// Tip of the buttons that run closeAllForms.
+inline constexpr std::string_view closesProgramTip = "Ends the program without saving";
+
 /// Unloads frmPayDetail, frmDocCheckList, AnnexureACont and frmAnnexureA, and ends the program without a question.
 void closeAllForms(Proposal& proposal);
 
