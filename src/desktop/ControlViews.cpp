@@ -156,6 +156,14 @@ public:
         });
     }
 
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        // A click chooses day, month or year, so that what is typed next takes its place.
+        if (event->type() == QEvent::MouseButtonRelease)
+            QMetaObject::invokeMethod(
+                this, [this] { edit.setSelectedSection(edit.currentSection()); }, Qt::QueuedConnection);
+        return ControlView::eventFilter(watched, event);
+    }
+
 private:
     QPalette::ColorRole backRole() const override { return QPalette::Base; }
     bool changesByWheel() const override { return true; }

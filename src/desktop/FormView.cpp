@@ -154,16 +154,17 @@ void FormView::arrange() {
 }
 
 QSize FormView::naturalSize(QSize limit) {
-    // Forms of several pages are all of one width, so that nothing jumps where one leads to the other.
-    const int leastCharacters = pages.size() > 1 ? 136 : 60;
+    // The forms of a proposal are all of one size, so that each covers the one it came from.
+    const bool belongsToProposal = !head.empty();
+    const int leastCharacters = belongsToProposal ? 136 : 60;
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int wanted = std::max({width(), pages[current].view->naturalWidth() + scrollBar, leastCharacters * gap()});
-    const int newWidth = std::min(wanted, limit.width());
-    if (pages.size() > 1)
+    const int wanted = std::max(pages[current].view->naturalWidth() + scrollBar, leastCharacters * gap());
+    const int newWidth = std::min(std::max(wanted, width()), limit.width());
+    if (belongsToProposal)
         return {newWidth, limit.height()};
     pages[current].view->arrange(newWidth - scrollBar, 0);
-    const int frame = placeViews(head, newWidth, 0) + placeViews(buttons, newWidth, 0);
-    return {newWidth, std::min(frame + pages[current].view->height(), limit.height())};
+    const int around = placeViews(head, newWidth, 0) + placeViews(buttons, newWidth, 0);
+    return {newWidth, std::min(around + pages[current].view->height(), limit.height())};
 }
 
 bool FormView::event(QEvent* event) {

@@ -138,8 +138,14 @@ int PageView::lineHeight() const {
     return fontMetrics().height() + border;
 }
 
+bool PageView::boxStandsAlone(const Row& row) {
+    return !row.unit && std::ranges::count_if(row.controls, [](const ControlView* view) {
+                            return view->control() && view->control()->kind() == ControlKind::TextBox;
+                        }) == 1;
+}
+
 int PageView::controlsWidth(const Row& row) const {
-    const bool alone = row.controls.size() == 1 && !row.unit;
+    const bool alone = boxStandsAlone(row);
     int width = row.unit ? row.unit->sizeHint().width() : 0;
     for (std::size_t place = 0; place < row.controls.size(); ++place)
         width += row.controls[place]->naturalWidth(alone) + gap();
@@ -325,14 +331,15 @@ int PageView::placeFilling(ControlView& view, const Columns& columns, int top) {
     const int width = columns.right - columns.item;
     constexpr int leastLines = 8;
     const int left = lastViewHeight - top - 2 * gap() - gap() / 2;
-    const int height = lastViewHeight == 0 ? view.sizeFor(width, true).height() : std::max(left, leastLines * lineHeight());
+    const int height =
+        lastViewHeight == 0 ? view.sizeFor(width, true).height() : std::max(left, leastLines * lineHeight());
     view.widget().setGeometry(columns.item, top, width, height);
     return top + height;
 }
 
 int PageView::placeControls(const Row& row, int left, int right, int top) {
     FlowLine line(left, right, top, lineHeight(), gap());
-    const bool alone = row.controls.size() == 1 && !row.unit;
+    const bool alone = boxStandsAlone(row);
     for (ControlView* view : row.controls)
         if (shownByCode(view))
             line.add(view->widget(), view->sizeFor(right - left, alone));

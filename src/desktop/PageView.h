@@ -66,6 +66,8 @@ private:
     static void nameControls(const Row& row, std::span<const std::string_view> heads);
     /// Whether the row's first control carries the words that others have as their question.
     static bool leadsRow(const Row& row);
+    /// Whether the row has one text box, which may then be wide.
+    static bool boxStandsAlone(const Row& row);
     void updateShown();
     static void setShown(const Row& row);
 

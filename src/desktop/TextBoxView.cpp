@@ -1,5 +1,6 @@
 #include "desktop/TextBoxView.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <algorithm>
 #include <limits>
@@ -47,6 +48,16 @@ public:
         connect(&line, &QLineEdit::textEdited, this, [this](const QString& text) { hand(fromQt(text)); });
     }
 
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::FocusOut) {
+            // A box that was left shows how its text begins.
+            const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+            if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+                reason != Qt::MenuBarFocusReason)
+                line.setCursorPosition(0);
+        }
+        return TextBoxView::eventFilter(watched, event);
+    }
     int naturalWidth(bool alone) const override {
         const bool number = subject && box().keyPress;
         return (alone && !number ? textWidth : numberWidth) * characterWidth();

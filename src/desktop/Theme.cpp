@@ -1,12 +1,11 @@
 #include "desktop/Theme.h"
 
-#include <algorithm>
-
 #include <QApplication>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QWidget>
+#include <algorithm>
 
 namespace plandesk::desktop {
 
@@ -23,8 +22,10 @@ public:
         case PM_IndicatorWidth:
         case PM_IndicatorHeight:
         case PM_ExclusiveIndicatorWidth:
-        case PM_ExclusiveIndicatorHeight: return widget ? std::max(given, widget->fontMetrics().ascent()) : given;
-        default: return given;
+        case PM_ExclusiveIndicatorHeight:
+            return widget ? std::max(given, widget->fontMetrics().ascent()) : given;
+        default:
+            return given;
         }
     }
 };

@@ -152,6 +152,17 @@ private slots:
         QCOMPARE(stage.form().date.date().text(), "21/12/2025"s);
     }
 
+    void aClickChoosesThePartOfTheDateThatIsTypedNext() {
+        Stage stage;
+        stage.form().date.setDate({2024, 3, 15});
+        stage.settle();
+        auto& edit = stage.widget<QDateEdit>(stage.form().date);
+        click(edit);
+        stage.settle();
+        QTest::keyClicks(&edit, "28");
+        QCOMPARE(stage.form().date.date().text(), "28/03/2024"s);
+    }
+
     void aDateIsPickedInTheCalendar() {
         Stage stage;
         stage.form().date.setDate({2024, 3, 15});

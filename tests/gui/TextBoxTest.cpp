@@ -204,6 +204,15 @@ private slots:
         QCOMPARE(stage.widget<QPlainTextEdit>(stage.form().notes).toPlainText(), QString("a\nb"));
     }
 
+    void aBoxThatWasLeftShowsHowItsTextBegins() {
+        Stage stage;
+        auto& line = stage.widget<QLineEdit>(stage.form().title);
+        QTest::keyClicks(&line, "a long title");
+        QCOMPARE(line.cursorPosition(), 12);
+        QTest::keyClick(&line, Qt::Key_Tab);
+        QCOMPARE(line.cursorPosition(), 0);
+    }
+
     void aLockedBoxTakesNoKeys() {
         Stage stage;
         stage.form().title.setText("fixed");

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QString>
+#include <deque>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "controls/Control.h"
+#include "controls/Ports.h"
+#include "desktop/MainWindow.h"
+#include "driver/Script.h"
+#include "proposal/Proposal.h"
+
+namespace plandesk::session {
+
+/// Does what a script of the driver's grammar says, on the real window with keyboard and mouse. It knows the commands
+/// that are a user's doing, `answer` and `expect-message`, and takes a picture of the screen at each comment
+/// "# screenshot NAME".
+class Robot {
+public:
+    Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFolder);
+
+    /// Runs the script; throws at the first thing that does not come about.
+    void run(std::istream& script);
+
+private:
+    using Words = std::vector<driver::Word>;
+
+    void runLine(const std::string& line);
+    void menu(const Words& words);
+    void type(const Words& words);
+    void press(const Words& words);
+    void click(const Words& words);
+    void pick(const Words& words);
+    void date(const Words& words);
+    void closeForm(const Words& words);
+    void expectMessage(const Words& words);
+    void takePicture(const QString& name) const;
+
+    /// The control, drawn and on the screen.
+    Control& control(const driver::Word& reference);
+    QWidget* widgetOf(const Control& control) const;
+    void scrollTo(const Control& control);
+    void clickOn(const Control& control);
+    void takeFocus(Control& control);
+    /// Answers the boxes and file dialogs that are open or about to open.
+    void attendDialogs();
+    void answerDialog(QWidget& dialog);
+
+    Proposal& proposal;
+    desktop::MainWindow& window;
+    QString pictures;
+    std::deque<std::string> answers;
+    std::deque<Message> messages;
+    std::map<std::string, void (Robot::*)(const Words&), std::less<>> commands;
+};
+
+}  // namespace plandesk::session
