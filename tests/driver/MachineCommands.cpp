@@ -66,10 +66,10 @@ void touch(Session& session, const Words& words) {
 
 /// Calls a procedure of the main window, a form or the whole system; false when there is none of that name.
 bool call(Session& session, const std::string& name, Form* form) {
-    const std::string_view procedure = std::string_view(name).substr(name.find('.') + 1);
+    const std::string procedure = name.substr(name.find('.') + 1);
     if (form)
         return form->run(procedure);
-    if (const auto found = session.proposal.procedures.find(name); found != session.proposal.procedures.end()) {
+    if (const auto found = session.proposal.procedures.find(procedure); found != session.proposal.procedures.end()) {
         found->second();
         return true;
     }

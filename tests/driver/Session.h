@@ -43,7 +43,7 @@ public:
     mdiInterface shell;
 
 private:
-    void runLine(std::string_view line);
+    void runLine(std::string_view content);
     std::ostream& tell();
 
     std::ostream& err;

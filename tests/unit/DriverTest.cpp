@@ -578,7 +578,7 @@ expect-flag isNewProposal true
 run mdiInterface.mnuNew_Click
 run uloadAllForms
 expect frmAnnexureA.loaded false
-run createAllTables
+run mdiInterface.createAllTables
 run requireParticulars
 expect-no-message
 )");
