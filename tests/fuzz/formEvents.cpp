@@ -51,6 +51,7 @@ struct Session : test::World {
     Form* form = nullptr;
     Control* control = nullptr;
 
+    void start(Bytes& bytes);
     void choose(Bytes& bytes);
     void act(Bytes& bytes);
     void onTextBox(TextBox& box, Bytes& bytes);
@@ -63,6 +64,14 @@ struct Session : test::World {
 void fail(std::string_view what) {
     std::cerr << "unsound: " << what << '\n';
     std::abort();
+}
+
+/// From the bare main window, or from a new proposal that its first page lets be saved.
+void Session::start(Bytes& bytes) {
+    if (bytes.below(2) == 0)
+        return;
+    shell.press("mnuNew");
+    fillFirstPage();
 }
 
 void Session::choose(Bytes& bytes) {
@@ -184,7 +193,7 @@ void Session::check() {
         return known;
     }();
     for (const Message& box : ports.dialogs.take())
-        if (box.icon == Icon::Critical && !descriptions.contains(box.text))
+        if (box.icon == Icon::Critical && box.title.empty() && !descriptions.contains(box.text))
             fail("a failure that is no run-time error of the platform: " + box.text);
     const Control* focused = proposal.screen.focused();
     bool focusFound = focused == nullptr;
@@ -207,6 +216,7 @@ void Session::check() {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     plandesk::Bytes bytes({data, size});
     plandesk::Session session;
+    session.start(bytes);
     while (!bytes.empty() && !session.proposal.screen.ended()) {
         session.act(bytes);
         session.check();
