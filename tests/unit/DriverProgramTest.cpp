@@ -1,0 +1,67 @@
+#include <array>
+#include <cstdio>
+#include <ctime>
+#include <filesystem>
+#include <utility>
+
+#include "unit/DriverFixture.h"
+
+namespace plandesk::driver::test {
+namespace {
+
+// The program itself.
+
+/// Exit status and what it printed, errors included.
+std::pair<int, std::string> runProgram(const std::string& arguments) {
+    const std::string program = (programFolder / "plandesk-driver").string();
+    FILE* pipe = popen(("'" + program + "' " + arguments + " 2>&1").c_str(), "r");
+    if (!pipe)
+        return {-1, "not started"};
+    std::string output;
+    std::array<char, 4096> block;
+    for (std::size_t count = 0; (count = fread(block.data(), 1, block.size(), pipe)) > 0;)
+        output.append(block.data(), count);
+    const int status = pclose(pipe);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
+}
+
+using Result = std::pair<int, std::string>;
+
+TEST_F(DriverInAFolder, TheProgramRunsAScriptFileOrStandardInput) {
+    folder.write("held.txt", "expect-flag feeArea 0\nprint-flag feeArea\n");
+    folder.write("failed.txt", "\nexpect-flag feeArea 1\n");
+    folder.write("wrong.txt", "frobnicate\n");
+    EXPECT_EQ(runProgram("held.txt"), Result(0, "0\n"));
+    EXPECT_EQ(runProgram("< held.txt"), Result(0, "0\n"));
+    EXPECT_EQ(runProgram("- < failed.txt"), Result(1, "-:2: expected feeArea \"1\", found \"0\"\n"));
+    EXPECT_EQ(runProgram("./failed.txt"), Result(1, "./failed.txt:2: expected feeArea \"1\", found \"0\"\n"));
+    EXPECT_EQ(runProgram("wrong.txt"), Result(2, "wrong.txt:1: unknown command \"frobnicate\"\n"));
+}
+
+TEST_F(DriverInAFolder, TheProgramRefusesWhatItCannotRead) {
+    EXPECT_EQ(runProgram("none.txt"), Result(2, "none.txt: cannot be read\n"));
+    EXPECT_EQ(runProgram("."), Result(2, ".: cannot be read\n"));
+    const std::string usage = "plandesk-driver [--folder DIR] [SCRIPT]\n";
+    EXPECT_EQ(runProgram("--frob"), Result(2, usage));
+    EXPECT_EQ(runProgram("one two"), Result(2, usage));
+    EXPECT_EQ(runProgram("--folder"), Result(2, usage));
+}
+
+TEST_F(DriverInAFolder, TheProgramsOwnFolderIsWhereItLiesOrAsGiven) {
+    folder.write("about.txt", "touch frmAbout\nprint frmAbout.caption\n");
+    EXPECT_NE(runProgram("about.txt"), Result(0, "About Ours\n"));
+    folder.write("version.ini", "Ours\n9.9.9\n");
+    EXPECT_EQ(runProgram("--folder ./ about.txt"), Result(0, "About Ours\n"));
+    EXPECT_EQ(runProgram("--folder none about.txt"), Result(0, "About Plandesk\n"));
+}
+
+TEST_F(DriverInAFolder, TheMachinesDateIsTheDateOfARunWithoutOne) {
+    folder.write("date.txt", "print frmAnnexureA.DTPicker1\n");
+    const std::time_t now = std::time(nullptr);
+    std::array<char, 16> today = {};
+    std::strftime(today.data(), today.size(), "%d/%m/%Y", std::localtime(&now));
+    EXPECT_EQ(runProgram("date.txt"), Result(0, std::string(today.data()) + "\n"));
+}
+
+}  // namespace
+}  // namespace plandesk::driver::test
