@@ -35,11 +35,9 @@ void Screen::event(const std::function<void()>& reaction) {
 }
 
 void Screen::setFocus(Control& control) {
-    Form& form = control.form();
-    if (!holds(form))
+    if (!holds(control.form()))
         return;
-    if (form.visible())
-        moveToFront(form);
+    moveToFront(control.form());
     changeFocus(&control);
 }
 

@@ -2,10 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "base/Numbers.h"
-#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "controls/Form.h"
@@ -163,10 +161,7 @@ void checkRateBox(TextBox& first, TextBox& second, TextBox& target, bool compute
         return refuse(first, "Enter Numeric values", "Payment Details");
     if (!compute)
         return;
-    const double product = toDouble(first.text()) * toDouble(second.text());
-    if (!std::isfinite(product))
-        throw RuntimeError(ErrorNumber::Overflow);
-    target.setText(numberText(product));
+    target.setText(numberText(toDouble(first.text()) * toDouble(second.text())));
 }
 
 void closeAllForms(Proposal& proposal) {

@@ -49,7 +49,7 @@ inline constexpr std::string_view noSpecialCharacter = "Do not enter any special
 /// The pair check of fee and page boxes, run when `first` has changed. A box that holds a letter or a special character
 /// is told of in a message, emptied and given the focus; with both boxes filled and sound and `compute` set, `target`
 /// becomes their product in the default text form of a number.
-/// RuntimeError 13 when a product is asked of a text that is no number.
+/// RuntimeError 13 when a product is asked of a text that is no number, 6 when it is beyond the range of a double.
 void checkRateBox(TextBox& first, TextBox& second, TextBox& target, bool compute);
 
 /// Tip of the buttons that run closeAllForms.

@@ -144,6 +144,17 @@ TEST_F(ScreenTest, LostFocusMaySendTheFocusOn) {
     EXPECT_EQ(log, Log{"txtPage(1) GotFocus"});
 }
 
+TEST_F(ScreenTest, ControlThatTheFocusReachesByADetourGetsItOnce) {
+    form.txtFirst.lostFocus = [&] {
+        form.txtPage1.setFocus();
+        form.txtSecond.setFocus();
+    };
+    screen.moveFocus(form.txtFirst);
+    log.clear();
+    EXPECT_TRUE(screen.moveFocus(form.txtSecond));
+    EXPECT_EQ(log, (Log{"txtPage(1) GotFocus", "txtPage(1) LostFocus", "txtSecond GotFocus"}));
+}
+
 TEST_F(ScreenTest, TwoFormsThatTakeTheFocusBackFromEachOtherComeToRest) {
     form.show();
     other.show();

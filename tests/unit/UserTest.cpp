@@ -1,6 +1,8 @@
 #include "controls/User.h"
 
-#include <chrono>
+#include <algorithm>
+#include <ctime>
+#include <limits>
 
 #include <gtest/gtest.h>
 
@@ -137,20 +139,21 @@ TEST_F(UserTest, FormUnloadedWhileTheUserTypesIsDestroyedOnlyWhenAllKeysAreDown)
 }
 
 TEST_F(UserTest, TypingTakesTimeInProportionToTheText) {
-    const auto secondsFor = [this](std::size_t length) {
-        double best = 1e9;
+    // Processor time: other programs of the machine do not count.
+    const auto clocksFor = [this](std::size_t length) {
+        auto best = std::numeric_limits<double>::max();
         for (int run = 0; run < 3; ++run) {
-            const auto start = std::chrono::steady_clock::now();
+            const std::clock_t start = std::clock();
             user::type(form.txtFirst, std::string(length, 'a'));
-            best = std::min(best, std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+            best = std::min(best, static_cast<double>(std::clock() - start));
             EXPECT_EQ(form.txtFirst.text().size(), length);
             log.clear();
         }
         return best;
     };
     form.txtFirst.change = nullptr;
-    const double small = secondsFor(10'000);
-    const double large = secondsFor(100'000);
+    const double small = clocksFor(10'000);
+    const double large = clocksFor(100'000);
     EXPECT_LT(large, 40 * small) << "ten times the keys, " << large / small << " times the time";
 }
 
@@ -257,6 +260,17 @@ TEST_F(UserTest, TabMovesOnInScreenOrderAndRoundAtTheEnd) {
         reached.push_back(form.activeControl()->key());
     }
     EXPECT_EQ(reached, (Log{"txtSecond", "Opt1Y", "Opt1N", "chkDone", "cboZone", "cmdSave", "txtFirst", "txtSecond"}));
+}
+
+TEST_F(UserTest, ShiftTabMovesBackInScreenOrderAndRoundAtTheStart) {
+    EXPECT_TRUE(user::press(form.txtSecond, "Shift+Tab"));
+    EXPECT_TRUE(form.txtFirst.focused());
+    form.cmdSave.setEnabled(false);
+    user::pressForm(form, "Shift+Tab");
+    EXPECT_TRUE(form.cboZone.focused());
+    test::SampleForm other{screen, "frmOther"};
+    user::pressForm(other, "Shift+Tab");
+    EXPECT_TRUE(other.cmdSave.focused()) << "without a focus it goes to the last control";
 }
 
 TEST_F(UserTest, TabPassesOverHiddenAndDisabledControls) {
