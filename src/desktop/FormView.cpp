@@ -24,6 +24,8 @@ FormView::FormView(Form& shown, ScreenView& screen, QWidget& parent) : QWidget(&
     const Layout& layout = form->layout();
     head = makeViews(layout.head);
     tabs = makeView(layout.tabs, *this);
+    if (tabs)
+        tabs->name({});
     pages.resize(tabs ? layout.pages.size() : 1);
     buttons = makeViews(layout.buttons);
     showChosenPage();
@@ -168,7 +170,7 @@ QSize FormView::naturalSize(QSize limit) {
 }
 
 bool FormView::event(QEvent* event) {
-    if (event->type() == QEvent::LayoutRequest)
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::FontChange)
         arrange();
     // Here, because the toolkit would take Tab for itself before it counts as a key.
     if (event->type() == QEvent::KeyPress && form) {

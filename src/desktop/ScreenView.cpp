@@ -58,15 +58,15 @@ void ScreenView::showForms() {
         return;
     for (Form* form : std::exchange(changedForms, {})) {
         ChildWindow* window = windowOf(*form);
-        if (!window && form->visible()) {
-            window = new ChildWindow(*form, *this, desk);
-            windows[form] = window;
-            window->fit();
-        } else if (window) {
-            window->syncForm();
-        }
         if (window)
-            window->setVisible(form->visible());
+            window->syncForm();
+        else if (form->visible())
+            window = windows[form] = new ChildWindow(*form, *this, desk);
+        else
+            continue;
+        if (form->visible() && window->isHidden())
+            window->fit();
+        window->setVisible(form->visible());
     }
     for (Form* form : std::exchange(raised, {}))
         if (ChildWindow* window = windowOf(*form))
@@ -122,7 +122,8 @@ void ScreenView::placeKeyboard() {
 
 void ScreenView::fitWindows() {
     for (const auto& [form, window] : windows)
-        window->fit();
+        if (!window->isHidden())
+            window->fit();
 }
 
 void ScreenView::focusStrayed() {

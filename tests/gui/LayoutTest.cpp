@@ -144,6 +144,22 @@ private slots:
         }
     }
 
+    void theFontMayGrowWhileTheProgramRuns() {
+        ScaledSession scaled(1);
+        Session& session = *scaled.session;
+        session.press("mnuNew");
+        auto& form = session.form<frmAnnexureA>();
+        QFont font = QApplication::font();
+        font.setPointSizeF(2 * font.pointSizeF());
+        QApplication::setFont(font);
+        session.settle();
+        desktop::FormView& view = *session.window.forms().viewOf(form);
+        QScrollArea& area = visibleArea(view);
+        QCOMPARE(session.widget(form.txtTitle).fontMetrics().height(), QFontMetrics(font).height());
+        for (QWidget* widget : placed(view, area))
+            QVERIFY2(clipped(*widget).isEmpty(), qPrintable(clipped(*widget)));
+    }
+
     void everyControlHasItsNameForTestsAndForScreenReaders_data() { addForms(); }
     void everyControlHasItsNameForTestsAndForScreenReaders() {
         QFETCH(QString, name);
@@ -167,6 +183,8 @@ private slots:
             }
         });
         QVERIFY(!drawn.empty());
+        if (const Control* tabs = form.findKey(form.layout().tabs))
+            QVERIFY(!session.widget(*tabs).accessibleName().isEmpty());
     }
 
     void tabWalksDownTheScreen_data() { addForms(); }

@@ -1,0 +1,171 @@
+// How long the window takes: to show a page for the first time, and from a key press to its repaint. The frame of a
+// display is 16 milliseconds.
+
+#include <QApplication>
+#include <QTest>
+#include <array>
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include <benchmark/benchmark.h>
+
+#include "desktop/Theme.h"
+#include "gui/Session.h"
+#include "particulars/AnnexureACont.h"
+#include "particulars/frmAnnexureA.h"
+
+namespace {
+
+using namespace plandesk;
+using test::Session;
+
+constexpr int pageCount = 9;
+constexpr std::array menuForms = {"mnuMandatoryDocument", "mnuOptionalMandatoryDoc", "mnuContent", "mnuAbout"};
+
+void needApplication() {
+    if (qApp)
+        return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int count = 1;
+    static char name[] = "plandesk-bench";
+    static char* arguments[] = {name, nullptr};
+    new QApplication(count, arguments);  // lives as long as the process
+    desktop::useTheme();
+}
+
+/// A session with a new proposal whose first page passes its checks.
+std::unique_ptr<Session> newProposal() {
+    needApplication();
+    auto session = std::make_unique<Session>();
+    session->press("mnuNew");
+    auto& form = session->form<frmAnnexureA>();
+    for (TextBox* box :
+         {&form.txtTitle, &form.txtpltno, &form.txtFPNo, &form.txtTikaNo, &form.txtApplicantNm, &form.txtApplicantAddr,
+          &form.txtArchNm, &form.txtArchFirstName, &form.txtRegNm, &form.txtPltArea, &form.txtActualArea})
+        box->setText("1");
+    for (ComboBox* list : {&form.cboCaseType, &form.cboProposalTyp, &form.cboProposProj, &form.cboSector})
+        list->setListIndex(0);
+    session->settle();
+    return session;
+}
+
+void showPage(Session& session, int page) {
+    session.window.forms().act(Qt::OtherFocusReason, [&] { session.form<frmAnnexureA>().cmdFormNo_Click(page); });
+    session.settle();
+}
+
+/// Times `show` alone, each time in a session of its own.
+void timeFirstShowing(benchmark::State& state, const std::function<std::unique_ptr<Session>()>& prepare,
+                      const std::function<void(Session&)>& show) {
+    for (auto round : state) {
+        const std::unique_ptr<Session> session = prepare();
+        const auto start = std::chrono::steady_clock::now();
+        show(*session);
+        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    }
+}
+
+std::unique_ptr<Session> emptyWindow() {
+    needApplication();
+    return std::make_unique<Session>();
+}
+
+void firstShowingOfPage(benchmark::State& state) {
+    const int page = static_cast<int>(state.range(0));
+    state.SetLabel("page " + std::to_string(page + 1) + " of the Particulars");
+    if (page == 0)
+        timeFirstShowing(state, emptyWindow, [](Session& session) { session.press("mnuNew"); });
+    else
+        timeFirstShowing(state, newProposal, [page](Session& session) { showPage(session, page); });
+}
+BENCHMARK(firstShowingOfPage)->DenseRange(0, pageCount - 1)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void firstShowingOfForm(benchmark::State& state) {
+    const char* entry = menuForms.at(static_cast<std::size_t>(state.range(0)));
+    state.SetLabel(entry);
+    timeFirstShowing(state, newProposal, [entry](Session& session) { session.press(entry); });
+}
+BENCHMARK(firstShowingOfForm)
+    ->DenseRange(0, static_cast<int>(menuForms.size()) - 1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+void firstShowingOfPayment(benchmark::State& state) {
+    timeFirstShowing(state, newProposal, [](Session& session) {
+        session.window.forms().act(Qt::OtherFocusReason, [&] { session.proposal.commands.showPayment(); });
+        session.settle();
+    });
+}
+BENCHMARK(firstShowingOfPayment)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// A text box of each page.
+TextBox& boxOf(Session& session, int page) {
+    auto& first = session.form<frmAnnexureA>();
+    auto& second = session.form<AnnexureACont>();
+    const std::array<TextBox*, pageCount> boxes = {&first.txtTitle,
+                                                   &first.txtReservationType,
+                                                   &first.txtInstClass,
+                                                   &first.txtDevRights,
+                                                   &second.txtDistCentStreet,
+                                                   &second.txtRmk4,
+                                                   &second.txtRequirmentForParking,
+                                                   &second.txtNotComply,
+                                                   &second.txtRoofs};
+    return *boxes.at(static_cast<std::size_t>(page));
+}
+
+/// Counts what is painted.
+class PaintCounter : public QObject {
+public:
+    PaintCounter() { qApp->installEventFilter(this); }
+    int paints = 0;
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+};
+
+void keyPressToRepaint(benchmark::State& state) {
+    const int page = static_cast<int>(state.range(0));
+    const std::unique_ptr<Session> session = newProposal();
+    showPage(*session, page);
+    TextBox& box = boxOf(*session, page);
+    box.setEnabled(true);
+    session->window.forms().act(Qt::OtherFocusReason, [&] { box.setFocus(); });
+    session->settle();
+    QWidget& widget = session->widget(box);
+    const PaintCounter counter;
+    int keys = 0;
+    for (auto round : state) {
+        QTest::keyClick(&widget, keys % 2 == 0 ? Qt::Key_1 : Qt::Key_Backspace);
+        QCoreApplication::processEvents();
+        ++keys;
+    }
+    if (counter.paints < keys)
+        state.SkipWithError("not every key was painted");
+    state.SetLabel("page " + std::to_string(page + 1) + ", " + box.name());
+}
+BENCHMARK(keyPressToRepaint)->DenseRange(0, pageCount - 1)->Unit(benchmark::kMillisecond);
+
+/// An answer that opens three rows or hides them, so that the page is laid out anew.
+void answerThatMovesThePageToRepaint(benchmark::State& state) {
+    const std::unique_ptr<Session> session = newProposal();
+    showPage(*session, 1);
+    auto& form = session->form<frmAnnexureA>();
+    const PaintCounter counter;
+    int answers = 0;
+    for (auto round : state) {
+        QWidget& option = session->widget(answers % 2 == 0 ? form.Opt5.yes : form.Opt5.no);
+        QTest::mouseClick(&option, Qt::LeftButton, {}, QPoint(8, option.height() / 2));
+        QCoreApplication::processEvents();
+        ++answers;
+    }
+    if (counter.paints < answers)
+        state.SkipWithError("not every answer was painted");
+}
+BENCHMARK(answerThatMovesThePageToRepaint)->Unit(benchmark::kMillisecond);
+
+}  // namespace

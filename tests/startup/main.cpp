@@ -1,0 +1,158 @@
+// plandesk-startup RUNS FACTOR REFERENCE PROGRAM: starts the two programs in turn on the present display and tells how
+// long each takes from its start until its window is on the screen, painted, and answers. Fails when the median of
+// PROGRAM is more than FACTOR times that of REFERENCE.
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <iomanip>
+#include <iostream>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <poll.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <xcb/xcb.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Milliseconds = std::chrono::duration<double, std::milli>;
+
+constexpr auto patience = std::chrono::seconds(20);
+
+struct Release {
+    void operator()(void* memory) const { std::free(memory); }
+    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+};
+using Event = std::unique_ptr<xcb_generic_event_t, Release>;
+
+class Display {
+public:
+    Display() : connection(xcb_connect(nullptr, nullptr)) {
+        if (xcb_connection_has_error(connection.get()))
+            throw std::runtime_error("there is no display");
+        root = xcb_setup_roots_iterator(xcb_get_setup(connection.get())).data->root;
+        protocols = atom("WM_PROTOCOLS");
+        pingAtom = atom("_NET_WM_PING");
+        const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+        xcb_change_window_attributes(connection.get(), root, XCB_CW_EVENT_MASK, &mask);
+        xcb_flush(connection.get());
+    }
+
+    /// Waits until a window comes onto the screen.
+    xcb_window_t waitForWindow() {
+        for (;;) {
+            const Event event = next();
+            if (type(*event) != XCB_MAP_NOTIFY)
+                continue;
+            const auto* map = reinterpret_cast<const xcb_map_notify_event_t*>(event.get());
+            if (!map->override_redirect)
+                return map->window;
+        }
+    }
+
+    /// Asks the window for a sign of life and waits for it.
+    void ping(xcb_window_t window) {
+        xcb_client_message_event_t question{};
+        question.response_type = XCB_CLIENT_MESSAGE;
+        question.format = 32;
+        question.window = window;
+        question.type = protocols;
+        question.data.data32[0] = pingAtom;
+        question.data.data32[2] = window;
+        xcb_send_event(connection.get(), 0, window, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&question));
+        xcb_flush(connection.get());
+        for (;;) {
+            const Event event = next();
+            if (type(*event) != XCB_CLIENT_MESSAGE)
+                continue;
+            const auto* answer = reinterpret_cast<const xcb_client_message_event_t*>(event.get());
+            if (answer->data.data32[0] == pingAtom && answer->data.data32[2] == window)
+                return;
+        }
+    }
+
+private:
+    static unsigned type(const xcb_generic_event_t& event) { return event.response_type & 0x7FU; }
+
+    xcb_atom_t atom(std::string_view name) {
+        const auto request = xcb_intern_atom(connection.get(), 0, static_cast<std::uint16_t>(name.size()), name.data());
+        const std::unique_ptr<xcb_intern_atom_reply_t, Release> reply(
+            xcb_intern_atom_reply(connection.get(), request, nullptr));
+        return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
+    }
+
+    Event next() {
+        for (const auto start = Clock::now(); Clock::now() - start < patience;) {
+            if (Event event{xcb_poll_for_event(connection.get())})
+                return event;
+            pollfd ready{xcb_get_file_descriptor(connection.get()), POLLIN, 0};
+            poll(&ready, 1, 100);
+        }
+        throw std::runtime_error("no window came, or it does not answer");
+    }
+
+    std::unique_ptr<xcb_connection_t, Release> connection;
+    xcb_window_t root = 0;
+    xcb_atom_t protocols = 0;
+    xcb_atom_t pingAtom = 0;
+};
+
+double timeToUsableWindow(Display& display, const std::string& program) {
+    std::string name = program;
+    char* arguments[] = {name.data(), nullptr};
+    const auto start = Clock::now();
+    pid_t process = 0;
+    if (posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments, environ) != 0)
+        throw std::runtime_error("cannot start " + program);
+    const xcb_window_t window = display.waitForWindow();
+    // The first answer can come before the window is painted, the second only after.
+    display.ping(window);
+    display.ping(window);
+    const Milliseconds taken = Clock::now() - start;
+    kill(process, SIGKILL);
+    waitpid(process, nullptr, 0);
+    return taken.count();
+}
+
+double median(std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    if (argc != 5) {
+        std::cerr << "usage: plandesk-startup RUNS FACTOR REFERENCE PROGRAM\n";
+        return 2;
+    }
+    try {
+        const int runs = std::atoi(argv[1]);
+        const double allowed = std::atof(argv[2]);
+        std::vector<double> reference;
+        std::vector<double> program;
+        Display display;
+        timeToUsableWindow(display, argv[3]);  // the first of each only brings the files into memory
+        timeToUsableWindow(display, argv[4]);
+        for (int run = 0; run < runs; ++run) {
+            reference.push_back(timeToUsableWindow(display, argv[3]));
+            program.push_back(timeToUsableWindow(display, argv[4]));
+        }
+        const double factor = median(program) / median(reference);
+        std::cout << std::fixed << std::setprecision(1) << "empty window " << median(reference) << " ms, program "
+                  << median(program) << " ms, medians of " << runs << " starts each; " << std::setprecision(2) << factor
+                  << " times, allowed " << allowed << '\n';
+        return factor <= allowed ? 0 : 1;
+    } catch (const std::exception& error) {
+        std::cerr << error.what() << '\n';
+        return 2;
+    }
+}
