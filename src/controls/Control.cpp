@@ -54,6 +54,11 @@ void Control::setFocus() {
     owner.screen().setFocus(*this);
 }
 
+void Control::loseFocus() {
+    if (lostFocus)
+        lostFocus();
+}
+
 bool Control::fire(std::string_view event) {
     return fires(event, "GotFocus", gotFocus) || fires(event, "LostFocus", lostFocus);
 }

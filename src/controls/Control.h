@@ -64,6 +64,12 @@ public:
     /// False when the control has no such event.
     virtual bool fire(std::string_view event);
 
+    /// The user pressed a key here, told by its name. Gives back what is left of it for the form: the same key, another
+    /// one, or an empty name when the control did it all.
+    virtual std::string_view keyDown(std::string_view key) { return key; }
+    /// The focus has gone elsewhere.
+    virtual void loseFocus();
+
     std::string toolTip;
     std::function<void()> gotFocus;
     std::function<void()> lostFocus;

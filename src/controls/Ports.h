@@ -71,12 +71,41 @@ public:
     virtual void end() = 0;
 };
 
+/// Hears how far a piece of work has come. Whether it takes long enough to be shown is for the platform to judge; the
+/// calls are cheap enough to be made for short work too.
+class Progress {
+public:
+    virtual ~Progress() = default;
+    virtual void begin(std::string_view /*work*/, int /*steps*/) {}
+    virtual void step() {}
+    virtual void end() {}
+
+    static Progress& unheard();
+};
+
+/// Tells of one piece of work for as long as it lives.
+class ProgressOf {
+public:
+    ProgressOf(Progress& progress, std::string_view work, int steps) : progress(progress) {
+        progress.begin(work, steps);
+    }
+    ~ProgressOf() { progress.end(); }
+    ProgressOf(const ProgressOf&) = delete;
+    ProgressOf& operator=(const ProgressOf&) = delete;
+
+    void step() { progress.step(); }
+
+private:
+    Progress& progress;
+};
+
 /// Everything the system needs of its surroundings. The referenced objects outlive the system.
 struct Ports {
     Dialogs& dialogs;
     Clock& clock;
     Files& files;
     Program& program;
+    Progress& progress = Progress::unheard();
 };
 
 }  // namespace plandesk

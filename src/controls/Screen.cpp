@@ -79,7 +79,7 @@ void Screen::changeFocus(Control* to) {
         to->form().active = to;
     // A control that a reaction took the focus from before it arrived has not lost anything.
     if (old && oldHadFocus)
-        react(old->lostFocus);
+        event([old] { old->loseFocus(); });
     // The reaction may have given the focus back; the move ends there then.
     if (to && focus == to && !focusArrived) {
         focusArrived = true;

@@ -105,8 +105,9 @@ void enter(Form& form, Control* control) {
     }
 }
 
-void keyDown(Form& form, Control* control, std::string_view key) {
+void keyDown(Form& form, Control* control, std::string_view pressed) {
     auto* box = dynamic_cast<TextBox*>(control);
+    const std::string_view key = control ? control->keyDown(pressed) : pressed;
     if (key == "Enter")
         enter(form, control);
     else if (key == "Tab")

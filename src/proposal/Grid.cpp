@@ -5,8 +5,6 @@
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "controls/Form.h"
-#include "controls/Screen.h"
 #include "controls/User.h"
 
 namespace plandesk {
@@ -24,8 +22,7 @@ Grid::Grid(Form& form, std::string_view name) : Control(form, ControlKind::Grid,
 void Grid::bind(std::shared_ptr<Recordset> table) {
     typed.reset();
     source = std::move(table);
-    if (atColumn >= columnCount())
-        atColumn = 0;
+    atColumn = 0;
     touched();
 }
 
@@ -38,7 +35,7 @@ GridColumn Grid::column(int column) const {
     const auto place = static_cast<std::size_t>(column);
     if (place < settings.size())
         return settings[place];
-    return {.caption = source ? source->columns()[place].name : std::string_view()};
+    return {.caption = column < columnCount() ? source->columns()[place].name : std::string_view()};
 }
 
 std::string Grid::cellText(int row, int column) const {
@@ -94,6 +91,8 @@ bool Grid::editCell(int row, int column, std::string_view text) {
         return false;
     moveTo(row, column);
     if (isCurrent(row, column)) {
+        if (editStart)
+            editStart(column);
         typed = text;
         endEdit();
     }
@@ -101,10 +100,16 @@ bool Grid::editCell(int row, int column, std::string_view text) {
 }
 
 void Grid::beginEdit(std::string_view text) {
-    if (currentRow() < 0 || !editable(atColumn))
+    if (!startEdit())
         return;
     typed = text;
     touched();
+}
+
+bool Grid::startEdit() {
+    if (typed)
+        return true;
+    return currentRow() >= 0 && editable(atColumn) && (!editStart || editStart(atColumn));
 }
 
 void Grid::endEdit() {
@@ -149,12 +154,15 @@ bool Grid::pressButton(int row, int column) {
 }
 
 bool Grid::deleteRow(int row) {
-    if (!has(row, 0))
+    if (!allowDelete || !has(row, 0))
         return false;
     moveTo(row, atColumn);
     if (currentRow() != row || (beforeDelete && !beforeDelete()))
         return true;
     source->deleteRow();
+    source->moveNext();
+    if (source->eof() && rowCount() > 0)
+        source->setAbsolutePosition(rowCount());
     touched();
     if (afterDelete)
         afterDelete();
@@ -171,6 +179,93 @@ void Grid::place(Control& editor, int column) {
 Grid::Floating Grid::floating(const Control& editor) const {
     const auto known = std::ranges::find(editors, &editor, &Floating::editor);
     return known == editors.end() ? Floating{} : *known;
+}
+
+void Grid::loseFocus() {
+    endEdit();
+    Control::loseFocus();
+}
+
+bool Grid::reachable(int column) const {
+    return editable(column) || (this->column(column).width > 0 && this->column(column).button);
+}
+
+std::string_view Grid::keyDown(std::string_view key) {
+    if (key == "Esc" && editing()) {
+        cancelEdit();
+        return "";
+    }
+    if (key == "Esc" || key == "F2" || key == "F3") {
+        endEdit();
+        return key;
+    }
+    const bool settled = settle();
+    if (key == "Enter" && enterKey && enterKey())
+        return "";
+    if (key == "Shift+Tab")
+        return moveOn(false) ? "" : key;
+    if (key == "Enter" || key == "Tab")
+        return (settled && reachable(atColumn)) || moveOn(true) ? "" : "Tab";
+    if (key == "Space" && !editable(atColumn))
+        pressButton(currentRow(), atColumn);
+    else if (key == "Backspace")
+        eraseLast();
+    else if (const std::u32string points = codePoints(key == "Space" ? " " : key); points.size() == 1)
+        typeKey(points.front());
+    else
+        return key;
+    return "";
+}
+
+/// Keys need a cell that is there to be seen: without one the first visible cell becomes current. Tells whether it did.
+bool Grid::settle() {
+    const bool placed = currentRow() >= 0 && column(atColumn).width > 0;
+    for (int place = 0; !placed && rowCount() > 0 && place < columnCount(); ++place) {
+        if (column(place).width == 0)
+            continue;
+        moveTo(std::max(currentRow(), 0), place);
+        return true;
+    }
+    return false;
+}
+
+/// False when there is no further cell in that direction.
+bool Grid::moveOn(bool forward) {
+    endEdit();
+    if (!focused())  // the reaction to the edit took the focus elsewhere
+        return true;
+    const int columns = columnCount();
+    const int step = forward ? 1 : -1;
+    for (int cell = currentRow() * columns + atColumn + step; cell >= 0 && cell < rowCount() * columns; cell += step) {
+        if (!reachable(cell % columns))
+            continue;
+        moveTo(cell / columns, cell % columns);
+        return true;
+    }
+    return false;
+}
+
+void Grid::typeKey(char32_t key) {
+    const int passed = form().keyPress(static_cast<int>(key));
+    if (passed == 0 || !startEdit())
+        return;
+    std::string text = typed.value_or("");
+    appendUtf8(text, static_cast<char32_t>(passed));
+    typed = std::move(text);
+    touched();
+}
+
+void Grid::eraseLast() {
+    if (!startEdit())
+        return;
+    std::u32string points = codePoints(typed ? *typed : cellText(currentRow(), atColumn));
+    if (!points.empty())
+        points.pop_back();
+    std::string text;
+    for (const char32_t point : points)
+        appendUtf8(text, point);
+    typed = std::move(text);
+    touched();
 }
 
 bool Grid::fire(std::string_view event) {
@@ -198,6 +293,16 @@ bool editCell(Grid& grid, int row, int column, std::string_view text) {
 
 bool clickCell(Grid& grid, int row, int column) {
     return act(grid, [&] { return grid.clickCell(row, column); });
+}
+
+bool goToCell(Grid& grid, int row, int column) {
+    return act(grid, [&] {
+        const bool there = row >= 0 && row < grid.rowCount() && column >= 0 && column < grid.columnCount() &&
+                           grid.column(column).width > 0;
+        if (there)
+            grid.moveTo(row, column);
+        return there;
+    });
 }
 
 bool pressCellButton(Grid& grid, int row, int column) {

@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "controls/Control.h"
+#include "controls/Form.h"
+#include "controls/Screen.h"
 #include "proposal/Recordset.h"
 
 namespace plandesk {
@@ -53,8 +55,13 @@ public:
     /// the column cannot take is refused and the old value kept. An empty text empties a cell that holds no text.
     bool editCell(int row, int column, std::string_view text);
     bool pressButton(int row, int column);
-    /// Asks `beforeDelete`, deletes the row, and runs `afterDelete`.
+    /// Asks `beforeDelete`, deletes the row, and runs `afterDelete`; the row that came behind is current then, or the
+    /// last one.
     bool deleteRow(int row);
+    /// A character starts or continues an edit, Backspace shortens what stands there, Esc gives it back. Tab ends the
+    /// edit and goes to the next cell that can be typed into or has a button, and from the last one out of the grid;
+    /// Enter does the same where `enterKey` leaves it. Space presses the button of a cell that cannot be typed into.
+    std::string_view keyDown(std::string_view key) override;
 
     /// Moves the current cell as code does or a key would: `rowColumnChange` when it was another.
     void moveTo(int row, int column);
@@ -63,6 +70,7 @@ public:
 
     bool editing() const { return typed.has_value(); }
     const std::string& editText() const { return *typed; }
+    /// Runs `editStart` first. Nothing happens where the current cell cannot be typed into.
     void beginEdit(std::string_view text);
     /// Takes what was typed into the table as editCell does.
     void endEdit();
@@ -79,13 +87,19 @@ public:
     void place(Control& editor, int column);
     /// Where the editor floats; row -1 when it was not placed over this grid.
     Floating floating(const Control& editor) const;
+    /// Every editor that was placed over this grid, shown or not, the front one last.
+    std::span<const Floating> floatingEditors() const { return editors; }
 
     bool fire(std::string_view event) override;
+    void loseFocus() override;
 
+    bool allowDelete = true;
     std::function<void(int column)> afterColumnUpdate;
     std::function<void()> rowColumnChange;
     std::function<void(int column)> click;
     std::function<void(int column)> buttonClick;
+    /// The user starts to type into a cell; false when the reaction brought up an editor that takes the keys instead.
+    std::function<bool(int column)> editStart;
     std::function<bool()> beforeDelete;  ///< false cancels
     std::function<void()> afterDelete;
     /// Enter on the current cell; true when the reaction did all, false to act as Tab.
@@ -96,6 +110,12 @@ private:
     bool isCurrent(int row, int column) const;
     /// What the current column makes of a typed text. RuntimeError 13 or 6 for one that it cannot take.
     Value cellValue(const std::string& text) const;
+    bool reachable(int column) const;
+    bool settle();
+    bool startEdit();
+    bool moveOn(bool forward);
+    void typeKey(char32_t key);
+    void eraseLast();
 
     std::shared_ptr<Recordset> source;
     std::span<const GridColumn> settings;
@@ -104,12 +124,32 @@ private:
     std::vector<Floating> editors;
 };
 
+/// A control that floats over the cells of a grid: Tab and Enter go on to the grid's next cell.
+template <class Kind>
+class GridEditor : public Kind {
+public:
+    GridEditor(Grid& grid, std::string_view name) : Kind(grid.form(), name), grid(grid) {}
+
+    std::string_view keyDown(std::string_view key) override {
+        if (key != "Tab" && key != "Shift+Tab" && key != "Enter")
+            return Kind::keyDown(key);
+        if (!grid.takesFocus())
+            return key;
+        return grid.form().screen().moveFocus(grid) ? grid.keyDown(key) : "";
+    }
+
+private:
+    Grid& grid;
+};
+
 namespace user {
 
 // As the acts of the same names in controls/User.h: one event each, with the focus moved to the grid first.
 
 bool editCell(Grid& grid, int row, int column, std::string_view text);
 bool clickCell(Grid& grid, int row, int column);
+/// An arrow key: makes the cell current without a click. False for a hidden column.
+bool goToCell(Grid& grid, int row, int column);
 bool pressCellButton(Grid& grid, int row, int column);
 bool deleteRow(Grid& grid, int row);
 
