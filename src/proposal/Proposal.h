@@ -63,6 +63,10 @@ public:
     std::string mandatoryDocList;    ///< checklist string of frmDocCheckList
     std::string conditionalDocList;  ///< checklist string of frmDocCheckList1
 
+    // Remarks of the land records as last read from a document.
+    std::string remark712;
+    std::string remarkPRC;
+
     std::string proposalText;  ///< the document as last joined
 
     /// Procedures without arguments that are reachable by name.

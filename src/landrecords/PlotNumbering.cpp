@@ -1,0 +1,117 @@
+#include "landrecords/PlotNumbering.h"
+
+#include <limits>
+#include <string>
+#include <string_view>
+
+#include "base/Numbers.h"
+#include "base/RuntimeError.h"
+
+namespace plandesk {
+
+namespace {
+
+constexpr std::string_view plotNumber = "SrNo";
+constexpr std::string_view extracts = "No of PRC";  // counts the extracts of a plot in both families
+
+std::int32_t numberOf(Recordset& plots) {
+    return toInteger32(valueNumber(plots.get(plotNumber)));
+}
+
+std::int16_t added16(std::int16_t sum, std::int16_t more) {
+    const int total = sum + more;
+    if (total > std::numeric_limits<std::int16_t>::max() || total < std::numeric_limits<std::int16_t>::min())
+        throw RuntimeError(ErrorNumber::Overflow);
+    return static_cast<std::int16_t>(total);
+}
+
+struct Plot {
+    std::int32_t number;
+    std::int32_t count;
+};
+
+std::vector<Plot> visiblePlots(Recordset& plots) {
+    std::vector<Plot> list;
+    for (plots.moveFirst(); !plots.eof(); plots.moveNext())
+        list.push_back({numberOf(plots), extractCount(plots)});
+    return list;
+}
+
+/// Leaves only the rows of `table` whose plot is none of `plots`.
+void filterToOthers(Recordset& table, const std::vector<Plot>& plots) {
+    std::string expression;
+    for (const Plot& plot : plots)
+        expression += (expression.empty() ? "" : " AND ") + (" SrNo <> " + std::to_string(plot.number));
+    table.setFilter(expression);
+}
+
+}  // namespace
+
+std::int16_t extractCount(Recordset& plots) {
+    return toInteger16(valueNumber(plots.get(extracts)));
+}
+
+std::int16_t sumOfExtracts(Recordset& plots) {
+    std::int16_t sum = 0;
+    for (plots.moveFirst(); !plots.eof(); plots.moveNext())
+        sum = added16(sum, extractCount(plots));
+    return sum;
+}
+
+std::int16_t countBeforePlot(Recordset& plots, std::int32_t plot, bool inclusive) {
+    const Bookmark place = plots.bookmark();
+    plots.setFilter("");
+    std::int16_t sum = 0;
+    if (plots.recordCount() > 0) {
+        plots.setFilter((inclusive ? "SrNo <=" : "SrNo <") + std::to_string(plot));
+        sum = sumOfExtracts(plots);
+    }
+    plots.setFilter("");
+    plots.setBookmark(place);
+    return sum;
+}
+
+NumberChanges comparePlots(Recordset& saved, Recordset& plots) {
+    NumberChanges changes;
+    const std::vector<Plot> before = visiblePlots(saved);
+    const std::vector<Plot> now = visiblePlots(plots);
+    std::int32_t passed = 0;  // extracts of the old plots gone by
+    std::int32_t grown = 0;
+    for (const Plot& old : before) {
+        for (const Plot& present : now) {
+            if (present.number != old.number || present.count == old.count)
+                continue;
+            if (present.count > old.count) {
+                grown = present.count - old.count;
+                const std::int32_t last = countBeforePlot(plots, old.number, false) + old.count;
+                for (std::int32_t i = 1; i <= grown; ++i)
+                    changes.added.push_back(last + i);
+            } else {
+                for (std::int32_t i = old.count - present.count; i >= 1; --i)
+                    changes.deleted.push_back(passed + old.count - i + 1);
+            }
+        }
+        passed += old.count;
+    }
+    if (before.size() < now.size()) {
+        filterToOthers(plots, before);
+        // `grown` carries the growth of the last grown plot alone, not of all: saved proposals have been numbered so.
+        for (const Plot& fresh : visiblePlots(plots)) {
+            for (std::int32_t i = 1; i <= fresh.count; ++i)
+                changes.added.push_back(i + passed + grown);
+            grown += fresh.count;
+        }
+        plots.setFilter("");
+    }
+    if (before.size() > now.size()) {
+        filterToOthers(saved, now);  // the filter stays
+        for (const Plot& gone : visiblePlots(saved)) {
+            const std::int32_t first = countBeforePlot(plots, gone.number, true);
+            for (std::int32_t i = 1; i <= gone.count; ++i)
+                changes.deleted.push_back(first + i);
+        }
+    }
+    return changes;
+}
+
+}  // namespace plandesk
