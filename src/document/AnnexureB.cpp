@@ -4,9 +4,9 @@
 #include <string>
 
 #include "document/Answers.h"
-#include "document/Element.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
+#include "proposal/Element.h"
 #include "proposal/Proposal.h"
 #include "proposal/mdlProject.h"
 

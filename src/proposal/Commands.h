@@ -12,11 +12,13 @@ struct Commands {
 
     static void nothing() {}
 
-    Action saveProposal = nothing;    ///< every form leaves its answers, then the document is joined and written
-    Action SaveData = nothing;        ///< guards, joins the document and writes it
-    Action CreateXMLFIle = nothing;   ///< writes the joined document to the path of the proposal
-    Action buildAnnexureB = nothing;  ///< replaces `annexureBXML`
-    Action readXml = nothing;         ///< the steps of opening a file, without setting the proposal flags
+    Action saveProposal = nothing;       ///< every form leaves its answers, then the document is joined and written
+    Action SaveData = nothing;           ///< guards, joins the document and writes it
+    Action CreateXMLFIle = nothing;      ///< writes the joined document to the path of the proposal
+    Action buildAnnexureB = nothing;     ///< replaces `annexureBXML`
+    Action buildExtractBlock = nothing;  ///< replaces `extractOwnerXML` when there are 7/12 extracts
+    Action buildPRCBlock = nothing;      ///< replaces `prcOwnerXML` when there are PRCs
+    Action readXml = nothing;            ///< the steps of opening a file, without setting the proposal flags
     Action refreshMenus = nothing;
     Action showPayment = nothing;  ///< shows the payment form with the fee area of the Particulars
     /// Opens the form or report of that name; does nothing for one that does not exist yet.

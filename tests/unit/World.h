@@ -5,6 +5,7 @@
 
 #include "TestPorts.h"
 #include "controls/Controls.h"
+#include "proposal/Grid.h"
 #include "proposal/Proposal.h"
 #include "shell/mdiInterface.h"
 
@@ -24,6 +25,9 @@ struct World {
         return dynamic_cast<Kind&>(*proposal.forms.touch(form)->findKey(key));
     }
     TextBox& box(std::string_view form, std::string_view key) { return control<TextBox>(form, key); }
+    Grid& grid(std::string_view form, std::string_view key) { return control<Grid>(form, key); }
+    DatePicker& date(std::string_view form, std::string_view key) { return control<DatePicker>(form, key); }
+    Button& button(std::string_view form, std::string_view key) { return control<Button>(form, key); }
     OptionButton& option(std::string_view form, std::string_view key) { return control<OptionButton>(form, key); }
     ComboBox& list(std::string_view form, std::string_view key) { return control<ComboBox>(form, key); }
 

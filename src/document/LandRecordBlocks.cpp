@@ -1,0 +1,167 @@
+#include "document/LandRecordBlocks.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "base/Text.h"
+#include "controls/Controls.h"
+#include "landrecords/Encumbrances.h"
+#include "landrecords/ExtractForm.h"
+#include "landrecords/frmPlotExtractRelation.h"
+#include "proposal/Element.h"
+#include "proposal/Proposal.h"
+
+namespace plandesk {
+
+namespace {
+
+using Text = std::string;
+
+/// What the two blocks do not share.
+struct Block {
+    std::string_view element;
+    std::string_view count;
+    std::string_view extract;  ///< element of one extract, numbered
+    std::string_view remark;
+    Tables::Member extracts;
+    Tables::Member owners;
+    Tables::Member holders;
+    std::span<const int> statics;  ///< columns of the extract that `Static` holds
+    std::string Proposal::*fragment;
+    bool is712;
+};
+
+constexpr int statics712[] = {1, 2, 3, 4, 5, 6, 7};
+constexpr int staticsPRC[] = {1, 2, 3, 5, 6, 7};  // without FerFarNo
+
+constexpr Block block712 = {"a712Extract",
+                            "NoOfExtract",
+                            "Extract",
+                            "Remark712",
+                            &Tables::rsExtract712,
+                            &Tables::rsOwner712,
+                            &Tables::rsPAH712,
+                            statics712,
+                            &Proposal::extractOwnerXML,
+                            true};
+
+constexpr Block blockPRC = {"PRC",
+                            "NoOfPRC",
+                            "PRC",
+                            "RemarkPRC",
+                            &Tables::rsExtractPRC,
+                            &Tables::rsOwnerPRC,
+                            &Tables::rsPAHPRC,
+                            staticsPRC,
+                            &Proposal::prcOwnerXML,
+                            false};
+
+Text trimmed(Recordset& table, int column) {
+    return Text(trim(valueText(table.get(column))));
+}
+
+Text statics(const Block& block, Recordset& extracts) {
+    Text text;
+    for (const int column : block.statics) {
+        if (column != block.statics.front())
+            text += "#";
+        const Text value = trimmed(extracts, column);
+        text += block.is712 ? EscapeXML(value) : value;
+    }
+    return text;
+}
+
+enum OwnerColumn { ownerName = 2, ownerStatus = 3, ownerEncumbrance = 4, ownerType = 5 };
+enum HolderColumn { holderName = 2, holderSign = 3 };
+
+std::string_view statusWord(const Value& status) {
+    if (isNull(status))
+        return "";
+    const Text text = valueText(status);
+    // "---- Select ----" of the list is not the untouched default, and so is written as "PAH".
+    return trim(text) == "-- Select --" ? "" : text == "Signed" ? "Sign" : "PAH";
+}
+
+Text owner(const Block& block, Recordset& owners) {
+    Text text = EscapeXML(trimmed(owners, ownerName)) + "#";
+    text.append(statusWord(owners.get(ownerStatus))).append("#");
+    text += std::to_string(encumbranceCode(trimmed(owners, ownerEncumbrance)));
+    Text type = trimmed(owners, ownerType);
+    if (type == "------ Select------")
+        type.clear();
+    // The 7/12 block has no "#" before the type: its reader expects three pieces.
+    return text + (block.is712 ? EscapeXML(type) : "#" + type);
+}
+
+Text holder(Recordset& holders) {
+    return trimmed(holders, holderName) + "#" + (valueNumber(holders.get(holderSign)) != 0 ? "1" : "0");
+}
+
+/// Number of the rows of one extract, then one numbered element for each.
+template <class RowText>
+void appendRows(Text& xml, Recordset& table, std::string_view key, std::string_view count, std::string_view element,
+                RowText rowText) {
+    table.setFilter("");
+    table.setFilter(key);
+    appendElement(xml, count, std::to_string(table.recordCount()));
+    for (table.moveFirst(); !table.eof(); table.moveNext())
+        appendElement(xml, Text(element) + std::to_string(table.absolutePosition()), rowText());
+}
+
+void appendExtract(Text& xml, const Block& block, Proposal& proposal, Recordset& extracts) {
+    Recordset& owners = proposal.tables.ensure(block.owners);
+    Recordset& holders = proposal.tables.ensure(block.holders);
+    const Text element = Text(block.extract) + std::to_string(extracts.absolutePosition());
+    const Text key = "ExtNo = " + valueText(extracts.get("ExtNo"));
+    xml.append("<").append(element).append(">");
+    appendElement(xml, "Static", statics(block, extracts));
+    appendRows(xml, owners, key, "NoOfOwner", "OWNER", [&] { return owner(block, owners); });
+    appendRows(xml, holders, key, "NoOfPAH", "PAH", [&] { return holder(holders); });
+    xml.append("</").append(element).append(">");
+}
+
+/// Both blocks end with the remark of the 7/12 form.
+Text remark(Proposal& proposal) {
+    Form* form = proposal.forms.loaded(frmMain712::formName);
+    return form ? static_cast<frmMain712*>(form)->txtRemark.text() : proposal.remark712;
+}
+
+void build(const Block& block, Proposal& proposal) {
+    Recordset& extracts = proposal.tables.ensure(block.extracts);
+    if (extracts.recordCount() == 0)
+        return;
+    proposal.is712Current = block.is712;
+    proposal.isSavingLandRecord = true;
+    Text xml;
+    extracts.setFilter("");
+    extracts.moveFirst();
+    xml.append("<").append(block.element).append(">");
+    appendElement(xml, block.count,
+                  block.is712 ? proposal.forms.get<frmPlotExtractRelation>().txtNoOfExtract712.text()
+                              : std::to_string(extracts.recordCount()));
+    {
+        ProgressOf progress(proposal.screen.ports.progress, block.element, extracts.recordCount());
+        for (; !extracts.eof(); extracts.moveNext()) {
+            appendExtract(xml, block, proposal, extracts);
+            progress.step();
+        }
+    }
+    const Text closing = remark(proposal);
+    appendElement(xml, block.remark, EscapeXML(block.is712 ? trim(closing) : closing));
+    xml.append("</").append(block.element).append(">");
+    proposal.*block.fragment = std::move(xml);
+    proposal.isSavingLandRecord = false;
+}
+
+}  // namespace
+
+void buildExtractBlock(Proposal& proposal) {
+    build(block712, proposal);
+}
+
+void buildPRCBlock(Proposal& proposal) {
+    build(blockPRC, proposal);
+}
+
+}  // namespace plandesk

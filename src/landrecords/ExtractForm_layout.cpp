@@ -1,0 +1,44 @@
+// What frmMain712 and frmPRCEXT look like. The editors that float over cells stand in no row.
+
+#include "landrecords/ExtractForm.h"
+
+namespace plandesk {
+
+namespace {
+
+constexpr LayoutRow headRows[] = {
+    {"", "Case Type", "txtCaseType"},
+    {"", "", "txtNoOfExtranct", "", "", "lblNoOfExt"},
+    {"", "", "cmbExtract", "", "", "lblSelectExtract"},
+};
+
+constexpr LayoutRow extractRows[] = {
+    {"", "", "lblInfoExtract"},
+    {"", "", "dgdInfoOfExtract"},
+    {"", "Original Ownership", ""},
+    {"", "", "dgdOwner"},
+    {"", "Power Of Attorney Information", ""},
+    {"", "", "dgdPAH"},
+};
+
+constexpr LayoutRow remarkRows[] = {
+    {"", "", "txtRemark", "", "", "lblRemark"},
+};
+
+constexpr LayoutGroup groups[] = {{"", headRows}, {"", extractRows, {}, "fraExt"}, {"", remarkRows}};
+constexpr LayoutPage pages[] = {{groups}};
+
+constexpr Layout sheet{
+    .questionWidth = 32,
+    .head = "lblHead",
+    .pages = pages,
+    .buttons = "cmdSave cmdReferesh cmdClose Command1",
+};
+
+}  // namespace
+
+const Layout& ExtractForm::layout() const {
+    return sheet;
+}
+
+}  // namespace plandesk

@@ -1,0 +1,63 @@
+#include "landrecords/Ownership.h"
+
+#include <cstdint>
+#include <string>
+
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "landrecords/frmPlotExtractRelation.h"
+#include "proposal/Proposal.h"
+
+namespace plandesk {
+
+namespace {
+
+std::string ownerNames(Recordset& owners) {
+    std::string names;
+    std::string_view comma;
+    for (owners.moveFirst(); !owners.eof(); owners.moveNext()) {
+        names.append(comma).append(trim(valueText(owners.get("name"))));
+        comma = ",";
+    }
+    return names;
+}
+
+/// `shift` is added to an extract's own number. False when there is no extract.
+bool takeOver(Proposal& proposal, Tables::Member extractTable, Tables::Member ownerTable, std::int32_t shift) {
+    Recordset& extracts = proposal.tables.ensure(extractTable);
+    Recordset& owners = proposal.tables.ensure(ownerTable);
+    Recordset& ownership = proposal.tables.ensure(&Tables::rsOwnership);
+    extracts.setFilter("");
+    if (extracts.recordCount() == 0)
+        return false;
+    for (extracts.moveFirst(); !extracts.eof(); extracts.moveNext()) {
+        const std::int32_t number = toInteger32(valueNumber(extracts.get("ExtNo")));
+        const std::int32_t global = toInteger32(static_cast<double>(number) + shift);
+        ownership.setFilter("ExtNo = " + std::to_string(global));
+        if (ownership.recordCount() == 0) {
+            ownership.addNew();
+            ownership.set("DocStatus", "0");
+        }
+        ownership.set("ExtNo", global);
+        owners.setFilter("");
+        owners.setFilter("ExtNo = " + std::to_string(number));
+        ownership.set("Name", ownerNames(owners));
+        ownership.set("Area", valueNumber(extracts.get("CumulativeArea")));
+        ownership.update();
+        ownership.setFilter("");
+    }
+    return true;
+}
+
+}  // namespace
+
+// PRCs are taken only when there is a 7/12 extract, and the flag is raised only when there is a PRC.
+void buildOwnership(Proposal& proposal) {
+    if (!takeOver(proposal, &Tables::rsExtract712, &Tables::rsOwner712, 0))
+        return;
+    const std::string& extracts712 = proposal.forms.get<frmPlotExtractRelation>().txtNoOfExtract712.text();
+    if (takeOver(proposal, &Tables::rsExtractPRC, &Tables::rsOwnerPRC, toInteger32(leadingNumber(extracts712))))
+        proposal.ownershipRelationSaved = true;
+}
+
+}  // namespace plandesk

@@ -1,0 +1,576 @@
+#include "landrecords/ExtractForm.h"
+
+#include <gtest/gtest.h>
+
+#include "controls/User.h"
+#include "fees/frmDocCheckList.h"
+#include "landrecords/frmPlotExtractRelation.h"
+#include "unit/LandRecordsWorld.h"
+
+namespace plandesk::test {
+namespace {
+
+struct Extracts : testing::Test, LandRecordsWorld {
+    Tables& tables = proposal.tables;
+
+    /// Plots "A", "B", ... of these counts, saved, so that each has its empty extracts.
+    void relate(const std::vector<int>& counts, bool prc = false) {
+        auto& relation = proposal.forms.get<frmPlotExtractRelation>();
+        relation.open();
+        if (prc)
+            relation.SSTab1.setTab(1);
+        (prc ? relation.txtNoOfPlot : relation.txtNoOfPlot712).setText(std::to_string(counts.size()));
+        Grid& grid = prc ? relation.dgdPRCPlotRel : relation.dgd712ExtractRelation;
+        for (int row = 0; row < static_cast<int>(counts.size()); ++row) {
+            user::editCell(grid, row, 2, std::string(" Plot ") + static_cast<char>('A' + row) + " ");
+            user::editCell(grid, row, 3, std::to_string(counts[static_cast<std::size_t>(row)]));
+        }
+        user::click(prc ? relation.cmdSave : relation.cmdSave712Relation);
+        ports.dialogs.take();
+    }
+    frmMain712& open712() {
+        proposal.forms.get<frmDocCheckList>().Image1_Click(0);
+        return proposal.forms.get<frmMain712>();
+    }
+    frmPRCEXT& openPrc() {
+        proposal.forms.get<frmDocCheckList>().Image1_Click(1);
+        return proposal.forms.get<frmPRCEXT>();
+    }
+    static std::vector<std::string> rowTexts(const Recordset& table) {
+        std::vector<std::string> texts;
+        for (const auto& row : table.allRows()) {
+            std::string text;
+            for (const Value& value : row)
+                text += (text.empty() ? "" : "|") + (isNull(value) ? "null" : valueText(value));
+            texts.push_back(text);
+        }
+        return texts;
+    }
+    static std::vector<std::string> items(const ComboBox& list) {
+        std::vector<std::string> texts;
+        for (int item = 0; item < list.listCount(); ++item)
+            texts.push_back(list.item(item));
+        return texts;
+    }
+};
+
+using Texts = std::vector<std::string>;
+
+TEST_F(Extracts, TheListRunsPlotByPlot) {
+    relate({2, 0, 1});
+    auto& form = open712();
+    EXPECT_EQ(items(form.cmbExtract),
+              (Texts{" Plot A ---  EXTRACT 1 ", " Plot A ---  EXTRACT 2 ", " Plot C ---  EXTRACT 3 "}));
+    EXPECT_EQ(form.cmbExtract.listIndex(), 0);
+    EXPECT_EQ(form.txtNoOfExtranct.text(), "3");
+    EXPECT_FALSE(form.txtNoOfExtranct.enabled());
+    EXPECT_EQ(form.caption(), "Scrutiny Of 7/12  Extract");
+    EXPECT_FALSE(form.DTPicker1.visible());
+    EXPECT_FALSE(form.cmbEncumber.visible());
+}
+
+TEST_F(Extracts, TheCaseTypeComesFromTheFirstPage) {
+    relate({1});
+    list("frmAnnexureA", "cboCaseType").setListIndex(1);
+    EXPECT_EQ(open712().txtCaseType.text(), list("frmAnnexureA", "cboCaseType").text());
+    EXPECT_NE(open712().txtCaseType.text(), "");
+}
+
+TEST_F(Extracts, The712FormNamesItsColumns) {
+    relate({1});
+    auto& form = open712();
+    const std::array info = {"",
+                             "Survey No",
+                             "Hissa No",
+                             "Date of 7/12",
+                             "Ferfar No",
+                             "No of Owners",
+                             "Cumulative 7/12 Area in Sq.Mt",
+                             "No Of PAHs"};
+    for (int column = 0; column < 8; ++column)
+        EXPECT_EQ(form.dgdInfoOfExtract.column(column).caption, info[static_cast<std::size_t>(column)]);
+    EXPECT_TRUE(form.dgdInfoOfExtract.column(3).button);
+    EXPECT_EQ(form.dgdInfoOfExtract.column(0).width, 0);
+    const std::array owner = {"", "Sr No", "Name Of Owner", "Owner Signing Status ", "Encumbrances", "Owner Type"};
+    for (int column = 0; column < 6; ++column)
+        EXPECT_EQ(form.dgdOwner.column(column).caption, owner[static_cast<std::size_t>(column)]);
+    EXPECT_EQ(form.dgdOwner.column(5).width, 0);
+    EXPECT_TRUE(form.dgdOwner.column(3).button && form.dgdOwner.column(4).button);
+    EXPECT_EQ(form.dgdPAH.column(1).caption, "SrNo");
+    EXPECT_EQ(form.dgdPAH.column(2).caption, "Holder Name");
+    EXPECT_EQ(form.dgdPAH.column(3).caption, "PAH Sign");
+    EXPECT_TRUE(form.dgdPAH.column(3).locked && form.dgdPAH.column(3).button && form.dgdPAH.column(3).yesNo);
+    EXPECT_EQ(form.lblInfoExtract.caption(), " Information For Extract No :- 1");
+    EXPECT_EQ(form.cmdSave.caption(), "Save 7/12 Scrutiny Data");
+    EXPECT_EQ(form.cmdReferesh.caption(), "Reset 7/12 Information ");
+}
+
+TEST_F(Extracts, ThePrcFormNamesThemForPropertyCards) {
+    relate({1}, true);
+    auto& form = openPrc();
+    const std::array info = {"",          "City Survey No", "Tika Sheet No ",      "PRC Date",
+                             "Ferfar No", "No of Owners",   "Cumulative PRC Area", "No Of PAHs"};
+    for (int column = 0; column < 8; ++column)
+        EXPECT_EQ(form.dgdInfoOfExtract.column(column).caption, info[static_cast<std::size_t>(column)]);
+    EXPECT_EQ(form.dgdInfoOfExtract.column(4).width, 0);
+    EXPECT_EQ(form.dgdOwner.column(5).width, 2100);
+    EXPECT_FALSE(form.dgdOwner.column(3).button || form.dgdOwner.column(4).button);
+    EXPECT_EQ(form.caption(), "Scrutiny Of PRC Extract");
+    EXPECT_EQ(form.lblHead.caption(), " Scrutiny Of PRC Extract");
+    EXPECT_EQ(form.lblInfoExtract.caption(), " Information For PRC No :- 1");
+    EXPECT_EQ(form.fraExt.caption(), "PRC Details");
+    EXPECT_EQ(form.lblNoOfExt.caption(), "No of PRC");
+    EXPECT_EQ(form.lblSelectExtract.caption(), "Select PRC for details");
+    EXPECT_EQ(form.lblRemark.caption(), "PRC Remark");
+    EXPECT_EQ(form.cmdSave.caption(), "Save PRC Scrutiny Information");
+    EXPECT_EQ(form.cmdReferesh.caption(), "Reset");
+    EXPECT_EQ(form.cmbExtract.item(0), " Plot A ---  PRC 1 ");
+}
+
+TEST_F(Extracts, The712FormLoadedWhilePrcsAreTheSubjectWearsTheirLabels) {
+    relate({1, 1});
+    relate({2}, true);
+    proposal.forms.unload("frmMain712");
+    proposal.is712Current = false;
+    auto& form = proposal.forms.get<frmMain712>();
+    EXPECT_EQ(form.fraExt.caption(), "PRC Details");
+    EXPECT_EQ(form.lblNoOfExt.caption(), "No of PRC");
+    EXPECT_EQ(form.txtNoOfExtranct.text(), "2");
+    EXPECT_EQ(items(form.cmbExtract), (Texts{" Plot A ---  PRC 1 ", " Plot A ---  PRC 2 "}));
+    EXPECT_EQ(form.dgdInfoOfExtract.table(), tables.rsExtract712.get());
+}
+
+TEST_F(Extracts, WithoutA712PlotThe712ListStaysEmptyButThePrcOneIsFilled) {
+    relate({2}, true);
+    proposal.noOfExtract712 = 2;
+    proposal.is712Current = true;
+    EXPECT_EQ(proposal.forms.get<frmMain712>().cmbExtract.listCount(), 0);
+    EXPECT_EQ(tables.rsExtract712->rowCount(), 0);
+    EXPECT_EQ(openPrc().cmbExtract.listCount(), 2);
+}
+
+TEST_F(Extracts, AnEmptyTableIsBuiltForTheCount) {
+    relate({2});
+    tables.create(extractTables);
+    auto& form = open712();
+    EXPECT_EQ(rowTexts(*tables.rsExtract712),
+              (Texts{"1|null|null|15/03/2024|0|0|0|0", "2|null|null|15/03/2024|0|0|0|0"}));
+    EXPECT_EQ(form.dgdInfoOfExtract.rowCount(), 1);
+}
+
+TEST_F(Extracts, A712TableWhoseRowsAreAllHiddenIsBuiltAfreshAndTakesThePrcsWithIt) {
+    relate({2});
+    relate({1}, true);
+    tables.rsExtract712->setFilter("ExtNo = 9");
+    open712();
+    EXPECT_EQ(rowTexts(*tables.rsExtract712),
+              (Texts{"1|null|null|15/03/2024|0|0|0|0", "2|null|null|15/03/2024|0|0|0|0"}));
+    EXPECT_EQ(tables.rsExtractPRC->rowCount(), 0);
+}
+
+TEST_F(Extracts, APrcTableWhoseRowsAreAllHiddenGetsNewOnesBesideThem) {
+    relate({1}, true);
+    tables.rsExtractPRC->setFilter("ExtNo = 9");
+    openPrc();
+    EXPECT_EQ(rowTexts(*tables.rsExtractPRC),
+              (Texts{"1|null|null|15/03/2024|null|null|null|null", "1|null|null|15/03/2024|0|0|0|0"}));
+}
+
+TEST_F(Extracts, ATableWithFewerRowsThanTheCountGetsTheRest) {
+    relate({3});
+    tables.create(extractTables);
+    tables.rsExtract712->addNew();
+    tables.rsExtract712->set("ExtNo", 1);
+    tables.rsExtract712->update();
+    tables.rsExtract712->setFilter("ExtNo = 9");
+    open712();
+    EXPECT_EQ(tables.rsExtract712->rowCount(), 3);
+    EXPECT_EQ(rowTexts(*tables.rsExtract712)[1], "2|null|null|15/03/2024|0|0|0|0");
+}
+
+TEST_F(Extracts, AChosenExtractShowsItsRowsAlone) {
+    relate({2});
+    auto& form = open712();
+    user::pick(form.cmbExtract, 1);
+    EXPECT_EQ(form.lblInfoExtract.caption(), " Information For Extract No :- 2");
+    EXPECT_EQ(form.dgdInfoOfExtract.rowCount(), 1);
+    EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, 0), "2");
+    EXPECT_EQ(tables.rsOwner712->filter(), "ExtNo = 2");
+    EXPECT_TRUE(form.DTPicker1.visible());
+    EXPECT_TRUE(form.DTPicker1.focused());
+    EXPECT_EQ(form.dgdInfoOfExtract.floating(form.DTPicker1).column, 3);
+}
+
+TEST_F(Extracts, ANumberOfOwnersReplacesTheOwnersOfThatExtract) {
+    relate({2});
+    auto& form = open712();
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "2");
+    const std::string untouched = " -- Select -- |  ----------- Select----------  |  ------ Select------  ";
+    // The empty owner that the relation's save left for the second extract stands first.
+    EXPECT_EQ(rowTexts(*tables.rsOwner712),
+              (Texts{"2|null|null|null|null|null", "1|1|null|" + untouched, "1|2|null|" + untouched}));
+    user::editCell(form.dgdOwner, 0, 2, "Sham");
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "1");
+    EXPECT_EQ(rowTexts(*tables.rsOwner712), (Texts{"2|null|null|null|null|null", "1|1|null|" + untouched}));
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "0");
+    EXPECT_EQ(rowTexts(*tables.rsOwner712), Texts{"2|null|null|null|null|null"});
+    EXPECT_EQ(form.dgdOwner.rowCount(), 0);
+}
+
+TEST_F(Extracts, ANumberOfHoldersReplacesTheHoldersOfThatExtract) {
+    relate({1});
+    auto& form = open712();
+    user::editCell(form.dgdInfoOfExtract, 0, 7, "2");
+    EXPECT_EQ(rowTexts(*tables.rsPAH712), (Texts{"1|1|null|False", "1|2|null|False"}));
+    EXPECT_EQ(form.dgdPAH.rowCount(), 2);
+}
+
+TEST_F(Extracts, ANumberOfOwnersBeyondSixteenBitsIsAnErrorAndTakesNothingAway) {
+    relate({1});
+    auto& form = open712();
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "1");
+    user::editCell(form.dgdOwner, 0, 2, "Sham");
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "40000");
+    EXPECT_EQ(ports.dialogs.take(), (std::vector<Message>{{"", "Overflow", Icon::Critical}}));
+    EXPECT_EQ(form.dgdOwner.cellText(0, 2), "Sham");
+}
+
+TEST_F(Extracts, TwoThousandOwnersStandInOneExtract) {
+    relate({1});
+    auto& form = open712();
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "2000");
+    EXPECT_EQ(form.dgdOwner.rowCount(), 2000);
+    user::editCell(form.dgdOwner, 1999, 2, "Last");
+    EXPECT_EQ(form.dgdOwner.cellText(1999, 2), "Last");
+    user::click(form.cmdSave);
+    EXPECT_NE(proposal.extractOwnerXML.find("<NoOfOwner>2000</NoOfOwner>"), std::string::npos);
+    EXPECT_NE(proposal.extractOwnerXML.find("<OWNER2000>Last##0</OWNER2000>"), std::string::npos);
+}
+
+TEST_F(Extracts, ThePickerWritesItsDateStraightIntoTheExtract) {
+    relate({1});
+    auto& form = open712();
+    EXPECT_TRUE(user::pressCellButton(form.dgdInfoOfExtract, 0, 3));
+    EXPECT_TRUE(form.DTPicker1.visible());
+    EXPECT_EQ(form.DTPicker1.date(), Date(2024, 3, 15));
+    user::pickDate(form.DTPicker1, Date(2001, 2, 3));
+    EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, 3), "03/02/2001");
+}
+
+TEST_F(Extracts, TypingIntoTheDateCellBringsUpThePicker) {
+    relate({1});
+    auto& form = open712();
+    user::goToCell(form.dgdInfoOfExtract, 0, 3);
+    user::press(form.dgdInfoOfExtract, "1");
+    EXPECT_TRUE(form.DTPicker1.focused());
+    EXPECT_FALSE(form.dgdInfoOfExtract.editing());
+}
+
+TEST_F(Extracts, ADateTypedAsAWholeIsTakenAndShownInThePicker) {
+    relate({1});
+    auto& form = open712();
+    user::editCell(form.dgdInfoOfExtract, 0, 3, "09/08/2007");
+    EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, 3), "09/08/2007");
+    EXPECT_EQ(form.DTPicker1.date(), Date(2007, 8, 9));
+}
+
+struct Owners : Extracts {
+    frmMain712& form = (relate({1}), open712());
+    Owners() { user::editCell(form.dgdInfoOfExtract, 0, 5, "3"); }
+    std::string cell(int row, int column) { return form.dgdOwner.cellText(row, column); }
+};
+
+TEST_F(Owners, AClickPlacesTheListAndLeavingItWritesTheChoice) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    EXPECT_TRUE(form.cmbOwnSingingStatus.visible());
+    EXPECT_TRUE(form.cmbOwnSingingStatus.focused());
+    EXPECT_EQ(form.dgdOwner.floating(form.cmbOwnSingingStatus).column, 3);
+    user::pick(form.cmbOwnSingingStatus, 1);
+    EXPECT_EQ(cell(0, 3), " -- Select -- ");
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_EQ(cell(0, 3), "Signed");
+    user::pressCellButton(form.dgdOwner, 1, 4);
+    EXPECT_TRUE(form.cmbEncumber.focused());
+    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
+    EXPECT_EQ(form.cmbEncumber.listIndex(), 0);  // blanks around the text do not count
+    user::pick(form.cmbEncumber, 5);
+    user::focus(form.txtRemark);
+    EXPECT_EQ(cell(1, 4), "For Govt. matter");
+}
+
+TEST_F(Owners, AListLeftWithoutAChoiceWritesNothing) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_EQ(cell(0, 3), " -- Select -- ");
+}
+
+TEST_F(Owners, AChoiceLeftOverFromAnotherRowIsWritten) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    user::pick(form.cmbOwnSingingStatus, 1);
+    user::clickCell(form.dgdOwner, 1, 3);
+    EXPECT_EQ(cell(0, 3), "Signed");
+    EXPECT_EQ(form.cmbOwnSingingStatus.listIndex(), 1);
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_EQ(cell(1, 3), "Signed");
+}
+
+TEST_F(Owners, AMoveOfTheCellPlacesTheListButDoesNotOpenIt) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    user::pick(form.cmbOwnSingingStatus, 1);
+    user::goToCell(form.dgdOwner, 1, 3);
+    EXPECT_TRUE(form.cmbOwnSingingStatus.visible());
+    EXPECT_TRUE(form.dgdOwner.focused());
+    EXPECT_EQ(form.dgdOwner.floating(form.cmbOwnSingingStatus).row, 1);
+    user::focus(form.cmbOwnSingingStatus);
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_EQ(cell(1, 3), " -- Select -- ");
+    user::goToCell(form.dgdOwner, 1, 4);
+    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
+    EXPECT_TRUE(form.cmbEncumber.visible());
+}
+
+TEST_F(Owners, AChoiceThatTheUserMakesInAPlacedListIsWritten) {
+    user::goToCell(form.dgdOwner, 1, 3);
+    user::pick(form.cmbOwnSingingStatus, 2);
+    user::press(form.cmbOwnSingingStatus, "Tab");
+    EXPECT_EQ(cell(1, 3), "PAH Given");
+    EXPECT_TRUE(form.dgdOwner.focused());
+    EXPECT_EQ(form.dgdOwner.currentColumn(), 4);
+}
+
+TEST_F(Owners, EncumbrancesAreFoundInAnyCase) {
+    user::editCell(form.dgdOwner, 0, 4, " WATAN ");
+    user::clickCell(form.dgdOwner, 0, 4);
+    EXPECT_EQ(form.cmbEncumber.listIndex(), 8);
+    user::editCell(form.dgdOwner, 0, 3, "signed");
+    user::clickCell(form.dgdOwner, 0, 3);
+    EXPECT_EQ(form.cmbOwnSingingStatus.listIndex(), -1);
+}
+
+TEST_F(Owners, NoListIsPlacedWhileABlockIsBuilt) {
+    proposal.isSavingLandRecord = true;
+    user::goToCell(form.dgdOwner, 1, 3);
+    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
+}
+
+TEST_F(Owners, TheOwnerTypeIsOutOfReach) {
+    EXPECT_FALSE(user::clickCell(form.dgdOwner, 0, 5));
+    EXPECT_FALSE(user::editCell(form.dgdOwner, 0, 5, "H - Holder"));
+}
+
+TEST_F(Extracts, TheOwnerTypeOfAPrcIsChosenFromItsList) {
+    relate({1}, true);
+    auto& form = openPrc();
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "2");
+    user::goToCell(form.dgdOwner, 0, 5);
+    EXPECT_TRUE(form.cmbOwnType.visible());
+    user::clickCell(form.dgdOwner, 0, 5);
+    EXPECT_EQ(form.cmbOwnType.listIndex(), 0);
+    user::pick(form.cmbOwnType, 2);
+    user::leave(form.cmbOwnType);
+    EXPECT_EQ(form.dgdOwner.cellText(0, 5), "L - Lease");
+}
+
+TEST_F(Extracts, TheOwnerTypeIsWrittenWithoutALookWhetherThereIsARow) {
+    relate({1}, true);
+    auto& form = openPrc();
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "1");
+    user::clickCell(form.dgdOwner, 0, 5);
+    user::pick(form.cmbOwnType, 2);
+    form.addOwner(0);
+    user::leave(form.cmbOwnType);
+    EXPECT_EQ(ports.dialogs.take().size(), 1U);
+}
+
+TEST_F(Extracts, TheButtonTogglesAHoldersSign) {
+    relate({1});
+    auto& form = open712();
+    EXPECT_EQ(form.dgdPAH.cellText(0, 3), "");  // the empty holder that the relation's save left
+    user::pressCellButton(form.dgdPAH, 0, 3);
+    EXPECT_EQ(form.dgdPAH.cellText(0, 3), "Yes");
+    user::pressCellButton(form.dgdPAH, 0, 3);
+    EXPECT_EQ(form.dgdPAH.cellText(0, 3), "No");
+    EXPECT_FALSE(user::editCell(form.dgdPAH, 0, 3, "Yes"));
+}
+
+TEST_F(Extracts, EnterActsAsTabOn712FormsAndInThePrcFormsGridsAlone) {
+    relate({1});
+    relate({1}, true);
+    auto& land = open712();
+    user::press(land.cmbExtract, "Enter");
+    EXPECT_TRUE(land.dgdInfoOfExtract.focused());
+    auto& cards = openPrc();
+    user::press(cards.cmbExtract, "Enter");
+    EXPECT_TRUE(cards.cmbExtract.focused());
+    user::goToCell(cards.dgdInfoOfExtract, 0, 1);
+    user::press(cards.dgdInfoOfExtract, "Enter");
+    EXPECT_EQ(cards.dgdInfoOfExtract.currentColumn(), 2);
+}
+
+TEST_F(Extracts, The712FormDropsSpecialKeysAndThePrcFormDoesNot) {
+    relate({1});
+    relate({1}, true);
+    auto& land = open712();
+    user::type(land.txtRemark, "a#b");
+    EXPECT_EQ(land.txtRemark.text(), "ab");
+    auto& cards = openPrc();
+    user::type(cards.txtRemark, "a#b");
+    EXPECT_EQ(cards.txtRemark.text(), "a#b");
+}
+
+TEST_F(Extracts, SaveWithAnEmptyCountChangesNothingAndLeavesTheFormOpen) {
+    proposal.is712Current = true;
+    auto& form = proposal.forms.get<frmMain712>();
+    form.show();
+    form.txtNoOfExtranct.setText("");
+    user::click(form.cmdSave);
+    EXPECT_TRUE(form.visible());
+    EXPECT_EQ(tables.rsOwnership712, nullptr);
+}
+
+TEST_F(Extracts, SaveUnbindsTheOwnersUntilAnExtractIsChosenAgain) {
+    relate({2});
+    auto& form = open712();
+    user::click(form.cmdSave);
+    EXPECT_FALSE(form.visible());
+    EXPECT_EQ(form.dgdOwner.table(), nullptr);
+    EXPECT_EQ(tables.rsOwnership712, tables.rsOwnership);
+    EXPECT_NE(proposal.extractOwnerXML, "");
+    user::pick(form.cmbExtract, 1);
+    EXPECT_NE(form.dgdOwner.table(), nullptr);
+}
+
+TEST_F(Extracts, ThePrcFormSavesWithoutACountAndKeepsItsOwnersBound) {
+    proposal.is712Current = true;
+    auto& form = proposal.forms.get<frmPRCEXT>();
+    form.show();
+    user::click(form.cmdSave);
+    EXPECT_FALSE(proposal.is712Current);
+    EXPECT_FALSE(form.visible());
+    EXPECT_EQ(tables.rsOwnership712, tables.rsOwnership);
+    relate({1}, true);
+    auto& filled = openPrc();
+    filled.txtNoOfExtranct_LostFocus();
+    user::click(filled.cmdSave);
+    EXPECT_NE(proposal.prcOwnerXML, "");
+}
+
+TEST_F(Extracts, ResetOfThe712FormDropsItsTablesWhichComeBackEmpty) {
+    relate({2});
+    auto& form = open712();
+    form.txtRemark.setText("remark");
+    user::click(form.cmdReferesh);
+    EXPECT_EQ(tables.rsExtract712, nullptr);
+    EXPECT_EQ(tables.rsOwner712, nullptr);
+    EXPECT_EQ(tables.rsPAH712, nullptr);
+    EXPECT_TRUE(form.txtNoOfExtranct.enabled());
+    EXPECT_FALSE(form.cmbExtract.enabled());
+    EXPECT_FALSE(form.dgdOwner.visible());
+    EXPECT_EQ(form.txtRemark.text(), "");
+    EXPECT_EQ(form.txtNoOfExtranct.text(), "");
+    EXPECT_EQ(form.cmbExtract.listCount(), 0);
+    EXPECT_TRUE(user::type(form.txtNoOfExtranct, "2x"));
+    user::leave(form.txtNoOfExtranct);
+    EXPECT_EQ(tables.rsExtract712->rowCount(), 2);
+    EXPECT_EQ(form.dgdOwner.rowCount(), 0);
+    EXPECT_FALSE(form.txtNoOfExtranct.enabled());
+    EXPECT_TRUE(form.dgdOwner.visible());
+}
+
+TEST_F(Extracts, ResetOfThePrcFormKeepsThePrcs) {
+    relate({2}, true);
+    auto& form = openPrc();
+    user::click(form.cmdReferesh);
+    EXPECT_EQ(tables.rsExtractPRC->rowCount(), 2);
+    EXPECT_EQ(tables.rsOwnerPRC, nullptr);
+    EXPECT_EQ(tables.rsPAHPRC, nullptr);
+    form.txtNoOfExtranct.setText("2");
+    form.txtNoOfExtranct_LostFocus();
+    EXPECT_EQ(tables.rsExtractPRC->rowCount(), 2);
+    EXPECT_EQ(form.dgdOwner.rowCount(), 0);
+    EXPECT_NE(tables.rsOwnerPRC, nullptr);
+}
+
+TEST_F(Extracts, Command1FillsTheListWithoutBuildingRows) {
+    relate({2});
+    auto& form = open712();
+    tables.create(extractTables);
+    form.txtNoOfExtranct.setText("");
+    user::click(form.Command1);
+    EXPECT_EQ(form.cmbExtract.listCount(), 2);
+    EXPECT_EQ(tables.rsExtract712->rowCount(), 0);
+    form.cmbExtract.clear();
+    form.txtNoOfExtranct_LostFocus();  // the fill that follows is an ordinary one again
+    EXPECT_EQ(form.cmbExtract.listCount(), 0);
+}
+
+TEST_F(Extracts, Command1OfThePrcFormReadsAgainAndTakesThe712Remark) {
+    relate({2}, true);
+    auto& form = openPrc();
+    std::vector<std::string> read;
+    proposal.procedures["readExtractsPRC"] = [&] { read.push_back("PRC"); };
+    proposal.procedures["readExtracts712"] = [&] { read.push_back("712"); };
+    proposal.remark712 = "of 7/12";
+    proposal.remarkPRC = "of PRC";
+    tables.rsExtractPRC->setFilter("");
+    user::click(form.Command1);
+    EXPECT_EQ(form.txtNoOfExtranct.text(), "2");
+    EXPECT_EQ(form.txtRemark.text(), "of 7/12");
+    proposal.is712Current = true;
+    user::click(form.Command1);
+    EXPECT_EQ(read, (Texts{"PRC", "712"}));
+}
+
+TEST_F(Extracts, TheRemarksStartFromThoseLastRead) {
+    proposal.remark712 = "of 7/12";
+    proposal.remarkPRC = "of PRC";
+    EXPECT_EQ(proposal.forms.get<frmMain712>().txtRemark.text(), "of 7/12");
+    EXPECT_EQ(proposal.forms.get<frmPRCEXT>().txtRemark.text(), "of PRC");
+}
+
+TEST_F(Extracts, CloseHidesTheForm) {
+    relate({1});
+    auto& form = open712();
+    user::click(form.cmdClose);
+    EXPECT_FALSE(form.visible());
+}
+
+// What the ownership rows make of it
+
+TEST_F(Extracts, OwnershipTakesNamesAndAreasAndNumbersPrcsBehind) {
+    relate({2});
+    relate({1}, true);
+    auto& land = open712();
+    user::editCell(land.dgdInfoOfExtract, 0, 5, "2");
+    user::editCell(land.dgdInfoOfExtract, 0, 6, "12.5");
+    user::editCell(land.dgdOwner, 0, 2, " Sham ");
+    user::editCell(land.dgdOwner, 1, 2, "Ram");
+    auto& cards = openPrc();
+    user::editCell(cards.dgdInfoOfExtract, 0, 5, "1");
+    user::editCell(cards.dgdOwner, 0, 2, "Sita");
+    tables.rsOwnership->setFilter("ExtNo = 2");
+    tables.rsOwnership->set("DocStatus", "Yes");
+    EXPECT_FALSE(proposal.ownershipRelationSaved);
+    user::click(land.cmdSave);
+    EXPECT_EQ(rowTexts(*tables.rsOwnership), (Texts{"1|Sham,Ram|12.5|0", "2||0|Yes", "3|Sita|0|0"}));
+    EXPECT_TRUE(proposal.ownershipRelationSaved);
+}
+
+TEST_F(Extracts, OwnershipRowsThatAreMissingAreAdded) {
+    relate({1});
+    tables.create(&Tables::rsOwnership);
+    user::click(open712().cmdSave);
+    EXPECT_EQ(rowTexts(*tables.rsOwnership), Texts{"1||0|0"});
+    EXPECT_FALSE(proposal.ownershipRelationSaved);  // there is no PRC
+}
+
+TEST_F(Extracts, WithoutA712ExtractPrcsAreNotTakenIntoTheOwnership) {
+    relate({2}, true);
+    tables.create(&Tables::rsOwnership);
+    user::click(openPrc().cmdSave);
+    EXPECT_EQ(tables.rsOwnership->rowCount(), 0);
+    EXPECT_FALSE(proposal.ownershipRelationSaved);
+}
+
+}  // namespace
+}  // namespace plandesk::test
