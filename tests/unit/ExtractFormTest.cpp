@@ -252,8 +252,8 @@ TEST_F(Extracts, ThePickerWritesItsDateStraightIntoTheExtract) {
     auto& form = open712();
     EXPECT_TRUE(user::pressCellButton(form.dgdInfoOfExtract, 0, 3));
     EXPECT_TRUE(form.DTPicker1.visible());
-    EXPECT_EQ(form.DTPicker1.date(), Date(2024, 3, 15));
-    user::pickDate(form.DTPicker1, Date(2001, 2, 3));
+    EXPECT_EQ(form.DTPicker1.date(), (Date{2024, 3, 15}));
+    user::pickDate(form.DTPicker1, Date{2001, 2, 3});
     EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, 3), "03/02/2001");
 }
 
@@ -271,7 +271,7 @@ TEST_F(Extracts, ADateTypedAsAWholeIsTakenAndShownInThePicker) {
     auto& form = open712();
     user::editCell(form.dgdInfoOfExtract, 0, 3, "09/08/2007");
     EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, 3), "09/08/2007");
-    EXPECT_EQ(form.DTPicker1.date(), Date(2007, 8, 9));
+    EXPECT_EQ(form.DTPicker1.date(), (Date{2007, 8, 9}));
 }
 
 struct Owners : Extracts {

@@ -40,7 +40,7 @@ TEST_F(Blocks, WithoutRowsTheTextOfAnEarlierBuildStays) {
 }
 
 TEST_F(Blocks, A712ExtractIsWrittenWithItsOwnersAndHolders) {
-    add(*tables.rsExtract712, {1, text(" 12 & 3 "), text("<4>"), Date(2001, 2, 3), text("a>b"), 2, 120.25, 1});
+    add(*tables.rsExtract712, {1, text(" 12 & 3 "), text("<4>"), Date{2001, 2, 3}, text("a>b"), 2, 120.25, 1});
     add(*tables.rsOwner712,
         {1, 1, text(" Sham & Co "), text("Signed"), text("Bank Loan"), text("  ------ Select------  ")});
     add(*tables.rsOwner712,
@@ -59,7 +59,7 @@ TEST_F(Blocks, A712ExtractIsWrittenWithItsOwnersAndHolders) {
 }
 
 TEST_F(Blocks, APrcIsWrittenWithoutItsFerfarNumberAndUnescaped) {
-    add(*tables.rsExtractPRC, {1, text(" 12 & 3 "), null, Date(2001, 2, 3), text("0"), 1, 50.0, 1});
+    add(*tables.rsExtractPRC, {1, text(" 12 & 3 "), null, Date{2001, 2, 3}, text("0"), 1, 50.0, 1});
     add(*tables.rsOwnerPRC, {1, 1, text("Sham & Co"), text("PAH Given"), text("EASEMENT"), text(" H & H ")});
     add(*tables.rsOwnerPRC, {1, 2, text("Ram"), null, null, null});
     add(*tables.rsPAHPRC, {1, 1, null, null});

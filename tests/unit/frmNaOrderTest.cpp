@@ -24,7 +24,7 @@ struct NaOrder : testing::Test, LandRecordsWorld {
 
 TEST_F(NaOrder, ItStartsWithTodayAndTheListOfUses) {
     EXPECT_EQ(form.caption(), "N.A. Order Details");
-    EXPECT_EQ(form.DTPicker1.date(), Date(2024, 3, 15));
+    EXPECT_EQ(form.DTPicker1.date(), (Date{2024, 3, 15}));
     ASSERT_EQ(form.cmbAreaForNA.listCount(), 5);
     EXPECT_EQ(form.cmbAreaForNA.item(0), "--- Select ---");
     EXPECT_EQ(form.cmbAreaForNA.item(4), "Mixed");
@@ -79,7 +79,7 @@ TEST_F(NaOrder, EnterHasNoSpecialMeaning) {
 
 TEST_F(NaOrder, SaveWritesTheBlockUnescapedAndHidesTheForm) {
     form.txtNaOrderNo.setText(" NA & 1 ");
-    form.DTPicker1.setDate(Date(2020, 1, 9));
+    form.DTPicker1.setDate(Date{2020, 1, 9});
     form.txtLandArea.setText(" 100 ");
     form.cmbAreaForNA.setListIndex(4);
     form.txtArea1.setText(" 60 ");
