@@ -115,6 +115,16 @@ std::optional<double> valueOf(std::string_view plain) {
     return isTooLarge(plain) ? std::nullopt : std::optional(0.0);
 }
 
+/// Value of a text of digits with a point at most, as nearly every number is; nothing for any other text.
+std::optional<double> digitsValue(std::string_view text) {
+    if (text.find_first_not_of("0123456789.") != std::string_view::npos)
+        return std::nullopt;
+    double value = 0;
+    const char* const textEnd = text.data() + text.size();
+    const auto [end, error] = std::from_chars(text.data(), textEnd, value);
+    return error == std::errc() && end == textEnd ? std::optional(value) : std::nullopt;
+}
+
 /// The plain form of the number that the whole text is; nothing when it is none.
 std::optional<std::string> wholeNumber(std::string_view text) {
     NumberReader reader(trim(text), Reading::Whole);
@@ -201,6 +211,8 @@ std::string exponentText(const Decimal& number) {
 }  // namespace
 
 double leadingNumber(std::string_view text) {
+    if (const std::optional<double> value = digitsValue(text))
+        return *value;
     NumberReader reader(text, Reading::Leading);
     if (!reader.read())
         return 0;
@@ -213,6 +225,8 @@ bool isNumeric(std::string_view text) {
 }
 
 double toDouble(std::string_view text) {
+    if (const std::optional<double> value = digitsValue(text))
+        return *value;
     const std::optional<std::string> plain = wholeNumber(text);
     if (!plain)
         throw RuntimeError(ErrorNumber::TypeMismatch);
@@ -260,6 +274,8 @@ std::string formatAmount(double value) {
 }
 
 std::string formatAmount(std::string_view text) {
+    if (const std::optional<double> value = digitsValue(text))
+        return formatAmount(*value);
     const std::optional<std::string> plain = wholeNumber(text);
     const std::optional<double> value = plain ? valueOf(*plain) : std::nullopt;
     return value ? formatAmount(*value) : std::string(text);

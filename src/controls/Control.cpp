@@ -18,7 +18,7 @@ std::string_view kindName(ControlKind kind) {
 Control::Control(Form& form, ControlKind kind, std::string_view name, int index)
     : owner(form), controlName(name), controlKind(kind), arrayIndex(index) {
     form.all.push_back(this);
-    form.byName.emplace(controlName, this);
+    form.byKey.emplace(ControlKey{controlName, index}, this);
 }
 
 std::string Control::key() const {

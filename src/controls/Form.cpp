@@ -14,6 +14,17 @@ bool IgnoringCase::operator()(std::string_view a, std::string_view b) const {
     return std::ranges::lexicographical_compare(a, b, {}, lower, lower);
 }
 
+bool ControlKey::operator==(const ControlKey& other) const {
+    return index == other.index && (name == other.name || equalsIgnoringCase(name, other.name));
+}
+
+std::size_t ControlKey::Hash::operator()(const ControlKey& key) const {
+    auto hash = static_cast<std::size_t>(key.index);
+    for (const char character : key.name)
+        hash = hash * 31 + (static_cast<unsigned char>(character) | 0x20U);  // the same for both cases of a letter
+    return hash;
+}
+
 Form::Form(Screen& screen, std::string_view name, std::string_view caption)
     : desk(screen), formName(name), title(caption) {
     desk.stack.insert(desk.stack.begin(), this);
@@ -65,9 +76,8 @@ bool Form::front() const {
 }
 
 Control* Form::find(std::string_view controlName, int index) const {
-    const auto [first, last] = byName.equal_range(controlName);
-    const auto found = std::find_if(first, last, [index](const auto& entry) { return entry.second->index() == index; });
-    return found == last ? nullptr : found->second;
+    const auto found = byKey.find({controlName, index});
+    return found == byKey.end() ? nullptr : found->second;
 }
 
 Control* Form::findKey(std::string_view key) const {

@@ -2,8 +2,10 @@
 
 #include <functional>
 #include <map>
+#include <memory_resource>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "controls/Control.h"
@@ -17,6 +19,17 @@ class Screen;
 struct IgnoringCase {
     using is_transparent = void;
     bool operator()(std::string_view a, std::string_view b) const;
+};
+
+/// What tells the controls of a form apart: the name, in any case, and the place in a control array.
+struct ControlKey {
+    std::string_view name;
+    int index;
+
+    bool operator==(const ControlKey& other) const;
+    struct Hash {
+        std::size_t operator()(const ControlKey& key) const;
+    };
 };
 
 /// A form of the system: named controls with their reactions. It needs no window; a view only draws it.
@@ -93,7 +106,8 @@ private:
     Colour back = white;
     bool shown = false;
     std::vector<Control*> all;
-    std::multimap<std::string, Control*, IgnoringCase> byName;
+    std::pmr::monotonic_buffer_resource keyMemory;  // a form makes its controls together and ends with them
+    std::pmr::unordered_map<ControlKey, Control*, ControlKey::Hash> byKey{&keyMemory};
     std::map<std::string, std::function<void()>, IgnoringCase> procedures;
     Control* active = nullptr;
 };

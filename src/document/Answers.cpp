@@ -10,10 +10,10 @@ namespace plandesk {
 
 YesNoOptions findQuestion(const Form& form, std::string_view name) {
     const auto option = [](Control* control) { return dynamic_cast<OptionButton*>(control); };
-    if (YesNoOptions array{option(form.find(name, 1)), option(form.find(name, 0))}; array.yes && array.no)
-        return array;
     const std::string base(name);
-    return {option(form.find(base + "Y")), option(form.find(base + "N"))};
+    if (YesNoOptions pair{option(form.find(base + "Y")), option(form.find(base + "N"))}; pair.yes && pair.no)
+        return pair;
+    return {option(form.find(name, 1)), option(form.find(name, 0))};
 }
 
 std::string answer(const Form& form, std::string_view name) {

@@ -23,13 +23,12 @@ namespace {
 constexpr std::size_t checklistGroup = 5;
 constexpr std::size_t feesGroup = 6;
 
-/// A group of the flattened text; empty when there is none, so that each of its fields is out of range.
-std::string_view groupOf(std::string_view groups, std::size_t number) {
-    try {
-        return piece(groups, "||", number);
-    } catch (const RuntimeError&) {
-        return {};
-    }
+constexpr std::size_t readGroups = 7;  // what lies behind is read by name or by other procedures
+constexpr std::size_t mostFields = 35;
+
+/// The fields of a group; none when there is no such group.
+Pieces fieldsOf(const Pieces& groups, std::size_t number) {
+    return number < groups.size() ? firstPieces(groups[number], "@", mostFields) : Pieces();
 }
 
 void appendDoubled(std::string& groups, std::string_view text) {
@@ -57,12 +56,12 @@ void assign(Form& form, std::string_view name, std::string_view text) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
 }
 
-std::string_view part(std::string_view fields, int field, int number) {
-    const std::string_view value = piece(fields, "@", static_cast<std::size_t>(field));
+std::string_view part(const Pieces& fields, int field, int number) {
+    const std::string_view value = at(fields, static_cast<std::size_t>(field));
     return number == FieldRow::whole ? value : piece(value, "#", static_cast<std::size_t>(number));
 }
 
-void readRow(const FieldRow& row, Form& form, std::string_view fields) {
+void readRow(const FieldRow& row, Form& form, const Pieces& fields) {
     if (row.onlyIf.field >= 0 && toDouble(part(fields, row.onlyIf.field, row.onlyIf.part)) != 1)
         return;
     const std::string_view value = part(fields, row.field, row.part);
@@ -76,13 +75,6 @@ void readRow(const FieldRow& row, Form& form, std::string_view fields) {
     case Decode::Special:
         return row.special(form, value);
     }
-}
-
-/// Whether the text box of that name is the one that an element of ANNEXUREB fills.
-bool takesElement(std::string_view box, std::string_view element) {
-    constexpr std::string_view prefix = "txt";
-    return box.size() == prefix.size() + element.size() && equalsIgnoringCase(box.substr(0, prefix.size()), prefix) &&
-           equalsIgnoringCase(box.substr(prefix.size()), element);
 }
 
 }  // namespace
@@ -100,26 +92,32 @@ void ReadXML::LoadDocument(const std::string& path) {
     proposalDom.load(path);  // nobody looks at the result: a document without a root tells its own tale below
 }
 
-void ReadXML::statement(const std::function<void()>& body) {
+template <class Body>
+void ReadXML::statement(const Body& body) {
     try {
         body();
     } catch (const RuntimeError& error) {
-        proposal.screen.message(std::to_string(error.number) + " : " + error.description,
-                                "Particular of Development (Read XML) ", Icon::Critical);
+        tell(error);
     }
 }
 
+void ReadXML::tell(const RuntimeError& error) {
+    proposal.screen.message(std::to_string(error.number) + " : " + error.description,
+                            "Particular of Development (Read XML) ", Icon::Critical);
+}
+
 void ReadXML::readSections() {
-    const std::string groups = flatten();
+    const std::string flattened = flatten();
+    const Pieces groups = firstPieces(flattened, "||", readGroups);
     for (std::size_t number = 0; number < sectionTables().size(); ++number) {
         const SectionTable& table = sectionTables()[number];
         Form& form = *proposal.forms.touch(table.form);
-        const std::string_view fields = groupOf(groups, number);
+        const Pieces fields = fieldsOf(groups, number);
         for (const FieldRow& row : table.rows)
             statement([&] { readRow(row, form, fields); });
     }
     readChecklists(groups);
-    readFees(groupOf(groups, feesGroup));
+    readFees(fieldsOf(groups, feesGroup));
     readAnnexureB();
 }
 
@@ -143,10 +141,10 @@ std::string ReadXML::flatten() const {
     return groups;
 }
 
-void ReadXML::readChecklists(std::string_view groups) {
+void ReadXML::readChecklists(const Pieces& groups) {
     std::string_view entries;
     statement([&] {
-        entries = piece(groups, "||", checklistGroup);
+        entries = at(groups, checklistGroup);
         if (entries.empty())
             throw RuntimeError(ErrorNumber::InvalidProcedureCall);
         entries.remove_suffix(1);
@@ -185,7 +183,7 @@ void ReadXML::readChecklist(std::string_view form, int first, int last, std::str
     }
 }
 
-void ReadXML::readFees(std::string_view fields) {
+void ReadXML::readFees(const Pieces& fields) {
     const FeeTables& tables = feeTables();
     auto& form = proposal.forms.get<frmPayDetail>();
     const auto read = [&](std::span<const FieldRow> rows) {
@@ -203,34 +201,50 @@ void ReadXML::readFees(std::string_view fields) {
     read(tables.secondScrutiny);
 }
 
+std::vector<ReadXML::Named> ReadXML::namedControls() {
+    constexpr std::string_view prefix = "txt";
+    std::vector<Named> named;
+    const std::array<const Form*, 2> forms = {&proposal.forms.get<frmAnnexureA>(),
+                                              &proposal.forms.get<AnnexureACont>()};
+    for (const Form* form : forms) {
+        for (Control* control : form->controls()) {
+            const std::string_view name = control->name();
+            if (control->kind() == ControlKind::OptionButton)
+                named.push_back({name, control});
+            else if (control->kind() == ControlKind::TextBox &&
+                     equalsIgnoringCase(name.substr(0, prefix.size()), prefix))
+                named.push_back({name.substr(prefix.size()), control});
+        }
+    }
+    return named;
+}
+
 void ReadXML::readAnnexureB() {
-    optionNumber = 0;
     if (proposalDom.root() == XmlDocument::none)
         return;
+    const std::vector<Named> controls = namedControls();
+    optionNumber = 0;
     for (auto child = proposalDom.firstChild(proposalDom.root()); child != XmlDocument::none;
          child = proposalDom.nextSibling(child)) {
         if (!equalsIgnoringCase(proposalDom.name(child), "ANNEXUREB"))
             continue;
         for (auto element = proposalDom.firstChild(child); element != XmlDocument::none;
              element = proposalDom.nextSibling(element))
-            readNamed(element);
+            readNamed(element, controls);
     }
 }
 
-void ReadXML::readNamed(XmlDocument::Node element) {
+void ReadXML::readNamed(XmlDocument::Node element, std::span<const Named> controls) {
     const std::string_view name = proposalDom.name(element);
     const std::string_view text = proposalDom.text(element);
     if (name == "Section9a3536")
         readStreetsAndTrees(text);
-    readNamed(proposal.forms.get<frmAnnexureA>(), name, text);
-    readNamed(proposal.forms.get<AnnexureACont>(), name, text);
-}
-
-void ReadXML::readNamed(Form& form, std::string_view name, std::string_view text) {
-    for (Control* control : form.controls()) {
-        if (control->kind() == ControlKind::TextBox && takesElement(control->name(), name)) {
+    for (const auto& [wanted, control] : controls) {
+        if (wanted.size() != name.size() || !equalsIgnoringCase(wanted, name))
+            continue;
+        if (control->kind() == ControlKind::TextBox) {
             statement([&] { static_cast<TextBox*>(control)->setText(text); });
-        } else if (control->kind() == ControlKind::OptionButton && equalsIgnoringCase(control->name(), name)) {
+        } else {
             // A text that is no number leaves the number of the element before it in force.
             statement([&] { optionNumber = toInteger16(text); });
             statement([&] { setOptionFromText(*static_cast<OptionButton*>(control), optionNumber); });

@@ -1,17 +1,20 @@
 #pragma once
 
 #include <array>
-#include <functional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "document/Pieces.h"
 #include "document/XmlDocument.h"
 
 namespace plandesk {
 
-class Form;
+class Control;
 class OptionButton;
 class Proposal;
+class RuntimeError;
 
 /// Turns a proposal document back into filled forms. Sections are read by position, never by element name, and setting
 /// a control runs its reactions, so the order of the tables decides what survives. Nothing is validated: each statement
@@ -45,14 +48,23 @@ public:
     void readDiscretion();
 
 private:
-    void statement(const std::function<void()>& body);
+    /// A text box or option of the Particulars, by the name of the element of ANNEXUREB that it takes.
+    struct Named {
+        std::string_view element;
+        Control* control;
+    };
+
+    template <class Body>
+    void statement(const Body& body);
+    void tell(const RuntimeError& error);
     std::string flatten() const;
-    void readChecklists(std::string_view groups);
+    /// In the order of the forms and of their controls.
+    std::vector<Named> namedControls();
+    void readChecklists(const Pieces& groups);
     void readChecklist(std::string_view form, int first, int last, std::string_view entries);
-    void readFees(std::string_view fields);
+    void readFees(const Pieces& fields);
     void readAnnexureB();
-    void readNamed(XmlDocument::Node element);
-    void readNamed(Form& form, std::string_view name, std::string_view text);
+    void readNamed(XmlDocument::Node element, std::span<const Named> controls);
     void readStreetsAndTrees(std::string_view text);
     void requireRoot() const;
 

@@ -1,5 +1,6 @@
 #include "document/XmlDocument.h"
 
+#include <algorithm>
 #include <array>
 #include <memory>
 
@@ -193,12 +194,21 @@ bool XmlDocument::load(const std::filesystem::path& path) {
     struct stat status {};
     bool loaded = file.number >= 0 && fstat(file.number, &status) == 0 && S_ISREG(status.st_mode);
     if (loaded) {
+        reserve(static_cast<std::size_t>(status.st_size));
         XmlBuilder builder(*this);
         loaded = parse(file.number, builder);
     }
     if (!loaded)
         *this = {};
     return loaded;
+}
+
+/// Room for what a proposal of that many bytes holds.
+void XmlDocument::reserve(std::size_t bytes) {
+    constexpr std::size_t most = 1024 * 1024;
+    nodes.reserve(std::min(bytes, most) / 16);
+    names.reserve(std::min(bytes, most) / 4);
+    characters.reserve(std::min(bytes, most) / 2);
 }
 
 std::string_view XmlDocument::name(Node node) const {

@@ -18,7 +18,7 @@ public:
     /// Elements nested deeper than this, and a tag or document type of more than this many bytes, are refused like an
     /// ill-formed file: what the parser takes for them grows faster than they do.
     static constexpr std::size_t deepestNesting = 256;
-    static constexpr std::size_t longestTag = 16 * 1024;
+    static constexpr std::size_t longestTag = 8 * 1024;
 
     /// Loads a file. False when it is no regular file, cannot be read, is not well-formed or is refused as told above;
     /// the document is then without a root. No network, no external entities; a reference to an entity that the file
@@ -47,6 +47,8 @@ private:
         Node end;
         Node nextSibling;
     };
+
+    void reserve(std::size_t bytes);
 
     std::vector<Entry> nodes;
     std::string names;

@@ -1,6 +1,7 @@
 #include "particulars/CrossFieldRules.h"
 
-#include "base/Text.h"
+#include <algorithm>
+
 #include "controls/Controls.h"
 #include "controls/Form.h"
 #include "proposal/mdlProject.h"
@@ -35,11 +36,18 @@ void apply(Effect effect, Control& control) {
     }
 }
 
+void apply(const CrossFieldRule& rule, Form& form) {
+    for (std::string_view keys = rule.controls; !keys.empty();) {
+        const std::size_t end = std::min(keys.find(' '), keys.size());
+        apply(rule.effect, *form.findKey(keys.substr(0, end)));
+        keys.remove_prefix(std::min(end + 1, keys.size()));
+    }
+}
+
 void applyRulesOf(std::string_view option, Form& form, std::span<const CrossFieldRule> rules) {
     for (const CrossFieldRule& rule : rules)
         if (rule.option == option)
-            for (const std::string& key : split(rule.controls, " "))
-                apply(rule.effect, *form.findKey(key));
+            apply(rule, form);
 }
 
 }  // namespace

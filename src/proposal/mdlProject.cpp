@@ -14,9 +14,25 @@ namespace plandesk {
 
 namespace {
 
-struct CharacterClass {
+/// The members of a kind, letters in both cases.
+class CharacterClass {
+public:
+    constexpr CharacterClass(std::string_view kind, std::string_view set) : kind(kind) {
+        for (const char character : set) {
+            members.at(static_cast<unsigned char>(character)) = true;
+            if (character >= 'a' && character <= 'z')
+                members.at(static_cast<unsigned char>(character - 'a' + 'A')) = true;
+            if (character >= 'A' && character <= 'Z')
+                members.at(static_cast<unsigned char>(character - 'A' + 'a')) = true;
+        }
+    }
+
+    constexpr bool has(char character) const { return members[static_cast<unsigned char>(character)]; }
+
     std::string_view kind;
-    std::string_view set;
+
+private:
+    std::array<bool, 256> members{};
 };
 
 constexpr std::array<CharacterClass, 14> characterClasses = {{
@@ -58,14 +74,11 @@ bool holds(const TextBox& box, std::string_view kind) {
 }  // namespace
 
 std::int16_t chkString(std::string_view text, std::string_view kind) {
-    const auto entry = std::ranges::find(characterClasses, lowerCase(kind), &CharacterClass::kind);
+    const auto entry = std::ranges::find_if(
+        characterClasses, [kind](const CharacterClass& candidate) { return equalsIgnoringCase(candidate.kind, kind); });
     if (entry == characterClasses.end())
         return 0;
-    std::array<bool, 256> member{};
-    for (const char character : lowerCase(entry->set) + upperCase(entry->set))
-        member.at(static_cast<unsigned char>(character)) = true;
-    const bool found = std::ranges::any_of(text, [&member](unsigned char character) { return member[character]; });
-    return found ? -1 : 0;
+    return std::ranges::any_of(text, [entry](char character) { return entry->has(character); }) ? -1 : 0;
 }
 
 int keyFilterDecimal(int key) {

@@ -13,16 +13,6 @@ constexpr std::string_view sheet = "frmAnnexureA";
 
 using Boxes = std::vector<Message>;
 
-const Message noRoot = {" Particulars of Development (Read XML) ", "91:Object variable or With block variable not set",
-                        Icon::Critical};
-
-/// What a file without a root shows: a box for each statement of the sections, one for each procedure behind them.
-Boxes hopeless() {
-    Boxes boxes(122 + 15 + 35, outOfRange);
-    boxes.insert(boxes.end(), 6, noRoot);
-    return boxes;
-}
-
 bool operator==(const FileDialog& a, const FileDialog& b) {
     return a.title == b.title && a.defaultExtension == b.defaultExtension && a.filter == b.filter &&
            a.fileName == b.fileName;

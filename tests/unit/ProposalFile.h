@@ -246,4 +246,13 @@ inline Message sectionBox(std::string_view numberAndDescription) {
 inline const Message outOfRange = sectionBox("9 : Subscript out of range");
 inline const Message mismatch = sectionBox("13 : Type mismatch");
 
+/// What a file without a root shows: a box for each statement of the sections, one for each procedure behind them.
+inline std::vector<Message> hopeless() {
+    std::vector<Message> boxes(122 + 15 + 35, outOfRange);
+    boxes.insert(boxes.end(), 6,
+                 {" Particulars of Development (Read XML) ", "91:Object variable or With block variable not set",
+                  Icon::Critical});
+    return boxes;
+}
+
 }  // namespace plandesk::test
