@@ -239,9 +239,10 @@ void ReadXML::readNamed(XmlDocument::Node element, std::span<const Named> contro
     const std::string_view text = proposalDom.text(element);
     if (name == "Section9a3536")
         readStreetsAndTrees(text);
-    for (const auto& [wanted, control] : controls) {
-        if (wanted.size() != name.size() || !equalsIgnoringCase(wanted, name))
+    for (const Named& named : controls) {
+        if (named.element.size() != name.size() || !equalsIgnoringCase(named.element, name))
             continue;
+        Control* const control = named.control;
         if (control->kind() == ControlKind::TextBox) {
             statement([&] { static_cast<TextBox*>(control)->setText(text); });
         } else {
