@@ -22,7 +22,7 @@ public:
     explicit mdiInterface(Proposal& proposal);
 
     /// Whether the entry, and the submenu it stands in, can be pressed. False for a name that is no entry.
-    bool available(std::string_view entry) const;
+    bool available(std::string_view name) const;
     /// The user presses the entry: the focused control loses the focus without a leave check, then the command runs as
     /// one event. False for an entry that is not available; nothing happens then.
     bool press(std::string_view entry);

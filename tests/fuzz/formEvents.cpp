@@ -135,7 +135,7 @@ void Session::onMainWindow(Bytes& bytes) {
     static constexpr std::array<std::string_view, 4> answers = {"yes", "no", "cancel", "/plans/proposal.xml"};
     switch (bytes.below(3)) {
     case 0:
-        shell.press(mdiInterface::menu()[bytes.below(mdiInterface::menu().size())].name);
+        shell.press(mainMenu()[bytes.below(mainMenu().size())].name);
         break;
     case 1:
         shell.Timer1_Timer();
