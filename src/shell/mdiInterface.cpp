@@ -7,11 +7,16 @@
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "document/AnnexureB.h"
+#include "document/LandRecordBlocks.h"
 #include "document/ReadXML.h"
 #include "document/SaveProposal.h"
 #include "fees/frmDocCheckList.h"
 #include "fees/frmDocCheckList1.h"
 #include "fees/frmPayDetail.h"
+#include "landrecords/ExtractForm.h"
+#include "landrecords/Ownership.h"
+#include "landrecords/frmNaOrder.h"
+#include "landrecords/frmPlotExtractRelation.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
 #include "particulars/particulars.h"
@@ -74,6 +79,10 @@ void mdiInterface::declareForms() {
     forms.declare<frmPayDetail>();
     forms.declare<frmDocCheckList>();
     forms.declare<frmDocCheckList1>();
+    forms.declare<frmPlotExtractRelation>();
+    forms.declare<frmMain712>();
+    forms.declare<frmPRCEXT>();
+    forms.declare<frmNaOrder>();
     forms.declare<frmAbout>();
     forms.declare<frmHelp>();
 }
@@ -84,6 +93,8 @@ void mdiInterface::fillCommands() {
     asked.SaveData = [this] { SaveData(proposal); };
     asked.CreateXMLFIle = [this] { CreateXMLFIle(proposal); };
     asked.buildAnnexureB = [this] { buildAnnexureB(proposal); };
+    asked.buildExtractBlock = [this] { buildExtractBlock(proposal); };
+    asked.buildPRCBlock = [this] { buildPRCBlock(proposal); };
     asked.readXml = [this] { openFile(); };
     asked.refreshMenus = [this] { refreshMenus(); };
     asked.showPayment = [this] { showPayment(proposal); };
@@ -92,6 +103,9 @@ void mdiInterface::fillCommands() {
     auto& named = proposal.procedures;
     named["saveProposal"] = asked.saveProposal;
     named["buildAnnexureB"] = asked.buildAnnexureB;
+    named["buildExtractBlock"] = asked.buildExtractBlock;
+    named["buildPRCBlock"] = asked.buildPRCBlock;
+    named["buildOwnership"] = [this] { buildOwnership(proposal); };
     named["refreshMenus"] = asked.refreshMenus;
     named["uloadAllForms"] = [this] { uloadAllForms(proposal); };
     named["requireParticulars"] = [this] { requireParticulars(); };
@@ -302,7 +316,9 @@ bool mdiInterface::requireParticulars() {
 }
 
 void mdiInterface::openForm(std::string_view name) {
-    if (Form* form = proposal.forms.touch(name))
+    if (equalsIgnoringCase(name, frmPlotExtractRelation::formName))
+        proposal.forms.get<frmPlotExtractRelation>().open();
+    else if (Form* form = proposal.forms.touch(name))
         form->show();
     else
         proposal.screen.message("This form is not there yet.", "");

@@ -121,5 +121,38 @@ TEST_F(Blocks, ExtractsAreNumberedByTheirPlaceNotByTheirNumber) {
     EXPECT_EQ(tables.rsExtract712->filter(), "");
 }
 
+TEST_F(Blocks, AWholeSaveBuildsBothBlocksWithTheRightFormsMode) {
+    shell.press("mnuNew");
+    fillFirstPage();
+    auto& relation = proposal.forms.get<frmPlotExtractRelation>();
+    relation.open();
+    relation.txtNoOfPlot712.setText("1");
+    relation.txtNoOfPlot.setText("1");
+    user::editCell(relation.dgd712ExtractRelation, 0, 3, "1");
+    user::click(relation.cmdSave712Relation);
+    relation.SSTab1.setTab(1);
+    user::editCell(relation.dgdPRCPlotRel, 0, 3, "2");
+    tables.create(&Tables::rsPlotPRCSaved);
+    user::click(relation.cmdSave);
+    proposal.forms.unload("frmMain712");
+    ports.dialogs.answers.push_back("/p.xml");
+    shell.press("mnuSave");
+    EXPECT_NE(proposal.proposalText.find("<NTS><a712Extract><NoOfExtract>1</NoOfExtract>"), std::string::npos);
+    EXPECT_NE(proposal.proposalText.find("</a712Extract><PRC><NoOfPRC>2</NoOfPRC>"), std::string::npos);
+    EXPECT_NE(proposal.proposalText.find("</PRC><NAOrder><OrderNo></OrderNo><OrderDate>15/03/2024</OrderDate>"),
+              std::string::npos);
+    EXPECT_NE(proposal.proposalText.find("<PLOT-REL>1^#^1^#^1$-$$-$1@-></PLOT-REL>"), std::string::npos);
+    EXPECT_NE(proposal.proposalText.find("<PLOT-PRCDETAILS>1^#^2^#^1$-$$-$2@-></PLOT-PRCDETAILS>"), std::string::npos);
+    EXPECT_FALSE(proposal.isSavingLandRecord);
+    EXPECT_EQ(tables.rsOwnership712, tables.rsOwnership);
+    EXPECT_EQ(proposal.forms.get<frmMain712>().fraExt.caption(), "Extract Details");
+}
+
+TEST_F(Blocks, NewLoadsThe712FormHidden) {
+    shell.press("mnuNew");
+    ASSERT_NE(proposal.forms.loaded("frmMain712"), nullptr);
+    EXPECT_FALSE(proposal.forms.loaded("frmMain712")->visible());
+}
+
 }  // namespace
 }  // namespace plandesk::test

@@ -388,5 +388,13 @@ TEST_F(PlotExtractRelation, LongWorkTellsHowFarItHasCome) {
     EXPECT_EQ(told.ends, 1);
 }
 
+TEST_F(PlotExtractRelation, TheButtonOfTheFirstPageOpensItTheSameWay) {
+    tables.rsPlot712Saved.reset();
+    form.SSTab1.setTab(1);
+    user::click(button("frmAnnexureA", "cmdPlotRelation"));
+    EXPECT_EQ(form.SSTab1.tab(), 0);
+    EXPECT_NE(tables.rsPlot712Saved, nullptr);
+}
+
 }  // namespace
 }  // namespace plandesk::test
