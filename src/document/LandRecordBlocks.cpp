@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "landrecords/Encumbrances.h"
+#include "landrecords/ExtractFamily.h"
 #include "landrecords/ExtractForm.h"
 #include "landrecords/frmPlotExtractRelation.h"
 #include "proposal/Element.h"
@@ -24,9 +25,7 @@ struct Block {
     std::string_view count;
     std::string_view extract;  ///< element of one extract, numbered
     std::string_view remark;
-    Tables::Member extracts;
-    Tables::Member owners;
-    Tables::Member holders;
+    const ExtractFamily& family;
     std::span<const int> statics;  ///< columns of the extract that `Static` holds
     std::string Proposal::*fragment;
     bool is712;
@@ -35,27 +34,10 @@ struct Block {
 constexpr int statics712[] = {1, 2, 3, 4, 5, 6, 7};
 constexpr int staticsPRC[] = {1, 2, 3, 5, 6, 7};  // without FerFarNo
 
-constexpr Block block712 = {"a712Extract",
-                            "NoOfExtract",
-                            "Extract",
-                            "Remark712",
-                            &Tables::rsExtract712,
-                            &Tables::rsOwner712,
-                            &Tables::rsPAH712,
-                            statics712,
-                            &Proposal::extractOwnerXML,
-                            true};
+constexpr Block block712 = {
+    "a712Extract", "NoOfExtract", "Extract", "Remark712", family712, statics712, &Proposal::extractOwnerXML, true};
 
-constexpr Block blockPRC = {"PRC",
-                            "NoOfPRC",
-                            "PRC",
-                            "RemarkPRC",
-                            &Tables::rsExtractPRC,
-                            &Tables::rsOwnerPRC,
-                            &Tables::rsPAHPRC,
-                            staticsPRC,
-                            &Proposal::prcOwnerXML,
-                            false};
+constexpr Block blockPRC = {"PRC", "NoOfPRC", "PRC", "RemarkPRC", familyPRC, staticsPRC, &Proposal::prcOwnerXML, false};
 
 Text trimmed(Recordset& table, int column) {
     return Text(trim(valueText(table.get(column))));
@@ -72,15 +54,12 @@ Text statics(const Block& block, Recordset& extracts) {
     return text;
 }
 
-enum OwnerColumn { ownerName = 2, ownerStatus = 3, ownerEncumbrance = 4, ownerType = 5 };
-enum HolderColumn { holderName = 2, holderSign = 3 };
-
 std::string_view statusWord(const Value& status) {
     if (isNull(status))
         return "";
     const Text text = valueText(status);
     // "---- Select ----" of the list is not the untouched default, and so is written as "PAH".
-    return trim(text) == "-- Select --" ? "" : text == "Signed" ? "Sign" : "PAH";
+    return trim(text) == trim(noStatus) ? "" : text == "Signed" ? "Sign" : "PAH";
 }
 
 Text owner(const Block& block, Recordset& owners) {
@@ -88,7 +67,7 @@ Text owner(const Block& block, Recordset& owners) {
     text.append(statusWord(owners.get(ownerStatus))).append("#");
     text += std::to_string(encumbranceCode(trimmed(owners, ownerEncumbrance)));
     Text type = trimmed(owners, ownerType);
-    if (type == "------ Select------")
+    if (type == trim(noOwnerType))
         type.clear();
     // The 7/12 block has no "#" before the type: its reader expects three pieces.
     return text + (block.is712 ? EscapeXML(type) : "#" + type);
@@ -110,8 +89,8 @@ void appendRows(Text& xml, Recordset& table, std::string_view key, std::string_v
 }
 
 void appendExtract(Text& xml, const Block& block, Proposal& proposal, Recordset& extracts) {
-    Recordset& owners = proposal.tables.ensure(block.owners);
-    Recordset& holders = proposal.tables.ensure(block.holders);
+    Recordset& owners = proposal.tables.ensure(block.family.owners);
+    Recordset& holders = proposal.tables.ensure(block.family.holders);
     const Text element = Text(block.extract) + std::to_string(extracts.absolutePosition());
     const Text key = "ExtNo = " + valueText(extracts.get("ExtNo"));
     xml.append("<").append(element).append(">");
@@ -128,7 +107,7 @@ Text remark(Proposal& proposal) {
 }
 
 void build(const Block& block, Proposal& proposal) {
-    Recordset& extracts = proposal.tables.ensure(block.extracts);
+    Recordset& extracts = proposal.tables.ensure(block.family.extracts);
     if (extracts.recordCount() == 0)
         return;
     proposal.is712Current = block.is712;

@@ -1,31 +1,17 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
-#include <span>
 #include <string_view>
 
 #include "controls/Controls.h"
+#include "landrecords/OwnerLists.h"
 #include "proposal/DataForm.h"
 #include "proposal/Grid.h"
 
 namespace plandesk {
 
-/// What the form of the 7/12 extracts and that of the PRCs do not share.
-struct ExtractFamily {
-    std::string_view formName;
-    std::string_view caption;
-    std::string_view head;
-    std::string_view saveCaption;
-    std::string_view resetCaption;
-    Tables::Member extracts;
-    Tables::Member owners;
-    Tables::Member holders;
-    std::span<const Tables::Member> droppedByReset;
-    std::int16_t Proposal::*total;      ///< number of extracts that the relation form left
-    std::string Proposal::*lastRemark;  ///< as last read from a document
-    bool prc;
-};
+struct ExtractFamily;
+struct ExtractWording;
 
 /// The records of one family of extracts: survey data, owners and power-of-attorney holders of each. The number of
 /// extracts and their link to plots are fixed on the relation form; here the count is only shown.
@@ -75,16 +61,10 @@ protected:
     ExtractForm(Proposal& proposal, const ExtractFamily& family);
 
 private:
-    /// A list that floats over the cells of one column of `dgdOwner`.
-    struct OwnerList {
-        ComboBox& list;
-        int column;
-        bool opened = false;  ///< by the user, so that leaving it writes to the cell
-    };
-
     void wire();
-    void applyPrcLabels();
-    bool showsPrc() const { return family.prc || !proposal.is712Current; }
+    /// The words of the PRCs in their own form, and in the other one while they are the subject.
+    const ExtractWording& wording() const;
+    void applyWording();
     void reread();
     void listExtracts();
     void buildRows();
@@ -96,19 +76,15 @@ private:
     void infoUpdated(int column);
     void placeDate(bool focus);
     void dateChosen();
-    void openList(int column);
-    void placeList(OwnerList& owner);
-    void leaveList(OwnerList& owner);
     void ownerCellChanged();
     void toggleSign();
     void cmdReferesh_Click();
 
     const ExtractFamily& family;
-    std::array<OwnerList, 3> ownerLists;
+    OwnerLists ownerLists;
     std::int16_t chosenExtract = 1;
     bool alreadyFilled = false;
     bool bindingOwners = false;
-    bool placing = false;
 };
 
 /// "Scrutiny Of 7/12 Extract". Loaded while PRCs are the subject, it wears their labels and lists their plots.

@@ -164,8 +164,7 @@ void frmPlotExtractRelation::plotsChanged(const Family& family) {
     }
     if (family.shrinks) {  // on the 7/12 tab, rows above the number stay
         plots.setFilter(" SrNo > " + std::to_string(number));
-        for (plots.moveFirst(); !plots.eof(); plots.moveNext())
-            plots.deleteRow();
+        plots.deleteVisible();
         plots.setFilter("");
     }
     rebind(family);

@@ -62,8 +62,8 @@ void openGap(Recordset& table, std::int32_t number, GapKind kind, Date today) {
 }
 
 void closeGap(Recordset& table, std::int32_t number) {
-    for (table.setFilter("ExtNo = " + std::to_string(number)); !table.eof(); table.moveNext())
-        table.deleteRow();
+    table.setFilter("ExtNo = " + std::to_string(number));
+    table.deleteVisible();
     table.setFilter("");
     if (table.recordCount() > 0) {
         table.setFilter(" ExtNo > " + std::to_string(number));

@@ -130,6 +130,11 @@ void Recordset::deleteRow() {
     ++changeCount;
 }
 
+void Recordset::deleteVisible() {
+    for (moveFirst(); !eof(); moveNext())
+        deleteRow();
+}
+
 void Recordset::moveFirst() {
     admitAdded();
     goTo(0);

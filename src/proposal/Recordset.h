@@ -60,6 +60,8 @@ public:
     void update();
     /// Deletes the current row. RuntimeError 3021 where there is none.
     void deleteRow();
+    /// Deletes every visible row.
+    void deleteVisible();
 
     /// Does nothing on a table with no visible row.
     void moveFirst();

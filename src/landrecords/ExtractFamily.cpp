@@ -1,0 +1,123 @@
+#include "landrecords/ExtractFamily.h"
+
+#include <array>
+
+#include "landrecords/ExtractForm.h"
+
+namespace plandesk {
+
+namespace {
+
+constexpr std::array<Tables::Member, 3> dropped712 = {&Tables::rsExtract712, &Tables::rsOwner712, &Tables::rsPAH712};
+constexpr std::array<Tables::Member, 2> droppedPRC = {&Tables::rsPAHPRC, &Tables::rsOwnerPRC};  // the PRCs stay
+
+constexpr GridColumn hidden = {.caption = "", .width = 0};
+
+constexpr std::array<GridColumn, 8> infoColumns712 = {{
+    hidden,
+    {.caption = "Survey No", .width = 1400},
+    {.caption = "Hissa No", .width = 1400},
+    {.caption = "Date of 7/12", .width = 1500, .button = true},
+    {.caption = "Ferfar No", .width = 1600},
+    {.caption = "No of Owners", .width = 1300},
+    {.caption = "Cumulative 7/12 Area in Sq.Mt", .width = 2600},
+    {.caption = "No Of PAHs", .width = 1200},
+}};
+
+constexpr std::array<GridColumn, 8> infoColumnsPRC = {{
+    hidden,
+    {.caption = "City Survey No", .width = 1600},
+    {.caption = "Tika Sheet No ", .width = 1600},
+    {.caption = "PRC Date", .width = 1500, .button = true},
+    {.caption = "Ferfar No", .width = 0},
+    {.caption = "No of Owners", .width = 1300},
+    {.caption = "Cumulative PRC Area", .width = 2200},
+    {.caption = "No Of PAHs", .width = 1200},
+}};
+
+constexpr std::array<GridColumn, 6> ownerColumns712 = {{
+    hidden,
+    {.caption = "Sr No", .width = 700},
+    {.caption = "Name Of Owner", .width = 4200},
+    {.caption = "Owner Signing Status ", .width = 2100, .button = true},
+    {.caption = "Encumbrances", .width = 2600, .button = true},
+    {.caption = "Owner Type", .width = 0},
+}};
+
+constexpr std::array<GridColumn, 6> ownerColumnsPRC = {{
+    hidden,
+    {.caption = "Sr No", .width = 700},
+    {.caption = "Name Of Owner", .width = 3600},
+    {.caption = "Owner Signing Status ", .width = 2100},
+    {.caption = "Encumbrances", .width = 2600},
+    {.caption = "Owner Type", .width = 2100},
+}};
+
+constexpr std::array<GridColumn, 4> columnsOfHolders = {{
+    hidden,
+    {.caption = "SrNo", .width = 700},
+    {.caption = "Holder Name", .width = 4200},
+    {.caption = "PAH Sign", .width = 1000, .locked = true, .button = true, .yesNo = true},
+}};
+
+}  // namespace
+
+constexpr std::span<const GridColumn> holderColumns = columnsOfHolders;
+
+constexpr ExtractFamily family712 = {
+    .formName = frmMain712::formName,
+    .caption = "Scrutiny Of 7/12 Extract",
+    .head = " Scrutiny Of 7/12 Extract",
+    .saveCaption = "Save 7/12 Scrutiny Data",
+    .resetCaption = "Reset 7/12 Information ",
+    .extracts = &Tables::rsExtract712,
+    .owners = &Tables::rsOwner712,
+    .holders = &Tables::rsPAH712,
+    .droppedByReset = dropped712,
+    .lastRemark = &Proposal::remark712,
+    .prc = false,
+};
+
+constexpr ExtractFamily familyPRC = {
+    .formName = frmPRCEXT::formName,
+    .caption = "PRC Extract Scruitny ",
+    .head = " Scrutiny Of PRC Extract",
+    .saveCaption = "Save PRC Scrutiny Information",
+    .resetCaption = "Reset",
+    .extracts = &Tables::rsExtractPRC,
+    .owners = &Tables::rsOwnerPRC,
+    .holders = &Tables::rsPAHPRC,
+    .droppedByReset = droppedPRC,
+    .lastRemark = &Proposal::remarkPRC,
+    .prc = true,
+};
+
+constexpr ExtractWording wording712 = {
+    .firstInfo = " Information For Extract No :- 1",
+    .info = " Information For Extract No :- ",
+    .frame = "Extract Details",
+    .count = " No of 7/12 Extracts",
+    .select = "Select 7/12 Extract For Details",
+    .remark = "7/12 Remarks",
+    .entry = " EXTRACT ",
+    .plots = &Tables::rsPlot712,
+    .total = &Proposal::noOfExtract712,
+    .infoColumns = infoColumns712,
+    .ownerColumns = ownerColumns712,
+};
+
+constexpr ExtractWording wordingPRC = {
+    .firstInfo = "Information For PRC No :- 1",
+    .info = " Information For PRC No :- ",
+    .frame = "PRC Details",
+    .count = "No of PRC",
+    .select = "Select PRC for details",
+    .remark = "PRC Remark",
+    .entry = " PRC ",
+    .plots = &Tables::rsPlotPRC,
+    .total = &Proposal::noOfPRC,
+    .infoColumns = infoColumnsPRC,
+    .ownerColumns = ownerColumnsPRC,
+};
+
+}  // namespace plandesk

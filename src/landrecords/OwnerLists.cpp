@@ -1,0 +1,94 @@
+#include "landrecords/OwnerLists.h"
+
+#include <algorithm>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "landrecords/Encumbrances.h"
+#include "landrecords/ExtractFamily.h"
+
+namespace plandesk {
+
+namespace {
+
+constexpr std::array<std::string_view, 3> statuses = {"---- Select ----", "Signed", "PAH Given"};
+constexpr std::array<std::string_view, 4> types = {noOwnerType, "H - Holder", "L - Lease", "E - Easement"};
+
+void addItems(ComboBox& list, std::span<const std::string_view> items) {
+    for (const std::string_view item : items)
+        list.addItem(item);
+}
+
+}  // namespace
+
+OwnerLists::OwnerLists(Grid& owners, ComboBox& status, ComboBox& encumbrance, ComboBox& type, bool typeFollows)
+    : owners(owners),
+      lists{{{status, ownerStatus, true}, {encumbrance, ownerEncumbrance, true}, {type, ownerType, typeFollows}}} {
+    addItems(status, statuses);
+    encumbrance.addItem(noEncumbrance);
+    addItems(encumbrance, encumbrances);
+    addItems(type, types);
+    for (List& list : lists) {
+        list.box.click = [this, &list] { list.opened = list.opened || !placing; };
+        list.box.lostFocus = [this, &list] { leave(list); };
+    }
+}
+
+void OwnerLists::setVisible(bool on) {
+    for (const List& list : lists)
+        list.box.setVisible(on);
+}
+
+void OwnerLists::open(int column) {
+    const auto list = std::ranges::find(lists, column, &List::column);
+    if (list == lists.end() || owners.currentRow() < 0)
+        return;
+    place(*list);
+    list->opened = true;
+    list->box.setFocus();
+}
+
+void OwnerLists::cellChanged(bool placeOwn) {
+    for (const List& list : lists) {
+        if (list.column != owners.currentColumn())
+            list.box.setVisible(false);
+        else if (placeOwn && list.follows)
+            place(list);
+    }
+}
+
+/// Puts the list over the cell with the cell's text chosen. A text that the list does not have leaves the choice as it
+/// was, maybe from another row.
+void OwnerLists::place(const List& list) {
+    placing = true;
+    const std::string text = owners.cellText(owners.currentRow(), list.column);
+    const bool anyCase = list.column == ownerEncumbrance;  // what was read from a document is in upper case
+    for (int item = 0; item < list.box.listCount(); ++item) {
+        const std::string_view known = trim(list.box.item(item));
+        if (anyCase ? equalsIgnoringCase(known, trim(text)) : known == trim(text)) {
+            list.box.setListIndex(item);
+            break;
+        }
+    }
+    owners.place(list.box, list.column);
+    placing = false;
+}
+
+void OwnerLists::leave(List& list) {
+    if (!std::exchange(list.opened, false) || list.box.listIndex() < 0)
+        return;
+    // The owner type alone is written without a look whether there is a row for it.
+    if (list.column != ownerType && owners.currentRow() < 0)
+        return;
+    if (!owners.table())
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    owners.table()->set(list.column, std::string(trim(list.box.text())));
+    owners.table()->update();
+    owners.refresh();
+}
+
+}  // namespace plandesk

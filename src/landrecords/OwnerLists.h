@@ -1,0 +1,40 @@
+#pragma once
+
+#include <array>
+
+#include "controls/Controls.h"
+#include "proposal/Grid.h"
+
+namespace plandesk {
+
+/// The three lists that float over the cells of the owners' grid: signing status, encumbrance and owner type. One that
+/// the user opened takes the focus, and its choice goes into the cell when it is left.
+class OwnerLists {
+public:
+    /// `typeFollows`: the list of owner types too is placed by a mere move of the current cell.
+    OwnerLists(Grid& owners, ComboBox& status, ComboBox& encumbrance, ComboBox& type, bool typeFollows);
+
+    void setVisible(bool on);
+    /// The user pressed the button of a cell or clicked it: its list comes over it and takes the focus. Nothing happens
+    /// in a column without a list.
+    void open(int column);
+    /// Another cell became current: the lists of other columns go, and with `place` that of its own comes.
+    void cellChanged(bool place);
+
+private:
+    struct List {
+        ComboBox& box;
+        int column;
+        bool follows;
+        bool opened = false;  ///< by the user, so that leaving it writes to the cell
+    };
+
+    void place(const List& list);
+    void leave(List& list);
+
+    Grid& owners;
+    std::array<List, 3> lists;
+    bool placing = false;
+};
+
+}  // namespace plandesk
