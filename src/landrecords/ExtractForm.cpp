@@ -1,7 +1,6 @@
 #include "landrecords/ExtractForm.h"
 
 #include <string>
-#include <utility>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -67,24 +66,20 @@ void ExtractForm::wire() {
 void ExtractForm::load() {
     txtNoOfExtranct.setEnabled(false);
     txtCaseType.setText(proposal.forms.get<frmAnnexureA>().cboCaseType.text());
-    txtNoOfExtranct.setText(std::to_string(proposal.*wording().total));
+    wording = family.prc || !proposal.is712Current ? &wordingPRC : &wording712;
+    txtNoOfExtranct.setText(std::to_string(proposal.*wording->total));
     applyWording();
     txtNoOfExtranct_LostFocus();
     txtRemark.setText(proposal.*family.lastRemark);
     setFormColors(*this, proposal);
 }
 
-const ExtractWording& ExtractForm::wording() const {
-    return family.prc || !proposal.is712Current ? wordingPRC : wording712;
-}
-
 void ExtractForm::applyWording() {
-    const ExtractWording& words = wording();
-    lblInfoExtract.setCaption(words.firstInfo);
-    fraExt.setCaption(words.frame);
-    lblNoOfExt.setCaption(words.count);
-    lblSelectExtract.setCaption(words.select);
-    lblRemark.setCaption(words.remark);
+    lblInfoExtract.setCaption(wording->firstInfo);
+    fraExt.setCaption(wording->frame);
+    lblNoOfExt.setCaption(wording->count);
+    lblSelectExtract.setCaption(wording->select);
+    lblRemark.setCaption(wording->remark);
 }
 
 // The PRC form has no key handling of its own: Enter is handled in its grids and its count box alone.
@@ -97,10 +92,9 @@ bool ExtractForm::enterActsAsTab() const {
 }
 
 void ExtractForm::txtNoOfExtranct_LostFocus() {
-    const bool refill = std::exchange(alreadyFilled, false);
-    if (!refill && leadingNumber(txtNoOfExtranct.text()) == 0)
+    if (!alreadyFilled && leadingNumber(txtNoOfExtranct.text()) == 0)
         return;
-    if (family.prc && refill)
+    if (family.prc && alreadyFilled)
         reread();
     Recordset& plots712 = proposal.tables.ensure(&Tables::rsPlot712);
     if (family.prc)
@@ -108,7 +102,7 @@ void ExtractForm::txtNoOfExtranct_LostFocus() {
     else if (plots712.rowCount() == 0)  // also while the plots of the PRCs are listed
         return;
     listExtracts();
-    if (!refill)
+    if (!alreadyFilled)
         buildRows();
     if (cmbExtract.listCount() > 0)
         cmbExtract.setListIndex(0);
@@ -117,6 +111,7 @@ void ExtractForm::txtNoOfExtranct_LostFocus() {
     showEditors(false);
     for (Grid* grid : {&dgdInfoOfExtract, &dgdOwner, &dgdPAH})
         grid->setVisible(true);
+    alreadyFilled = false;
 }
 
 /// Reads the block of the present family again from the document last opened.
@@ -130,12 +125,11 @@ void ExtractForm::reread() {
 
 void ExtractForm::listExtracts() {
     cmbExtract.clear();
-    const ExtractWording& words = wording();
-    Recordset& plots = proposal.tables.ensure(words.plots);
+    Recordset& plots = proposal.tables.ensure(wording->plots);
     int listed = 0;
     for (plots.moveFirst(); !plots.eof(); plots.moveNext()) {
         const std::string plot =
-            " " + std::string(trim(valueText(plots.get("Plot Name")))) + " --- " + std::string(words.entry);
+            " " + std::string(trim(valueText(plots.get("Plot Name")))) + " --- " + std::string(wording->entry);
         for (std::int16_t i = extractCount(plots); i > 0; --i)
             cmbExtract.addItem(plot + std::to_string(++listed) + " ");
     }
@@ -181,14 +175,14 @@ Recordset& ExtractForm::chosen(Tables::Member table) {
 void ExtractForm::bindInfo() {
     chosen(family.extracts);
     dgdInfoOfExtract.bind(proposal.tables.*family.extracts);
-    dgdInfoOfExtract.setColumns(wording().infoColumns);
+    dgdInfoOfExtract.setColumns(wording->infoColumns);
 }
 
 void ExtractForm::bindOwners() {
     bindingOwners = true;
     chosen(family.owners);
     dgdOwner.bind(proposal.tables.*family.owners);
-    dgdOwner.setColumns(wording().ownerColumns);
+    dgdOwner.setColumns(wording->ownerColumns);
     ownerCellChanged();
     bindingOwners = false;
 }
@@ -205,7 +199,7 @@ void ExtractForm::dgdPAHCallSetting() {
 
 void ExtractForm::cmbExtract_Click() {
     chosenExtract = toInteger16(static_cast<double>(cmbExtract.listIndex()) + 1);
-    lblInfoExtract.setCaption(std::string(wording().info) + std::to_string(chosenExtract));
+    lblInfoExtract.setCaption(std::string(wording->info) + std::to_string(chosenExtract));
     bindInfo();
     bindOwners();
     bindHolders();

@@ -62,8 +62,6 @@ protected:
 
 private:
     void wire();
-    /// The words of the PRCs in their own form, and in the other one while they are the subject.
-    const ExtractWording& wording() const;
     void applyWording();
     void reread();
     void listExtracts();
@@ -81,9 +79,10 @@ private:
     void cmdReferesh_Click();
 
     const ExtractFamily& family;
+    const ExtractWording* wording = nullptr;  ///< fixed when the form is loaded
     OwnerLists ownerLists;
     std::int16_t chosenExtract = 1;
-    bool alreadyFilled = false;
+    bool alreadyFilled = false;  ///< raised by Command1; a fill that stops early leaves it up
     bool bindingOwners = false;
 };
 
