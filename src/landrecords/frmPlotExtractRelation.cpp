@@ -184,9 +184,11 @@ void frmPlotExtractRelation::recount(const Family& family) {
 bool frmPlotExtractRelation::enterOnGrid(const Family& family) {
     Grid& grid = family.grid;
     const std::string& plots = family.plots.text();
-    if (plots.empty() || grid.currentColumn() != countColumn || grid.currentRow() >= leadingNumber(plots) - 1)
+    const int next = grid.currentRow() + 1;
+    // The number of plots may be beyond the rows, after a deletion.
+    if (plots.empty() || grid.currentColumn() != countColumn || next >= leadingNumber(plots) || next >= grid.rowCount())
         return false;
-    grid.moveTo(grid.currentRow() + 1, nameColumn);
+    grid.moveTo(next, nameColumn);
     grid.beginEdit(family.enterKey);  // the key goes into the name of the next plot
     return true;
 }

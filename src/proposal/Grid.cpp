@@ -279,8 +279,9 @@ namespace {
 bool act(Grid& grid, const std::function<bool()>& action) {
     bool done = false;
     grid.form().screen().event([&] {
-        if (user::focus(grid))
-            done = action();
+        done = user::focus(grid);
+        if (done)
+            done = action();  // an act whose reaction fails has been made all the same
     });
     return done;
 }

@@ -261,7 +261,7 @@ TEST_F(GridTest, UsersActsAreEventsWithTheFocusOnTheGrid) {
     EXPECT_EQ(owner(0), "Anand");
     box.leaveCheck = nullptr;
     grid.afterColumnUpdate = [](int) { throw RuntimeError(ErrorNumber::Overflow); };
-    user::editCell(grid, 0, 1, "Ana");
+    EXPECT_TRUE(user::editCell(grid, 0, 1, "Ana"));
     EXPECT_EQ(ports.dialogs.take(), (std::vector<Message>{{"", "Overflow", Icon::Critical}}));
     EXPECT_EQ(owner(0), "Ana");
     EXPECT_TRUE(grid.focused());

@@ -318,6 +318,18 @@ TEST_F(PlotExtractRelation, EnterOnTheLastCountActsAsTab) {
     EXPECT_EQ(form.dgd712ExtractRelation.currentColumn(), 3);
 }
 
+TEST_F(PlotExtractRelation, EnterOnTheLastRowActsAsTabWhenTheNumberOfPlotsIsBeyondIt) {
+    enter(false, {1, 1});
+    ports.dialogs.answers = {"yes"};
+    user::deleteRow(form.dgd712ExtractRelation, 0);
+    user::goToCell(form.dgd712ExtractRelation, 0, 3);
+    user::press(form.dgd712ExtractRelation, "7");
+    user::press(form.dgd712ExtractRelation, "Enter");
+    EXPECT_EQ(form.dgd712ExtractRelation.cellText(0, 3), "7");
+    EXPECT_FALSE(form.dgd712ExtractRelation.editing());
+    EXPECT_TRUE(form.txtNoOfExtract712.focused());
+}
+
 TEST_F(PlotExtractRelation, ResetEmptiesThePlotsAndLeavesTheExtracts) {
     enter(false, {2});
     save();
