@@ -80,6 +80,13 @@ Icon iconNamed(std::string_view name) {
                                  : Icon::None;
 }
 
+const std::map<std::string, QString>& keyNames() {
+    static const std::map<std::string, QString> names = {{"Enter", "Return"},       {"Tab", "Tab"}, {"Esc", "Escape"},
+                                                         {"Space", "space"},        {"F2", "F2"},   {"F3", "F3"},
+                                                         {"Backspace", "BackSpace"}};
+    return names;
+}
+
 QWidget* openDialog() {
     QWidget* dialog = QApplication::activeModalWidget();
     return dialog && dialog->isVisible() && dialog->isActiveWindow() ? dialog : nullptr;
@@ -91,10 +98,11 @@ Robot::Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFol
     : proposal(proposal),
       window(window),
       pictures(std::move(pictureFolder)),
-      commands{{"menu", &Robot::menu},       {"type", &Robot::type},
-               {"press", &Robot::press},     {"click", &Robot::click},
-               {"pick", &Robot::pick},       {"date", &Robot::date},
-               {"close", &Robot::closeForm}, {"expect-message", &Robot::expectMessage}} {
+      commands{
+          {"menu", &Robot::menu},           {"type", &Robot::type},       {"press", &Robot::press},
+          {"pressform", &Robot::pressForm}, {"click", &Robot::click},     {"pick", &Robot::pick},
+          {"date", &Robot::date},           {"cell", &Robot::cell},       {"cellbutton", &Robot::openCell},
+          {"cellclick", &Robot::openCell},  {"close", &Robot::closeForm}, {"expect-message", &Robot::expectMessage}} {
     Hands::inWindow([] { qApp->installEventFilter(&releaseCounter()); });
 }
 
@@ -115,6 +123,7 @@ void Robot::runLine(const std::string& line) {
     constexpr std::string_view picture = "# screenshot ";
     if (line.starts_with(picture))
         return takePicture(toQt(line.substr(picture.size())));
+    keyboardAlone |= line == "# by keyboard alone";
     const Words words = driver::splitWords(line);
     if (words.empty())
         return;
@@ -126,7 +135,7 @@ void Robot::runLine(const std::string& line) {
     if (command == commands.end())
         throw std::runtime_error("no such command here");
     (this->*command->second)(words);
-    if (words[0].text == "menu" || words[0].text == "press")
+    if (words[0].text == "menu" || words[0].text.starts_with("press"))
         attendDialogs();
 }
 
@@ -183,15 +192,74 @@ void Robot::clickOn(const Control& control) {
     clickAndWait(place);
 }
 
+void Robot::tabTo(const Control& control) {
+    constexpr int most = 300;
+    for (int turn = 0; turn < most; ++turn) {
+        if (Hands::holds([&] { return control.focused(); }))
+            return;
+        Hands::key("Tab");
+        QThread::msleep(20);
+    }
+    throw std::runtime_error("no Tab leads to it");
+}
+
 void Robot::takeFocus(Control& control) {
-    if (!Hands::holds([&] { return control.focused(); }))
+    if (keyboardAlone)
+        tabTo(control);
+    else if (!Hands::holds([&] { return control.focused(); }))
         clickOn(control);
-    Hands::waitUntil([&] { return control.focused() && QApplication::focusWidget() == widgetOf(control); },
-                     toQt(control.key()) + " has the focus");
+    Hands::waitUntil(
+        [&] {
+            const QWidget* widget = widgetOf(control);
+            const QWidget* focus = QApplication::focusWidget();
+            return control.focused() && (focus == widget || widget->isAncestorOf(focus));
+        },
+        toQt(control.key()) + " has the focus");
+}
+
+/// The menus that lead to the entry, the one of the menu bar first.
+static std::vector<QAction*> pathTo(const QList<QAction*>& actions, QAction& entry) {
+    for (QAction* action : actions) {
+        if (action == &entry)
+            return {action};
+        if (!action->menu())
+            continue;
+        std::vector<QAction*> path = pathTo(action->menu()->actions(), entry);
+        if (path.empty())
+            continue;
+        path.insert(path.begin(), action);
+        return path;
+    }
+    return {};
+}
+
+void Robot::menuByKeyboard(QAction& entry) {
+    std::vector<QAction*> path;
+    QString mnemonic;
+    Hands::inWindow([&] {
+        path = pathTo(window.menuBar()->actions(), entry);
+        const QString title = path.front()->text();
+        mnemonic = title.mid(title.indexOf('&') + 1, 1).toLower();
+    });
+    Hands::key("alt+" + mnemonic);
+    for (std::size_t depth = 1; depth < path.size(); ++depth) {
+        const QMenu* menu = path[depth - 1]->menu();
+        Hands::waitUntil([&] { return menu->isVisible(); }, "the menu opens");
+        constexpr int most = 50;
+        for (int turn = 0; turn < most && !Hands::holds([&] { return menu->activeAction() == path[depth]; }); ++turn) {
+            Hands::key("Down");
+            QThread::msleep(10);
+        }
+        Hands::key("Return");
+    }
+    const QMenu* last = path[path.size() - 2]->menu();
+    Hands::waitUntil([&] { return !last->isVisible(); }, "the menu closes");
 }
 
 void Robot::menu(const Words& words) {
     QAction* entry = window.entry(words.at(1).text);
+    if (keyboardAlone)
+        return menuByKeyboard(*entry);
     QPoint top;
     QMenu* submenu = nullptr;
     Hands::inWindow([&] {
@@ -219,20 +287,26 @@ void Robot::type(const Words& words) {
 }
 
 void Robot::press(const Words& words) {
-    static const std::map<std::string, QString> names = {{"Enter", "Return"},       {"Tab", "Tab"}, {"Esc", "Escape"},
-                                                         {"Space", "space"},        {"F2", "F2"},   {"F3", "F3"},
-                                                         {"Backspace", "BackSpace"}};
     Control& pressed = control(words.at(1));
     takeFocus(pressed);
     const std::string& key = words.at(2).text;
-    Hands::key(names.at(key));
+    Hands::key(keyNames().at(key));
     if (key == "Enter" || key == "Tab")
         Hands::waitUntil([&] { return !pressed.focused() || QApplication::activeModalWidget(); }, "the focus moves on");
 }
 
+void Robot::pressForm(const Words& words) {
+    Hands::key(keyNames().at(words.at(2).text));
+}
+
 void Robot::click(const Words& words) {
     Control& clicked = control(words.at(1));
-    clickOn(clicked);
+    if (keyboardAlone) {
+        takeFocus(clicked);
+        Hands::key("space");
+    } else {
+        clickOn(clicked);
+    }
     if (auto* option = dynamic_cast<OptionButton*>(&clicked))
         Hands::waitUntil([&] { return option->value(); }, "the option is on");
     else
@@ -241,6 +315,8 @@ void Robot::click(const Words& words) {
 
 void Robot::pick(const Words& words) {
     auto& list = dynamic_cast<ComboBox&>(control(words.at(1)));
+    if (keyboardAlone)
+        return pickByKeyboard(list, words.at(2));
     clickOn(list);
     auto* box = static_cast<QComboBox*>(widgetOf(list));
     int item = -1;
@@ -262,9 +338,66 @@ void Robot::pick(const Words& words) {
     Hands::waitUntil([&] { return list.listIndex() == item && !box->view()->isVisible(); }, "the item is picked");
 }
 
+void Robot::pickByKeyboard(ComboBox& list, const driver::Word& item) {
+    takeFocus(list);
+    int wanted = -1;
+    Hands::inWindow([&] {
+        for (int place = 0; item.quoted && place < list.listCount(); ++place)
+            if (list.item(place) == item.text)
+                wanted = place;
+    });
+    if (!item.quoted)
+        wanted = driver::countingNumber(item.text);
+    const auto* box = static_cast<QComboBox*>(widgetOf(list));
+    Hands::key("alt+Down");
+    Hands::waitUntil([&] { return box->view()->isVisible(); }, "the list opens");
+    Hands::key("Home");
+    for (int step = 0; step < wanted; ++step)
+        Hands::key("Down");
+    Hands::key("Return");
+    Hands::waitUntil([&] { return list.listIndex() == wanted && !box->view()->isVisible(); }, "the item is picked");
+}
+
+Grid& Robot::goToCell(const Words& words) {
+    auto& grid = dynamic_cast<Grid&>(control(words.at(1)));
+    const int row = driver::countingNumber(words.at(2).text);
+    const int column = driver::countingNumber(words.at(3).text);
+    takeFocus(grid);
+    constexpr int most = 300;
+    for (int turn = 0; turn < most; ++turn) {
+        QString key;
+        Hands::inWindow([&] {
+            key = grid.currentRow() < row         ? "Down"
+                  : grid.currentRow() > row       ? "Up"
+                  : grid.currentColumn() < column ? "Right"
+                  : grid.currentColumn() > column ? "Left"
+                                                  : "";
+        });
+        if (key.isEmpty())
+            return grid;
+        Hands::key(key);
+        QThread::msleep(10);
+    }
+    throw std::runtime_error("no arrow key leads to the cell");
+}
+
+void Robot::cell(const Words& words) {
+    goToCell(words);
+    Hands::type(toQt(words.at(4).text));
+    Hands::key("Tab");
+}
+
+void Robot::openCell(const Words& words) {
+    goToCell(words);
+    Hands::key("alt+Down");
+}
+
 void Robot::date(const Words& words) {
     auto& picker = dynamic_cast<DatePicker&>(control(words.at(1)));
-    clickOn(picker);
+    if (keyboardAlone)
+        takeFocus(picker);
+    else
+        clickOn(picker);
     const std::string& date = words.at(2).text;
     for (const int part : {0, 1, 2})
         Hands::type(toQt(field(date, '/', part)));

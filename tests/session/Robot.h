@@ -1,22 +1,24 @@
 #pragma once
 
+#include <QAction>
 #include <QString>
 #include <deque>
 #include <map>
 #include <string>
 #include <vector>
 
-#include "controls/Control.h"
+#include "controls/Controls.h"
 #include "controls/Ports.h"
 #include "desktop/MainWindow.h"
 #include "driver/Script.h"
+#include "proposal/Grid.h"
 #include "proposal/Proposal.h"
 
 namespace plandesk::session {
 
 /// Does what a script of the driver's grammar says, on the real window with keyboard and mouse. It knows the commands
-/// that are a user's doing, `answer` and `expect-message`, and takes a picture of the screen at each comment
-/// "# screenshot NAME".
+/// that are a user's doing, `answer` and `expect-message`, takes a picture of the screen at each comment
+/// "# screenshot NAME", and leaves the mouse alone from a comment "# by keyboard alone" on.
 class Robot {
 public:
     Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFolder);
@@ -31,9 +33,12 @@ private:
     void menu(const Words& words);
     void type(const Words& words);
     void press(const Words& words);
+    void pressForm(const Words& words);
     void click(const Words& words);
     void pick(const Words& words);
     void date(const Words& words);
+    void cell(const Words& words);
+    void openCell(const Words& words);
     void closeForm(const Words& words);
     void expectMessage(const Words& words);
     void takePicture(const QString& name) const;
@@ -43,7 +48,12 @@ private:
     QWidget* widgetOf(const Control& control) const;
     void scrollTo(const Control& control);
     void clickOn(const Control& control);
+    void tabTo(const Control& control);
     void takeFocus(Control& control);
+    /// Walks with the arrow keys to the cell that the words name.
+    Grid& goToCell(const Words& words);
+    void menuByKeyboard(QAction& entry);
+    void pickByKeyboard(ComboBox& list, const driver::Word& item);
     /// Answers the boxes and file dialogs that are open or about to open.
     void attendDialogs();
     void answerDialog(QWidget& dialog);
@@ -51,6 +61,7 @@ private:
     Proposal& proposal;
     desktop::MainWindow& window;
     QString pictures;
+    bool keyboardAlone = false;
     std::deque<std::string> answers;
     std::deque<Message> messages;
     std::map<std::string, void (Robot::*)(const Words&), std::less<>> commands;
