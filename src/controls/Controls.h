@@ -37,6 +37,7 @@ public:
     KeyFilter keyPress;
     bool locked = false;
     bool multiLine = false;
+    bool rightAligned = false;  ///< a column of numbers reads from its last digit
 
 private:
     std::string content;

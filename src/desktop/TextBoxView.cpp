@@ -44,6 +44,8 @@ class LineView : public TextBoxView {
 public:
     LineView(TextBox& box, LineEdit& line, ScreenView& screen) : TextBoxView(box, line, screen), line(line) {
         line.setMaxLength(std::numeric_limits<int>::max());
+        if (box.rightAligned)
+            line.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         line.filter = [this](int key) { return filter(key); };
         connect(&line, &QLineEdit::textEdited, this, [this](const QString& text) { hand(fromQt(text)); });
     }
@@ -59,7 +61,7 @@ public:
         return TextBoxView::eventFilter(watched, event);
     }
     int naturalWidth(bool alone) const override {
-        const bool number = subject && box().keyPress;
+        const bool number = subject && (box().keyPress || box().rightAligned);
         return (alone && !number ? textWidth : numberWidth) * characterWidth();
     }
 

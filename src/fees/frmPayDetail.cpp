@@ -83,8 +83,10 @@ void frmPayDetail::wireFeeRows() {
         TextBox& area = this->*row.area;
         TextBox& rate = this->*row.rate;
         TextBox& amount = this->*row.amount;
-        for (TextBox* box : {&area, &rate, &amount})
+        for (TextBox* box : {&area, &rate, &amount}) {
             box->keyPress = keyFilterDecimal;
+            box->rightAligned = true;
+        }
         area.change = [&] { checkRateBox(area, rate, amount, true); };
         rate.change = [&] { checkRateBox(rate, area, amount, true); };
         amount.change = [this, &amount] {
@@ -101,8 +103,10 @@ void frmPayDetail::wireFeeRows() {
 }
 
 void frmPayDetail::wireSingleFees() {
+    txtGrandTotal.rightAligned = true;
     for (TextBox* box : {&txtCompoundFees, &txtOther}) {
         box->keyPress = keyFilterDecimal;
+        box->rightAligned = true;
         box->change = [this, box] {
             checkRateBox(*box, *box, *box, false);
             calcTotal();
