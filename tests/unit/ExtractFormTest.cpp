@@ -504,6 +504,23 @@ TEST_F(Extracts, Command1FillsTheListWithoutBuildingRows) {
     EXPECT_EQ(form.cmbExtract.listCount(), 0);
 }
 
+TEST_F(Extracts, AFillThatFoundNoPlotLeavesTheNextOneWithoutNewRowsToo) {
+    proposal.is712Current = true;
+    auto& form = proposal.forms.get<frmMain712>();
+    user::click(form.Command1);
+    EXPECT_EQ(form.cmbExtract.listCount(), 0);
+    tables.rsPlot712->addNew();
+    tables.rsPlot712->set("No of PRC", 2);
+    tables.rsPlot712->update();
+    form.txtNoOfExtranct.setText("");
+    form.txtNoOfExtranct_LostFocus();
+    EXPECT_EQ(form.cmbExtract.listCount(), 2);
+    EXPECT_EQ(tables.rsExtract712->rowCount(), 0);
+    form.cmbExtract.clear();
+    form.txtNoOfExtranct_LostFocus();
+    EXPECT_EQ(form.cmbExtract.listCount(), 0);
+}
+
 TEST_F(Extracts, Command1OfThePrcFormReadsAgainAndTakesThe712Remark) {
     relate({2}, true);
     auto& form = openPrc();
