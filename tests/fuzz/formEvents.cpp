@@ -52,6 +52,7 @@ struct Session : test::World {
     Control* control = nullptr;
 
     void start(Bytes& bytes);
+    void relatePlots();
     void choose(Bytes& bytes);
     void act(Bytes& bytes);
     void onTextBox(TextBox& box, Bytes& bytes);
@@ -66,12 +67,37 @@ void fail(std::string_view what) {
     std::abort();
 }
 
-/// From the bare main window, or from a new proposal that its first page lets be saved.
+/// From the bare main window, from a new proposal that its first page lets be saved, or from one with land records.
 void Session::start(Bytes& bytes) {
-    if (bytes.below(2) == 0)
+    const std::size_t from = bytes.below(3);
+    if (from == 0)
         return;
     shell.press("mnuNew");
     fillFirstPage();
+    if (from == 2)
+        relatePlots();
+}
+
+/// Two plots with three extracts and as many property cards, each first one with two owners and holders.
+void Session::relatePlots() {
+    struct Tab {
+        std::string_view number, grid, save, entry, form;
+    };
+    constexpr std::array<Tab, 2> tabs = {{
+        {"txtNoOfPlot712", "dgd712ExtractRelation", "cmdSave712Relation", "mnu712Ext", "frmMain712"},
+        {"txtNoOfPlot", "dgdPRCPlotRel", "cmdSave", "mnuPrc", "frmPRCEXT"},
+    }};
+    constexpr std::string_view relation = "frmPlotExtractRelation";
+    for (const Tab& tab : tabs) {
+        shell.press("mnuPlotExtRelationShip");
+        user::type(box(relation, tab.number), "2");
+        user::editCell(grid(relation, tab.grid), 0, 3, "2");
+        user::editCell(grid(relation, tab.grid), 1, 3, "1");
+        user::click(button(relation, tab.save));
+        shell.press(tab.entry);
+        for (const int count : {5, 7})
+            user::editCell(grid(tab.form, "dgdInfoOfExtract"), 0, count, "2");
+    }
 }
 
 void Session::choose(Bytes& bytes) {
@@ -101,8 +127,8 @@ void Session::onTextBox(TextBox& box, Bytes& bytes) {
 
 void Session::onGrid(Grid& grid, Bytes& bytes) {
     const auto row = static_cast<int>(bytes.below(4));
-    const int column = bytes.next();
-    switch (bytes.below(4)) {
+    const auto column = static_cast<int>(bytes.below(9));
+    switch (bytes.below(5)) {
     case 0:
         user::editCell(grid, row, column, bytes.text());
         break;
@@ -111,6 +137,9 @@ void Session::onGrid(Grid& grid, Bytes& bytes) {
         break;
     case 2:
         user::deleteRow(grid, row);
+        break;
+    case 3:
+        user::goToCell(grid, row, column);
         break;
     default:
         user::clickCell(grid, row, column);

@@ -84,6 +84,41 @@ TEST_F(Blocks, NullsLeaveTheirSeparatorsAndAnExtractWithoutOwnersItsCounts) {
     EXPECT_EQ(proposal.forms.loaded("frmMain712"), nullptr);
 }
 
+TEST_F(Blocks, TheRemarkLastReadClosesThePrcsTooWhileThe712FormIsNotLoaded) {
+    add(*tables.rsExtractPRC, {1});
+    proposal.remark712 = " last read ";
+    proposal.remarkPRC = "of the cards";
+    proposal.forms.get<frmPRCEXT>().txtRemark.setText("typed");
+    buildPRCBlock(proposal);
+    EXPECT_EQ(proposal.prcOwnerXML,
+              "<PRC><NoOfPRC>1</NoOfPRC><PRC1><Static>#####</Static><NoOfOwner>0</NoOfOwner><NoOfPAH>0</NoOfPAH></PRC1>"
+              "<RemarkPRC> last read </RemarkPRC></PRC>");
+}
+
+TEST_F(Blocks, LongWorkTellsHowFarItHasCome) {
+    struct Told : Progress {
+        std::vector<int> steps;
+        int told = 0;
+        int ends = 0;
+        void begin(std::string_view, int count) override { steps.push_back(count); }
+        void step() override { ++told; }
+        void end() override { ++ends; }
+    } told;
+    const Ports plain = ports;
+    Proposal other({plain.dialogs, plain.clock, plain.files, plain.program, told});
+    other.tables.createAllTables();
+    for (int extract = 1; extract <= 30; ++extract) {
+        add(*other.tables.rsExtract712, {extract});
+        if (extract <= 20)
+            add(*other.tables.rsExtractPRC, {extract});
+    }
+    buildExtractBlock(other);
+    buildPRCBlock(other);
+    EXPECT_EQ(told.steps, (std::vector{30, 20}));
+    EXPECT_EQ(told.told, 50);
+    EXPECT_EQ(told.ends, 2);
+}
+
 TEST_F(Blocks, SigningStatuses) {
     add(*tables.rsExtract712, {1});
     for (const std::string_view status :
