@@ -29,7 +29,7 @@ ChildWindow::ChildWindow(Form& shown, ScreenView& screen, QWidget& desk)
     closeBox->setObjectName(QStringLiteral("closeBox"));
     closeBox->setAccessibleName(tr("Close"));
     closeBox->setToolTip(tr("Close (Ctrl+F4)"));
-    closeBox->setText(QString(QChar(0x2715)));
+    closeBox->setText(QString(QChar(0x00D7)));
     closeBox->setAutoRaise(true);
     closeBox->setFocusPolicy(Qt::NoFocus);
     connect(closeBox, &QToolButton::clicked, this, [this] { closeForm(); });

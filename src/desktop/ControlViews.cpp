@@ -189,9 +189,11 @@ public:
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::MouseButtonRelease &&
-            label.rect().contains(static_cast<QMouseEvent*>(event)->pos()))
-            act([this] { user::click(*subject); });
+        if (event->type() == QEvent::MouseButtonRelease) {
+            const auto& mouse = *static_cast<QMouseEvent*>(event);
+            if (mouse.button() == Qt::LeftButton && label.rect().contains(mouse.pos()))
+                act([this] { user::click(*subject); });
+        }
         return ControlView::eventFilter(watched, event);
     }
     void name(const QString&) override {}
