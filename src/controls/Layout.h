@@ -10,14 +10,15 @@ namespace plandesk {
 
 /// One question with the controls that answer it. A row of which no control is visible is not shown.
 struct LayoutRow {
-    std::string_view item;      ///< printed item mark: "3 a.", or empty
-    std::string_view question;  ///< text beside the controls, or empty
+    std::string_view item{};      ///< printed item mark: "3 a.", or empty
+    std::string_view question{};  ///< text beside the controls, over a grid, or empty
     /// Names of the controls in screen order, separated by blanks; a member of an array as NAME(INDEX). A row without
     /// controls shows its question over the whole width.
-    std::string_view controls;
+    std::string_view controls{};
     std::string_view unit{};   ///< "Sq. Mtrs" behind the controls, or empty
     std::string_view mark{};   ///< "*" mandatory, "#" one of a pair, or empty
     std::string_view label{};  ///< name of the label control whose live caption is the question, or empty
+    int lines = 0;             ///< rows of a grid that are to be seen at once; 0: as many as suit most grids
 };
 
 struct LayoutGroup {

@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <functional>
 #include <optional>
+#include <string_view>
 
 #include "controls/Control.h"
 
@@ -42,8 +43,14 @@ public:
     virtual QSize sizeFor(int available, bool alone);
     /// It carries its own words and may stand in the place of a question.
     virtual bool standsAsQuestion() const { return false; }
-    /// It takes the whole width of the page and what height there is.
+    /// It takes the whole width of the page, below its question.
+    virtual bool fillsWidth() const { return false; }
+    /// It takes what height there is, too.
     virtual bool fillsPage() const { return false; }
+    /// How many rows of its contents are to be seen at once; 0: as many as suit most.
+    virtual void showLines(int /*lines*/) {}
+    /// The part of it that takes the keyboard now.
+    virtual QWidget& keyboardPart() { return picture; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -77,7 +84,11 @@ private:
     bool onPage = true;
 };
 
-/// The view of a control of any kind, its widget inside `parent`.
-ControlView& makeControlView(Control& control, QWidget& parent, ScreenView& screen);
+/// Makes the view of a control of the form by its name in the layout; null when the form has no such control.
+using ViewMaker = std::function<ControlView*(std::string_view key, QWidget& parent)>;
+
+/// The view of a control of any kind, its widget inside `parent`. `maker` makes those of other controls that stand
+/// inside it, and lasts as long as the view.
+ControlView& makeControlView(Control& control, QWidget& parent, ScreenView& screen, const ViewMaker& maker);
 
 }  // namespace plandesk::desktop

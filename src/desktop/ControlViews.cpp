@@ -14,11 +14,13 @@
 #include "controls/Form.h"
 #include "controls/User.h"
 #include "desktop/ControlView.h"
+#include "desktop/GridView.h"
 #include "desktop/ListBox.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtText.h"
 #include "desktop/ScreenView.h"
 #include "desktop/TextBoxView.h"
+#include "proposal/Grid.h"
 
 namespace plandesk::desktop {
 
@@ -266,14 +268,20 @@ class TabsView : public ControlView {
 public:
     TabsView(TabStrip& strip, QTabBar& bar, ScreenView& screen) : ControlView(strip, bar, screen), bar(bar) {
         bar.setDrawBase(false);
-        const int first = strip.form().layout().firstTabNumber;
         for (int tab = 0; tab < strip.count(); ++tab)
-            bar.addTab(QString::number(first + tab));
+            bar.addTab(tabText(strip.form(), tab));
         connect(&bar, &QTabBar::currentChanged, this,
                 [this](int tab) { act([&] { user::showTab(static_cast<TabStrip&>(*subject), tab); }); });
     }
 
 private:
+    /// A tab of one frame is called as that; any other has a number.
+    static QString tabText(const Form& form, int tab) {
+        const Layout& layout = form.layout();
+        const auto groups = layout.pages[static_cast<std::size_t>(tab)].groups;
+        const auto* frame = groups.size() == 1 ? dynamic_cast<Frame*>(form.findKey(groups.front().frame)) : nullptr;
+        return frame ? toQt(frame->caption()) : QString::number(layout.firstTabNumber + tab);
+    }
     bool changesByWheel() const override { return true; }
     void syncContent() override { bar.setCurrentIndex(static_cast<TabStrip&>(*subject).tab()); }
 
@@ -294,6 +302,7 @@ public:
         constexpr int lines = 26;
         return {std::min(available, naturalWidth(alone)), lines * picture.fontMetrics().lineSpacing()};
     }
+    bool fillsWidth() const override { return true; }
     bool fillsPage() const override { return true; }
 
 private:
@@ -302,7 +311,7 @@ private:
 
 }  // namespace
 
-ControlView& makeControlView(Control& control, QWidget& parent, ScreenView& screen) {
+ControlView& makeControlView(Control& control, QWidget& parent, ScreenView& screen, const ViewMaker& maker) {
     switch (control.kind()) {
     case ControlKind::TextBox:
         return makeTextBoxView(static_cast<TextBox&>(control), parent, screen);
@@ -326,7 +335,7 @@ ControlView& makeControlView(Control& control, QWidget& parent, ScreenView& scre
     case ControlKind::Frame:
         return *new LabelView(static_cast<Captioned&>(control), *new QLabel(&parent), screen);
     case ControlKind::Grid:
-        break;
+        return makeGridView(static_cast<Grid&>(control), parent, screen, maker);
     }
     return *new ControlView(control, *new QWidget(&parent), screen);
 }

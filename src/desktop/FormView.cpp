@@ -38,7 +38,7 @@ ControlView* FormView::makeView(std::string_view key, QWidget& parent) {
     Control* control = key.empty() ? nullptr : form->findKey(key);
     if (!control)
         return nullptr;
-    ControlView& view = makeControlView(*control, parent, screen);
+    ControlView& view = makeControlView(*control, parent, screen, maker);
     drawn[control] = &view;
     view.sync();
     return &view;
@@ -81,8 +81,7 @@ void FormView::drawPage(std::size_t number) {
     page.area = new QScrollArea(this);
     page.area->setFrameShape(QFrame::NoFrame);
     page.area->setFocusPolicy(Qt::NoFocus);
-    page.view = new PageView(*page.area, std::move(groups), layout.questionWidth,
-                             [this](std::string_view key, QWidget& parent) { return makeView(key, parent); });
+    page.view = new PageView(*page.area, std::move(groups), layout.questionWidth, maker);
     page.area->setWidget(page.view);
 }
 
@@ -97,7 +96,10 @@ void FormView::syncAll() {
     QPalette palette;
     palette.setColor(QPalette::Window, toQt(form->backColor()));
     setPalette(palette);
+    Views views;  // of their own, since the view of a grid may make more
     for (const auto& [control, view] : drawn)
+        views.push_back(view);
+    for (ControlView* view : views)
         view->sync();
 }
 
@@ -107,13 +109,19 @@ void FormView::detach() {
         view->detach();
 }
 
-QWidget* FormView::widgetOf(const Control& control) const {
+ControlView* FormView::viewOf(const Control& control) const {
     const auto view = drawn.find(&control);
-    return view == drawn.end() ? nullptr : &view->second->widget();
+    return view == drawn.end() ? nullptr : view->second;
+}
+
+QWidget* FormView::widgetOf(const Control& control) const {
+    const ControlView* view = viewOf(control);
+    return view ? &view->widget() : nullptr;
 }
 
 void FormView::takeKeys(const Control* control, Qt::FocusReason reason) {
-    QWidget* widget = control && control->takesFocus() ? widgetOf(*control) : nullptr;
+    ControlView* view = control && control->takesFocus() ? viewOf(*control) : nullptr;
+    QWidget* widget = view ? &view->keyboardPart() : nullptr;
     if (!widget || !widget->isVisibleTo(this))
         widget = this;
     if (window()->focusWidget() == widget)

@@ -49,6 +49,8 @@ private:
     using Views = std::vector<ControlView*>;
 
     ControlView* makeView(std::string_view key, QWidget& parent);
+    /// Null when it has not been drawn.
+    ControlView* viewOf(const Control& control) const;
     Views makeViews(std::string_view keys);
     std::size_t chosenPage() const;
     void showChosenPage();
@@ -59,6 +61,7 @@ private:
 
     Form* form;
     ScreenView& screen;
+    const ViewMaker maker = [this](std::string_view key, QWidget& parent) { return makeView(key, parent); };
     std::unordered_map<const Control*, ControlView*> drawn;
     Views head;
     ControlView* tabs = nullptr;

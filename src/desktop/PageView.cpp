@@ -45,12 +45,14 @@ PageView::Group PageView::makeGroup(const LayoutGroup& group, const ViewMaker& m
     }
     for (const std::string_view head : group.heads)
         made.heads.push_back(makeLabel(trim(head)));
-    for (const LayoutRow& row : group.rows)
-        made.rows.push_back(makeRow(row, group.heads, maker));
+    for (const LayoutRow& row : group.rows) {
+        made.rows.push_back(makeRow(row, maker));
+        nameControls(made.rows.back(), made);
+    }
     return made;
 }
 
-PageView::Row PageView::makeRow(const LayoutRow& row, std::span<const std::string_view> heads, const ViewMaker& maker) {
+PageView::Row PageView::makeRow(const LayoutRow& row, const ViewMaker& maker) {
     Row made;
     if (!trim(row.item).empty()) {
         made.item = makeLabel(trim(row.item));
@@ -68,21 +70,32 @@ PageView::Row PageView::makeRow(const LayoutRow& row, std::span<const std::strin
         palette.setColor(QPalette::WindowText, markRed);
         made.mark->setPalette(palette);
     }
-    for (const std::string& key : split(row.controls, " "))
-        if (ControlView* view = maker(key, *this))
+    for (const std::string& key : split(row.controls, " ")) {
+        if (ControlView* view = maker(key, *this)) {
+            view->showLines(row.lines);
             made.controls.push_back(view);
+        }
+    }
     if (!row.unit.empty())
         made.unit = makeLabel(row.unit);
-    nameControls(made, heads);
+    if (made.question && fillsWidth(made)) {
+        QFont bold = font();
+        bold.setBold(true);
+        made.question->setFont(bold);
+    }
     return made;
 }
 
-void PageView::nameControls(const Row& row, std::span<const std::string_view> heads) {
+void PageView::nameControls(const Row& row, const Group& group) {
     const bool leads = leadsRow(row);
     QString question = row.question ? row.question->text() : QString();
+    if (question.isEmpty() && fillsWidth(row))
+        question = group.frame   ? static_cast<QLabel&>(group.frame->widget()).text()
+                   : group.title ? group.title->text()
+                                 : QString();
     std::size_t column = leads ? 0 : 1;
     for (ControlView* view : row.controls) {
-        const QString head = column > 0 && column < heads.size() ? toQt(trim(heads[column])) : QString();
+        const QString head = column > 0 && column < group.heads.size() ? group.heads[column]->text() : QString();
         view->name(head.isEmpty() ? question : question + ": " + head);
         if (leads && column == 0)
             question = view->widget().accessibleName();
@@ -94,6 +107,10 @@ QLabel* PageView::makeLabel(std::string_view text) {
     auto* label = new QLabel(toQt(text), this);
     label->setTextFormat(Qt::PlainText);
     return label;
+}
+
+bool PageView::fillsWidth(const Row& row) {
+    return row.controls.size() == 1 && row.controls.front()->fillsWidth();
 }
 
 bool PageView::leadsRow(const Row& row) {
@@ -112,6 +129,8 @@ void PageView::updateShown() {
                                                    : std::ranges::any_of(row.controls, shownByCode);
             row.shown = group.shown && some;
             setShown(row);
+            if (row.liveQuestion)
+                nameControls(row, group);
         }
     }
 }
@@ -157,6 +176,7 @@ PageView::Columns PageView::columnsFor(int width) const {
     int mark = 0;
     int question = 0;
     int answers = 0;
+    int filling = 0;
     for (const Group& group : groups) {
         const std::vector<int> table = tableColumns(group);
         answers = std::max(answers, std::accumulate(table.begin(), table.end(), 0));
@@ -165,6 +185,10 @@ PageView::Columns PageView::columnsFor(int width) const {
                 item = std::max(item, row.item->sizeHint().width() + gap());
             if (row.mark)
                 mark = std::max(mark, row.mark->sizeHint().width());
+            if (fillsWidth(row)) {
+                filling = std::max(filling, row.controls.front()->naturalWidth(true));
+                continue;
+            }
             if (row.question && !row.controls.empty())
                 question = std::max(question, fontMetrics().horizontalAdvance(row.question->text()) + 1);
             if (!group.heads.empty() && leadsRow(row))
@@ -184,7 +208,8 @@ PageView::Columns PageView::columnsFor(int width) const {
     columns.questionWidth = std::min(question, room - std::min(answers, room * answerShare / percent));
     columns.mark = columns.question + columns.questionWidth + gap();
     columns.controls = columns.mark + mark + gap();
-    columns.naturalWidth = columns.question + question + mark + 2 * gap() + answers + margin;
+    columns.naturalWidth =
+        std::max(columns.question + question + mark + 2 * gap() + answers, columns.item + filling) + margin;
     return columns;
 }
 
@@ -316,8 +341,8 @@ int PageView::placeTableRow(const Row& row, const Columns& columns, const std::v
 int PageView::placeRow(const Row& row, const Columns& columns, int top) {
     if (row.controls.empty())
         return placeQuestion(row, columns, top, columns.right - columns.question);
-    if (row.controls.size() == 1 && row.controls.front()->fillsPage())
-        return placeFilling(*row.controls.front(), columns, top);
+    if (fillsWidth(row))
+        return placeFilling(row, columns, top);
     const int room = columns.right - columns.controls;
     const bool tooWide = std::ranges::any_of(
         row.controls, [room](const ControlView* view) { return shownByCode(view) && view->leastWidth() > room; });
@@ -327,14 +352,22 @@ int PageView::placeRow(const Row& row, const Columns& columns, int top) {
     return std::max(questionBottom, placeControls(row, columns.controls, columns.right, top));
 }
 
-int PageView::placeFilling(ControlView& view, const Columns& columns, int top) {
+int PageView::placeFilling(const Row& row, const Columns& columns, int top) {
     const int width = columns.right - columns.item;
+    int start = top;
+    if (row.question) {
+        start += gap() / 2;
+        const int height = row.question->heightForWidth(width);
+        row.question->setGeometry(columns.item, start, width, height);
+        start += height + gap() / 2;
+    }
+    ControlView& view = *row.controls.front();
     constexpr int leastLines = 8;
-    const int left = lastViewHeight - top - 2 * gap() - gap() / 2;
-    const int height =
-        lastViewHeight == 0 ? view.sizeFor(width, true).height() : std::max(left, leastLines * lineHeight());
-    view.widget().setGeometry(columns.item, top, width, height);
-    return top + height;
+    const int left = lastViewHeight - start - 2 * gap() - gap() / 2;
+    const bool stretches = view.fillsPage() && lastViewHeight > 0;
+    const int height = stretches ? std::max(left, leastLines * lineHeight()) : view.sizeFor(width, true).height();
+    view.widget().setGeometry(columns.item, start, width, height);
+    return start + height;
 }
 
 int PageView::placeControls(const Row& row, int left, int right, int top) {

@@ -12,9 +12,6 @@
 
 namespace plandesk::desktop {
 
-/// Makes the view of a control of the form by its name in the layout; null when the form has no such control.
-using ViewMaker = std::function<ControlView*(std::string_view key, QWidget& parent)>;
-
 /// One page of a form: groups of rows, each a question with the controls that answer it, in columns that run down the
 /// whole page. What does not fit beside its question stands below it.
 class PageView : public QWidget {
@@ -61,9 +58,11 @@ private:
     };
 
     Group makeGroup(const LayoutGroup& group, const ViewMaker& maker);
-    Row makeRow(const LayoutRow& row, std::span<const std::string_view> heads, const ViewMaker& maker);
+    Row makeRow(const LayoutRow& row, const ViewMaker& maker);
     QLabel* makeLabel(std::string_view text);
-    static void nameControls(const Row& row, std::span<const std::string_view> heads);
+    static void nameControls(const Row& row, const Group& group);
+    /// Whether the row is one control over the whole width of the page, with its question as a heading.
+    static bool fillsWidth(const Row& row);
     /// Whether the row's first control carries the words that others have as their question.
     static bool leadsRow(const Row& row);
     /// Whether the row has one text box, which may then be wide.
@@ -81,7 +80,7 @@ private:
     int placeTableRow(const Row& row, const Columns& columns, const std::vector<int>& widths, int top);
     int placeRow(const Row& row, const Columns& columns, int top);
     int placeQuestion(const Row& row, const Columns& columns, int top, int width);
-    int placeFilling(ControlView& view, const Columns& columns, int top);
+    int placeFilling(const Row& row, const Columns& columns, int top);
     int placeControls(const Row& row, int left, int right, int top);
     int lineHeight() const;
     int gap() const;

@@ -11,7 +11,7 @@ namespace plandesk::desktop {
 
 namespace {
 
-/// Marks of options and check boxes grow with the font.
+/// Marks of options and check boxes grow with the font; heads of tables stand over the texts of their columns.
 class GrowingStyle : public QProxyStyle {
 public:
     GrowingStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -24,6 +24,8 @@ public:
         case PM_ExclusiveIndicatorWidth:
         case PM_ExclusiveIndicatorHeight:
             return widget ? std::max(given, widget->fontMetrics().ascent()) : given;
+        case PM_HeaderMargin:
+            return 6;
         default:
             return given;
         }

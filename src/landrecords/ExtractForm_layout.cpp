@@ -13,12 +13,9 @@ constexpr LayoutRow headRows[] = {
 };
 
 constexpr LayoutRow extractRows[] = {
-    {"", "", "lblInfoExtract"},
-    {"", "", "dgdInfoOfExtract"},
-    {"", "Original Ownership", ""},
-    {"", "", "dgdOwner"},
-    {"", "Power Of Attorney Information", ""},
-    {"", "", "dgdPAH"},
+    {.controls = "dgdInfoOfExtract", .label = "lblInfoExtract", .lines = 1},
+    {.question = "Original Ownership", .controls = "dgdOwner", .lines = 5},
+    {.question = "Power Of Attorney Information", .controls = "dgdPAH", .lines = 3},
 };
 
 constexpr LayoutRow remarkRows[] = {

@@ -8,7 +8,7 @@ namespace {
 
 constexpr LayoutRow plotRows712[] = {
     {"", "No. of Plot", "txtNoOfPlot712 cmdAddPlot"},
-    {"", "", "dgd712ExtractRelation"},
+    {.controls = "dgd712ExtractRelation", .lines = 8},
     {"", "Total No. of Extract : ", "txtNoOfExtract712"},
     {"", "", "cmdSave712Relation cmdRefereshExtract close712Extract"},
     {"", "", "Label5"},
@@ -16,7 +16,7 @@ constexpr LayoutRow plotRows712[] = {
 
 constexpr LayoutRow plotRowsPRC[] = {
     {"", "No. of Plot", "txtNoOfPlot cmdAddPlotPRC"},
-    {"", "", "dgdPRCPlotRel"},
+    {.controls = "dgdPRCPlotRel", .lines = 8},
     {"", "Total No. of PRC :", "txtNoOfPrc"},
     {"", "", "cmdSave cmdRefereshPRC cmdClose"},
     {"", "", "Label6"},

@@ -314,5 +314,12 @@ bool deleteRow(Grid& grid, int row) {
     return act(grid, [&] { return grid.deleteRow(row); });
 }
 
+bool editText(Grid& grid, std::string_view text) {
+    return act(grid, [&] {
+        grid.beginEdit(text);
+        return grid.editing();
+    });
+}
+
 }  // namespace user
 }  // namespace plandesk

@@ -152,6 +152,9 @@ bool clickCell(Grid& grid, int row, int column);
 bool goToCell(Grid& grid, int row, int column);
 bool pressCellButton(Grid& grid, int row, int column);
 bool deleteRow(Grid& grid, int row);
+/// A text editor changed the text of the current cell as a whole (a paste, a cut): no key filter sees it. Starts an
+/// edit where none is under way; false where the cell takes none.
+bool editText(Grid& grid, std::string_view text);
 
 }  // namespace user
 }  // namespace plandesk

@@ -9,6 +9,8 @@
 
 #include "desktop/Theme.h"
 #include "gui/Session.h"
+#include "landrecords/frmPlotExtractRelation.h"
+#include "screenshots/LandRecords.h"
 
 namespace {
 
@@ -75,6 +77,23 @@ void takeAll(const std::filesystem::path& folder, const std::string& suffix) {
             camera.takePages(*form);
 }
 
+/// The forms of the land records with data in them.
+void takeLandRecords(const std::filesystem::path& folder, const std::string& suffix) {
+    Session session;
+    Camera camera(session, folder, suffix);
+    session.press("mnuNew");
+    const auto take = [&](const std::string& name, void (*enter)(Session&)) {
+        enter(session);
+        camera.take(name);
+    };
+    take("frmPlotExtractRelation", enterPlots);
+    session.form<frmPlotExtractRelation>().SSTab1.setTab(1);
+    camera.take("frmPlotExtractRelation-prc");
+    take("frmMain712", enterExtracts);
+    take("frmPRCEXT", enterCards);
+    take("frmNaOrder", enterNaOrder);
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -87,9 +106,11 @@ int main(int argc, char* argv[]) {
     const std::filesystem::path folder = argv[1];
     std::filesystem::create_directories(folder);
     takeAll(folder, "");
+    takeLandRecords(folder, "");
     QFont large = QApplication::font();
     large.setPointSizeF(2 * large.pointSizeF());
     QApplication::setFont(large);
     takeAll(folder, "-large");
+    takeLandRecords(folder, "-large");
     return 0;
 }

@@ -1,0 +1,86 @@
+#include "desktop/GridModel.h"
+
+#include <tuple>
+
+#include "base/Text.h"
+#include "desktop/ControlView.h"
+#include "desktop/QtText.h"
+
+namespace plandesk::desktop {
+
+GridModel::GridModel(const ControlView& view) : view(view) {}
+
+const Grid* GridModel::grid() const {
+    return static_cast<const Grid*>(view.control());
+}
+
+void GridModel::look() {
+    const Grid* shown = grid();
+    if (!shown)
+        return;
+    const auto now = std::tuple(static_cast<const Recordset*>(shown->table()), shown->rowCount(), shown->columnCount());
+    if (now != std::tie(table, rows, columns)) {
+        beginResetModel();
+        std::tie(table, rows, columns) = now;
+        endResetModel();
+    } else if (rows > 0 && columns > 0) {
+        emit dataChanged(index(0, 0), index(rows - 1, columns - 1));
+        emit headerDataChanged(Qt::Horizontal, 0, columns - 1);
+    }
+}
+
+GridColumn GridModel::column(int column) const {
+    const Grid* shown = grid();
+    return shown ? shown->column(column) : GridColumn{};
+}
+
+ColumnKind GridModel::kind(int column) const {
+    const Grid* shown = grid();
+    return shown && column < shown->columnCount() ? shown->table()->columns()[static_cast<std::size_t>(column)].kind
+                                                  : ColumnKind::Text;
+}
+
+bool GridModel::isCurrent(const QModelIndex& cell) const {
+    const Grid* shown = grid();
+    return shown && shown->currentRow() == cell.row() && shown->currentColumn() == cell.column();
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows;
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : columns;
+}
+
+QVariant GridModel::alignment(int column) const {
+    const bool number = kind(column) == ColumnKind::Integer || kind(column) == ColumnKind::Double;
+    return int(Qt::AlignVCenter | (number ? Qt::AlignRight : Qt::AlignLeft));
+}
+
+QVariant GridModel::data(const QModelIndex& cell, int role) const {
+    if (role == Qt::TextAlignmentRole)
+        return alignment(cell.column());
+    const Grid* shown = grid();
+    // A table may have lost rows since the last look.
+    const bool there = shown && cell.row() < shown->rowCount() && cell.column() < shown->columnCount();
+    if (role != Qt::DisplayRole || !there)
+        return {};
+    return toQt(shown->cellText(cell.row(), cell.column()));
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return alignment(section).toInt() | int(Qt::TextWordWrap);
+    return role == Qt::DisplayRole ? toQt(trim(column(section).caption)) : QVariant();
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& cell) const {
+    const Grid* shown = grid();
+    const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    return shown && shown->editable(cell.column()) ? flags | Qt::ItemIsEditable : flags;
+}
+
+}  // namespace plandesk::desktop

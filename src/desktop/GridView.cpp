@@ -1,0 +1,297 @@
+#include "desktop/GridView.h"
+
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <map>
+#include <optional>
+
+#include "base/Text.h"
+#include "controls/Form.h"
+#include "controls/Screen.h"
+#include "controls/User.h"
+#include "desktop/FilteredEdit.h"
+#include "desktop/GridTable.h"
+#include "desktop/QtText.h"
+#include "desktop/ScreenView.h"
+#include "proposal/Grid.h"
+
+namespace plandesk::desktop {
+
+namespace {
+
+using CellEdit = FilteredEdit<QLineEdit>;
+
+/// Keys that a line of text has no use of its own for.
+constexpr std::array keysOutOfLine = {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
+
+bool isMouse(QEvent::Type type) {
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove ||
+           type == QEvent::MouseButtonRelease;
+}
+
+class GridView : public ControlView {
+public:
+    GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& screen, const ViewMaker& maker);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    int naturalWidth(bool /*alone*/) const override { return 0; }
+    QSize sizeFor(int available, bool /*alone*/) override { return {available, table.heightFor(lines, available)}; }
+    bool fillsWidth() const override { return true; }
+    void showLines(int wanted) override { lines = wanted > 0 ? wanted : usualLines; }
+    QWidget& keyboardPart() override { return line.isHidden() ? picture : line; }
+
+private:
+    static constexpr int usualLines = 5;
+
+    Grid& grid() const { return static_cast<Grid&>(*subject); }
+    QModelIndex currentCell() const { return model.index(grid().currentRow(), grid().currentColumn()); }
+
+    void syncContent() override;
+    QPalette::ColorRole backRole() const override { return QPalette::Base; }
+    void syncLine();
+    void placeParts();
+    void placeEditor(const Grid::Floating& floating);
+    ControlView* editorView(const Grid::Floating& floating);
+
+    bool systemKey(const QKeyEvent& event) override;
+    bool keyInLine(const QKeyEvent& event);
+    void goTo(const QModelIndex& cell);
+    void typeKeys(const QString& text);
+    void handOn(const QKeyEvent& event);
+    void edit(const QString& text);
+    void editPresentText();
+    bool compose(QInputMethodEvent& event);
+    bool mouse(const QMouseEvent& event);
+    void press(const QModelIndex& cell, bool button);
+
+    GridTable& table;
+    GridModel model{*this};
+    CellEdit& line;
+    const ViewMaker& maker;
+    std::map<const Control*, ControlView*> editors;
+    int lines = usualLines;
+};
+
+GridView::GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& screen, const ViewMaker& maker)
+    : ControlView(grid, table, screen), table(table), line(line), maker(maker) {
+    line.hide();
+    line.setFrame(false);
+    line.setMaxLength(std::numeric_limits<int>::max());
+    line.filter = [this](int key) { return subject ? subject->form().keyPress(key) : 0; };
+    connect(&line, &QLineEdit::textEdited, this, [this](const QString& text) {
+        edit(text);
+        if (subject)
+            this->table.scrollTo(currentCell());
+    });
+    table.show(model);
+    table.cellsMoved = [this] { placeParts(); };
+}
+
+void GridView::syncContent() {
+    model.look();
+    table.fitColumns();
+    const QModelIndex current = currentCell();
+    if (table.currentIndex() != current)
+        table.selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    placeParts();
+    syncLine();
+}
+
+void GridView::syncLine() {
+    const bool editing = grid().editing();
+    if (!editing && !line.isHidden()) {
+        // The toolkit would look for another place for the keyboard by itself.
+        if (line.hasFocus())
+            table.setFocus(Qt::NoFocusReason);
+        line.hide();
+    }
+    if (!editing)
+        return;
+    if (const QString text = toQt(grid().editText()); line.text() != text)
+        line.setText(text);
+    if (!line.isHidden())
+        return;
+    const QModelIndex current = currentCell();
+    line.setAccessibleName(model.headerData(current.column(), Qt::Horizontal, Qt::DisplayRole).toString());
+    line.setAlignment(Qt::Alignment(model.data(current, Qt::TextAlignmentRole).toInt()));
+    table.scrollTo(current);
+    placeParts();
+    line.show();
+    line.raise();
+}
+
+/// Puts what floats over cells where its cell stands now.
+void GridView::placeParts() {
+    if (!subject)
+        return;
+    for (const Grid::Floating& floating : grid().floatingEditors())
+        placeEditor(floating);
+    // The frame of the current cell stays in sight around the line.
+    constexpr int frame = 2;
+    line.setGeometry(table.visualRect(currentCell()).adjusted(frame, frame, -frame, -frame));
+    line.raise();
+}
+
+void GridView::placeEditor(const Grid::Floating& floating) {
+    ControlView* view = editorView(floating);
+    if (!view)
+        return;
+    const QRect cell = table.visualRect(model.index(floating.row, floating.column));
+    // One that has the keyboard keeps it when its cell is scrolled away.
+    view->setOnPage(cell.intersects(table.viewport()->rect()) || floating.editor->focused());
+    // A list would take the width of its items by itself.
+    view->widget().setFixedSize(cell.size());
+    view->widget().move(cell.topLeft());
+    view->widget().raise();
+}
+
+ControlView* GridView::editorView(const Grid::Floating& floating) {
+    const auto known = editors.find(floating.editor);
+    if (known != editors.end())
+        return known->second;
+    ControlView* view = maker(floating.editor->key(), *table.viewport());
+    if (view) {
+        view->name(model.headerData(floating.column, Qt::Horizontal, Qt::DisplayRole).toString());
+        view->widget().installEventFilter(this);
+    }
+    return editors[floating.editor] = view;
+}
+
+bool GridView::eventFilter(QObject* watched, QEvent* event) {
+    if (!subject)
+        return false;
+    const bool key = event->type() == QEvent::KeyPress;
+    if (watched == &line)
+        return key && keyInLine(*static_cast<QKeyEvent*>(event));
+    if (watched == &table && event->type() == QEvent::InputMethod)
+        return compose(*static_cast<QInputMethodEvent*>(event));
+    if (watched == table.viewport() && isMouse(event->type()))
+        return mouse(*static_cast<QMouseEvent*>(event));
+    for (const auto& [editor, view] : editors) {
+        if (!view || watched != &view->widget())
+            continue;
+        const Grid::Floating place = grid().floating(*editor);
+        if (key)
+            table.scrollTo(model.index(place.row, place.column));
+        return false;
+    }
+    return ControlView::eventFilter(watched, event);
+}
+
+bool GridView::systemKey(const QKeyEvent& event) {
+    // A key that an editor over a cell had no use for is not meant for the cell below it.
+    if (!table.hasFocus())
+        return false;
+    if (const std::optional<QModelIndex> cell = table.target(event)) {
+        goTo(*cell);
+    } else if (event.matches(QKeySequence::Paste)) {
+        edit(QGuiApplication::clipboard()->text());
+    } else if (event.key() == Qt::Key_Delete) {
+        act([this] { user::deleteRow(grid(), grid().currentRow()); });
+    } else if (event.key() == Qt::Key_Backspace) {
+        act([this] { user::press(*subject, "Backspace"); });
+    } else if (const QString text = typedText(event); !text.isEmpty()) {
+        typeKeys(text);
+        handOn(event);
+    } else {
+        return ControlView::systemKey(event);
+    }
+    return true;
+}
+
+bool GridView::keyInLine(const QKeyEvent& event) {
+    if (std::ranges::find(keysOutOfLine, event.key()) == keysOutOfLine.end())
+        return ControlView::systemKey(event);
+    goTo(table.target(event).value_or(QModelIndex()));
+    return true;
+}
+
+void GridView::goTo(const QModelIndex& cell) {
+    act([&] { user::goToCell(grid(), cell.row(), cell.column()); });
+}
+
+void GridView::typeKeys(const QString& text) {
+    for (const char32_t point : codePoints(fromQt(text))) {
+        std::string key;
+        appendUtf8(key, point);
+        act([&] { user::press(*subject, key == " " ? "Space" : key); });
+    }
+}
+
+/// An editor of the form that came up at the first key takes that key too.
+void GridView::handOn(const QKeyEvent& event) {
+    if (!subject)
+        return;
+    for (const Grid::Floating& floating : grid().floatingEditors()) {
+        const ControlView* view = editorView(floating);
+        if (!view || !floating.editor->focused())
+            continue;
+        QKeyEvent same(event.type(), event.key(), event.modifiers(), event.text());
+        QCoreApplication::sendEvent(&view->widget(), &same);
+        return;
+    }
+}
+
+void GridView::edit(const QString& text) {
+    act([&] { user::editText(grid(), fromQt(text)); });
+}
+
+void GridView::editPresentText() {
+    if (grid().currentRow() < 0 || grid().editing())
+        return;
+    edit(model.data(currentCell(), Qt::DisplayRole).toString());
+    line.selectAll();
+}
+
+/// A text that is composed begins in the cell, and goes on in the line.
+bool GridView::compose(QInputMethodEvent& event) {
+    if (event.preeditString().isEmpty() && event.commitString().isEmpty())
+        return false;
+    editPresentText();
+    if (!line.isHidden())
+        QCoreApplication::sendEvent(&line, &event);
+    return true;
+}
+
+bool GridView::mouse(const QMouseEvent& event) {
+    const bool again = event.type() == QEvent::MouseButtonDblClick;
+    if (event.button() != Qt::LeftButton || (!again && event.type() != QEvent::MouseButtonPress))
+        return true;
+    const QModelIndex cell = table.indexAt(event.pos());
+    const bool button = cell.isValid() && table.buttonRect(cell).contains(event.pos());
+    if (again && !button)
+        editPresentText();
+    else
+        press(cell, button);
+    return true;
+}
+
+void GridView::press(const QModelIndex& cell, bool button) {
+    act(
+        [&] {
+            if (!cell.isValid())
+                user::focus(*subject);
+            else if (button)
+                user::pressCellButton(grid(), cell.row(), cell.column());
+            else
+                user::clickCell(grid(), cell.row(), cell.column());
+        },
+        Qt::MouseFocusReason);
+}
+
+}  // namespace
+
+ControlView& makeGridView(Grid& grid, QWidget& parent, ScreenView& screen, const ViewMaker& maker) {
+    auto* table = new GridTable(parent);
+    return *new GridView(grid, *table, *new CellEdit(table->viewport()), screen, maker);
+}
+
+}  // namespace plandesk::desktop
