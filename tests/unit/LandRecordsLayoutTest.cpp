@@ -1,4 +1,5 @@
 #include <array>
+#include <string>
 #include <string_view>
 
 #include <gtest/gtest.h>
@@ -55,7 +56,7 @@ TEST_F(LandRecordsLayout, AsksItsQuestionsInTheirWords) {
     for (const Question& asked : questions) {
         SCOPED_TRACE(asked.control);
         const LayoutRow* found = row(asked.form, [&](const LayoutRow& each) {
-            return split(each.controls, " ").size() > 0 && split(each.controls, " ").front() == asked.control;
+            return (std::string(each.controls) + " ").starts_with(std::string(asked.control) + " ");
         });
         ASSERT_NE(found, nullptr);
         EXPECT_EQ(found->question, asked.question);
