@@ -382,6 +382,63 @@ TEST_F(Extracts, TheOwnerTypeIsWrittenWithoutALookWhetherThereIsARow) {
     EXPECT_EQ(ports.dialogs.take().size(), 1U);
 }
 
+TEST_F(Owners, AStatusListLeftWhenItsRowIsGoneWritesNothing) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    user::pick(form.cmbOwnSingingStatus, 1);
+    form.addOwner(0);
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_TRUE(ports.dialogs.take().empty());
+    EXPECT_EQ(tables.rsOwner712->rowCount(), 0);
+}
+
+TEST_F(Extracts, ADatePickedWhileNoExtractIsCurrentIsPassedOver) {
+    relate({2});
+    auto& form = open712();
+    user::pressCellButton(form.dgdInfoOfExtract, 0, 3);
+    user::click(form.cmdSave);
+    open712();
+    EXPECT_EQ(form.dgdInfoOfExtract.currentRow(), -1);
+    user::pickDate(form.DTPicker1, Date{2001, 2, 3});
+    EXPECT_EQ(rowTexts(*tables.rsExtract712)[0], "1|null|null|15/03/2024|null|null|null|null");
+    EXPECT_TRUE(ports.dialogs.take().empty());
+}
+
+TEST_F(Extracts, PrcsAreBuiltForACountWithoutAnyPlotToListThem) {
+    proposal.noOfPRC = 2;
+    auto& form = proposal.forms.get<frmPRCEXT>();
+    EXPECT_EQ(form.cmbExtract.listCount(), 0);
+    EXPECT_TRUE(form.cmbExtract.enabled());
+    EXPECT_EQ(rowTexts(*tables.rsExtractPRC),
+              (Texts{"1|null|null|15/03/2024|0|0|0|0", "2|null|null|15/03/2024|0|0|0|0"}));
+    EXPECT_TRUE(ports.dialogs.take().empty());
+}
+
+TEST_F(Extracts, EnterInTheCountOfThePrcFormActsAsTabAndFillsTheList) {
+    relate({2}, true);
+    auto& form = openPrc();
+    user::click(form.cmdReferesh);
+    user::type(form.txtNoOfExtranct, "2");
+    user::press(form.txtNoOfExtranct, "Enter");
+    EXPECT_FALSE(form.txtNoOfExtranct.focused());
+    EXPECT_EQ(form.cmbExtract.listCount(), 2);
+}
+
+TEST_F(Extracts, ProceduresOfTheFormRunByName) {
+    relate({1});
+    auto& form = open712();
+    form.dgdPAH.setColumns({});
+    EXPECT_TRUE(form.run("dgdPAHCallSetting"));
+    EXPECT_EQ(form.dgdPAH.column(2).caption, "Holder Name");
+    form.cmbExtract.clear();
+    EXPECT_TRUE(form.run("txtNoOfExtranct_LostFocus"));
+    EXPECT_EQ(form.cmbExtract.listCount(), 1);
+    form.lblInfoExtract.setCaption("");
+    EXPECT_TRUE(form.run("cmbExtract_Click"));
+    EXPECT_EQ(form.lblInfoExtract.caption(), " Information For Extract No :- 1");
+    EXPECT_TRUE(form.run("cmdSave_Click"));
+    EXPECT_NE(proposal.extractOwnerXML, "");
+}
+
 TEST_F(Extracts, TheButtonTogglesAHoldersSign) {
     relate({1});
     auto& form = open712();

@@ -230,6 +230,16 @@ TEST_F(GridTest, ReactionToAMoveMaySendTheUserElsewhere) {
     EXPECT_EQ(log, Log{});
 }
 
+TEST_F(GridTest, ReactionToAnEditMayTakeTheFocusThatTabWouldMove) {
+    grid.moveTo(0, 1);
+    grid.afterColumnUpdate = [this](int) { box.setFocus(); };
+    user::press(grid, "A");
+    user::press(grid, "Tab");
+    EXPECT_TRUE(box.focused());
+    EXPECT_EQ(grid.currentColumn(), 1);
+    EXPECT_EQ(owner(0), "A");
+}
+
 TEST_F(GridTest, BoundToANarrowerTableItsCurrentColumnIsTheFirst) {
     static constexpr std::array<Column, 1> narrow = {{{"Name", ColumnKind::Text}}};
     grid.moveTo(0, 4);

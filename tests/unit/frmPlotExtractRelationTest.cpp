@@ -208,6 +208,48 @@ TEST_F(PlotExtractRelation, ReducingAPlotByTwoRemovesTheWrongRowsFromTheSecondOn
     EXPECT_EQ(numbers(*tables.rsExtract712), "1 2 3");
 }
 
+TEST_F(PlotExtractRelation, NumbersBelowOneAreSkipped) {
+    enter(false, {2});
+    save();
+    form.open();
+    tables.rsExtract712->moveFirst();
+    for (const char* survey : {"a", "b"}) {
+        tables.rsExtract712->set("SurveyNo", std::string(survey));
+        tables.rsExtract712->moveNext();
+    }
+    enter(false, {-3});
+    save();
+    // -2 to 2 were to go; 1 takes "a", and then there is no 2.
+    EXPECT_EQ(column(*tables.rsExtract712, 1), "b");
+    EXPECT_EQ(numbers(*tables.rsExtract712), "1");
+    EXPECT_EQ(proposal.noOfExtract712, -3);
+}
+
+TEST_F(PlotExtractRelation, TheLastPlotDeletedLeavesEverySecondOfItsExtracts) {
+    enter(false, {4});
+    save();
+    form.open();
+    ports.dialogs.answers = {"yes"};
+    user::deleteRow(form.dgd712ExtractRelation, 0);
+    EXPECT_EQ(form.txtNoOfExtract712.text(), "0");
+    save();
+    EXPECT_EQ(numbers(*tables.rsExtract712), "1 2");
+    EXPECT_EQ(proposal.plotRelXML, "1^#^0^#^");
+}
+
+TEST_F(PlotExtractRelation, ProceduresThatSetTheColumnsRunByName) {
+    enter(false, {1});
+    enter(true, {1});
+    form.dgd712ExtractRelation.setColumns({});
+    form.dgdPRCPlotRel.setColumns({});
+    EXPECT_TRUE(form.run("dgd712ExtractRelationColSetting"));
+    EXPECT_TRUE(form.run("dgdPRCPlotRelColSetting"));
+    EXPECT_EQ(form.dgd712ExtractRelation.column(3).caption, "No. of Extract");
+    EXPECT_EQ(form.dgdPRCPlotRel.column(3).caption, "No. of PRC");
+    EXPECT_TRUE(form.run("Save712ExtractRaltionShip"));
+    EXPECT_EQ(proposal.plotPrcDetailsXML, "1^#^1^#^1$-$$-$1@->");
+}
+
 TEST_F(PlotExtractRelation, NewPlotsStandBehindTheGrowthOfTheLastGrownPlotAlone) {
     enter(false, {1, 1});
     save();
