@@ -174,7 +174,9 @@ QSize FormView::naturalSize(QSize limit) {
         return {newWidth, limit.height()};
     pages[current].view->arrange(newWidth - scrollBar, 0);
     const int around = placeViews(head, newWidth, 0) + placeViews(buttons, newWidth, 0);
-    return {newWidth, std::min(around + pages[current].view->height(), limit.height())};
+    const QSize natural(newWidth, std::min(around + pages[current].view->height(), limit.height()));
+    arrange();  // in the size that it has until it gets another
+    return natural;
 }
 
 bool FormView::event(QEvent* event) {

@@ -90,14 +90,14 @@ int GridTable::headMargin() const {
     return style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader());
 }
 
-int GridTable::rowHeight() const {
+int GridTable::lineHeight() const {
     // Room for an editor in the cell.
     constexpr int border = 10;
     return fontMetrics().height() + border;
 }
 
 void GridTable::fitRows() {
-    verticalHeader()->setDefaultSectionSize(rowHeight());
+    verticalHeader()->setDefaultSectionSize(lineHeight());
     verticalScrollBar()->setSingleStep(1);
 }
 
@@ -107,16 +107,27 @@ ColumnNeed GridTable::need(int column) const {
         return {0, 0};
     const QFontMetrics metrics = fontMetrics();
     const int text = metrics.horizontalAdvance(sample(grid->kind(column), setting.yesNo)) + metrics.averageCharWidth() +
-                     (setting.button ? rowHeight() : 0);
+                     (setting.button ? lineHeight() : 0);
     const int least = std::max(longestWord(toQt(setting.caption), metrics), text) + 2 * headMargin();
     return {least, std::max(least, setting.width * metrics.averageCharWidth() / twipsPerCharacter)};
 }
 
-GridTable::Fit GridTable::fitFor(int width) const {
+std::vector<ColumnNeed> GridTable::needs() const {
     std::vector<ColumnNeed> needs;
     for (int column = 0; column < grid->columnCount(); ++column)
         needs.push_back(need(column));
-    Fit fit{.widths = shareWidths(needs, width), .headHeight = fontMetrics().height()};
+    return needs;
+}
+
+int GridTable::wantedWidth() const {
+    int width = 2 * frameWidth();
+    for (const ColumnNeed& column : needs())
+        width += column.wanted;
+    return width;
+}
+
+GridTable::Fit GridTable::fitFor(int width) const {
+    Fit fit{.widths = shareWidths(needs(), width), .headHeight = fontMetrics().height()};
     for (int column = 0; column < grid->columnCount(); ++column) {
         const QRect room(0, 0, fit.widths[static_cast<std::size_t>(column)] - 2 * headMargin(), 0);
         const QString caption = grid->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
@@ -154,7 +165,7 @@ int GridTable::heightFor(int lines, int width) const {
     const Fit fit = fitFor(width - 2 * frameWidth());
     const bool scrolls = std::accumulate(fit.widths.begin(), fit.widths.end(), 0) > width;
     const int bar = scrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
-    return fit.headHeight + lines * rowHeight() + bar + 2 * frameWidth();
+    return fit.headHeight + lines * lineHeight() + bar + 2 * frameWidth();
 }
 
 QRect GridTable::buttonRect(const QModelIndex& cell) const {

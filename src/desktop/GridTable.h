@@ -30,6 +30,8 @@ public:
     void show(GridModel& model);
     /// Gives each column its width, and hides those that have none.
     void fitColumns();
+    /// Width in which every column has what it wants.
+    int wantedWidth() const;
     /// Height with so many rows in sight when it is as wide as that.
     int heightFor(int lines, int width) const;
     /// Where the button of a cell stands; empty where it has none.
@@ -55,8 +57,9 @@ private:
     };
     Fit fitFor(int width) const;
     ColumnNeed need(int column) const;
+    std::vector<ColumnNeed> needs() const;
     int headMargin() const;
-    int rowHeight() const;
+    int lineHeight() const;
     void fitRows();
 
     GridModel* grid = nullptr;

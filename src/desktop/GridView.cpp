@@ -37,12 +37,16 @@ bool isMouse(QEvent::Type type) {
            type == QEvent::MouseButtonRelease;
 }
 
+bool hasKeyboard(const QWidget& widget) {
+    return widget.window()->focusWidget() == &widget;
+}
+
 class GridView : public ControlView {
 public:
     GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& screen, const ViewMaker& maker);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
-    int naturalWidth(bool /*alone*/) const override { return 0; }
+    int naturalWidth(bool /*alone*/) const override { return table.wantedWidth(); }
     QSize sizeFor(int available, bool /*alone*/) override { return {available, table.heightFor(lines, available)}; }
     bool fillsWidth() const override { return true; }
     void showLines(int wanted) override { lines = wanted > 0 ? wanted : usualLines; }
@@ -109,7 +113,7 @@ void GridView::syncLine() {
     const bool editing = grid().editing();
     if (!editing && !line.isHidden()) {
         // The toolkit would look for another place for the keyboard by itself.
-        if (line.hasFocus())
+        if (hasKeyboard(line))
             table.setFocus(Qt::NoFocusReason);
         line.hide();
     }
@@ -188,7 +192,7 @@ bool GridView::eventFilter(QObject* watched, QEvent* event) {
 
 bool GridView::systemKey(const QKeyEvent& event) {
     // A key that an editor over a cell had no use for is not meant for the cell below it.
-    if (!table.hasFocus())
+    if (!hasKeyboard(table))
         return false;
     if (const std::optional<QModelIndex> cell = table.target(event)) {
         goTo(*cell);

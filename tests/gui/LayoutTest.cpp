@@ -6,8 +6,10 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <map>
 #include <set>
 
+#include "gui/LandRecords.h"
 #include "gui/Registry.h"
 #include "gui/SampleForm.h"
 #include "gui/Session.h"
@@ -19,8 +21,23 @@ using namespace std::string_literals;
 
 namespace {
 
-constexpr std::array formNames = {"frmAnnexureA",     "AnnexureACont", "frmPayDetail", "frmDocCheckList",
-                                  "frmDocCheckList1", "frmHelp",       "frmAbout"};
+constexpr std::array formNames = {
+    "frmAnnexureA", "AnnexureACont", "frmPayDetail", "frmDocCheckList", "frmDocCheckList1", "frmPlotExtractRelation",
+    "frmMain712",   "frmPRCEXT",     "frmNaOrder",   "frmHelp",         "frmAbout"};
+
+/// The form with something in it, where it has grids.
+Form& filledForm(Session& session, const QString& name) {
+    static const std::map<QString, void (*)(Session&)> fillers = {{"frmPlotExtractRelation", enterPlots},
+                                                                  {"frmMain712", enterExtracts},
+                                                                  {"frmPRCEXT", enterCards},
+                                                                  {"frmNaOrder", enterNaOrder}};
+    if (const auto fill = fillers.find(name); fill != fillers.end()) {
+        session.press("mnuNew");
+        enterPlots(session);
+        fill->second(session);
+    }
+    return *session.proposal.forms.touch(name.toStdString());
+}
 
 void addForms() {
     QTest::addColumn<QString>("name");
@@ -119,7 +136,7 @@ private slots:
         QFETCH(int, fontScale);
         ScaledSession scaled(fontScale);
         Session& session = *scaled.session;
-        Form& form = *session.proposal.forms.touch(name.toStdString());
+        Form& form = filledForm(session, name);
         for (const bool all : {false, true}) {
             if (all)
                 showEverything(form);
@@ -166,7 +183,7 @@ private slots:
         QFETCH(int, fontScale);
         ScaledSession scaled(fontScale);
         Session& session = *scaled.session;
-        Form& form = *session.proposal.forms.touch(name.toStdString());
+        Form& form = filledForm(session, name);
         showEverything(form);
         form.show();
         std::set<const Control*> drawn;
@@ -193,7 +210,7 @@ private slots:
         QFETCH(int, fontScale);
         ScaledSession scaled(fontScale);
         Session& session = *scaled.session;
-        Form& form = *session.proposal.forms.touch(name.toStdString());
+        Form& form = filledForm(session, name);
         showEverything(form);
         form.show();
         forEachPage(session, form, [&] {
@@ -312,6 +329,18 @@ private slots:
         const QImage image = stage.view.viewOf(stage.form())->grab().toImage();
         QCOMPARE(image.pixelColor(2, 2), QColor(0xFF, 0xF8, 0xF2));
         QCOMPARE(image.pixelColor(2, image.height() / 2), QColor(0xFF, 0xF8, 0xF2));
+    }
+
+    void theHelpHasOneScrollBar() {
+        ScaledSession scaled(2);
+        Session& session = *scaled.session;
+        session.press("mnuContent");
+        session.window.resize(1100, 700);
+        session.settle();
+        const Form& help = *session.proposal.forms.loaded("frmHelp");
+        QWidget& text = session.widget(*help.find("rtfHelp"));
+        QVERIFY(static_cast<QAbstractScrollArea&>(text).verticalScrollBar()->isVisible());
+        QVERIFY(!visibleArea(*session.window.forms().viewOf(help)).verticalScrollBar()->isVisible());
     }
 
     void thePageScrollsToTheBoxThatGetsTheFocus() {

@@ -8,9 +8,8 @@
 #include <iostream>
 
 #include "desktop/Theme.h"
+#include "gui/LandRecords.h"
 #include "gui/Session.h"
-#include "landrecords/frmPlotExtractRelation.h"
-#include "screenshots/LandRecords.h"
 
 namespace {
 

@@ -1,21 +1,23 @@
-#include "screenshots/LandRecords.h"
+#pragma once
 
 #include <array>
 #include <string_view>
 #include <vector>
 
 #include "controls/User.h"
+#include "desktop/GridTable.h"
+#include "gui/Session.h"
 #include "landrecords/ExtractForm.h"
 #include "landrecords/frmNaOrder.h"
 #include "landrecords/frmPlotExtractRelation.h"
 
 namespace plandesk::test {
 
-namespace {
+namespace land {
 
-constexpr int infoOwners = 5;
-constexpr int infoHolders = 7;
-constexpr int name = 2;
+inline constexpr int infoOwners = 5;
+inline constexpr int infoHolders = 7;
+inline constexpr int name = 2;
 
 struct Owner {
     std::string_view name;
@@ -31,14 +33,14 @@ struct Extract {
     int signedHolder = 0;
 };
 
-void choose(Grid& owners, ComboBox& list, int row, int column, int item) {
+inline void choose(Grid& owners, ComboBox& list, int row, int column, int item) {
     if (item < 0)
         return;
     user::clickCell(owners, row, column);
     user::pick(list, item);
 }
 
-void enter(ExtractForm& form, int place, const Extract& extract) {
+inline void enter(ExtractForm& form, int place, const Extract& extract) {
     user::pick(form.cmbExtract, place);
     Grid& info = form.dgdInfoOfExtract;
     constexpr std::array detailColumns = {1, 2, 4, 6};
@@ -60,9 +62,10 @@ void enter(ExtractForm& form, int place, const Extract& extract) {
     user::pressCellButton(form.dgdPAH, extract.signedHolder, 3);
 }
 
-}  // namespace
+}  // namespace land
 
-void enterPlots(Session& session) {
+/// Two plots with three 7/12 extracts, and one with two PRCs; the relation form is left in front.
+inline void enterPlots(Session& session) {
     session.press("mnuPlotExtRelationShip");
     auto& form = session.form<frmPlotExtractRelation>();
     user::type(form.txtNoOfPlot712, "2");
@@ -80,33 +83,36 @@ void enterPlots(Session& session) {
     user::showTab(form.SSTab1, 0);
 }
 
-void enterExtracts(Session& session) {
+/// Owners and holders of the first two 7/12 extracts; the form of the extracts is left in front, at the first of them.
+inline void enterExtracts(Session& session) {
     session.press("mnu712Ext");
     auto& form = session.form<frmMain712>();
-    enter(form, 1,
-          {{"118", "2B", "4471", "1250.5"},
-           {{"Suresh Narayan Patil", 1, 2}, {"Meena Suresh Patil", 2, 6}},
-           {"Anil Deshmukh"}});
-    enter(form, 0,
-          {{"117/3", "1A", "4470", "3480.75"},
-           {{"Ramesh Vishnu Kulkarni", 1, 1},
-            {"Lata Ramesh Kulkarni", 2, 4},
-            {"Shri Ganesh Co-operative Housing Society Ltd.", 0, 5},
-            {"Vasant Gopal Joshi", -1, -1}},
-           {"Anil Deshmukh", "Prakash Bhave"},
-           1});
+    land::enter(form, 1,
+                {{"118", "2B", "4471", "1250.5"},
+                 {{"Suresh Narayan Patil", 1, 2}, {"Meena Suresh Patil", 2, 6}},
+                 {"Anil Deshmukh"}});
+    land::enter(form, 0,
+                {{"117/3", "1A", "4470", "3480.75"},
+                 {{"Ramesh Vishnu Kulkarni", 1, 1},
+                  {"Lata Ramesh Kulkarni", 2, 4},
+                  {"Shri Ganesh Co-operative Housing Society Ltd.", 0, 5},
+                  {"Vasant Gopal Joshi", -1, -1}},
+                 {"Anil Deshmukh", "Prakash Bhave"},
+                 1});
 }
 
-void enterCards(Session& session) {
+/// The same for the first PRC.
+inline void enterCards(Session& session) {
     session.press("mnuPrc");
     auto& form = session.form<frmPRCEXT>();
-    enter(form, 0,
-          {{"CTS 2204", "18", "", "612.25"},
-           {{"Ahmed Karim Shaikh", 1, 1, 1}, {"Fatima Shaikh", 2, 9, 2}, {"Trustees of the Wada", 1, -1, 3}},
-           {"Salim Attar", "R. K. Menon"}});
+    land::enter(form, 0,
+                {{"CTS 2204", "18", "", "612.25"},
+                 {{"Ahmed Karim Shaikh", 1, 1, 1}, {"Fatima Shaikh", 2, 9, 2}, {"Trustees of the Wada", 1, -1, 3}},
+                 {"Salim Attar", "R. K. Menon"}});
 }
 
-void enterNaOrder(Session& session) {
+/// A mixed NA order; its form is left in front.
+inline void enterNaOrder(Session& session) {
     session.press("mnuNaOrder");
     auto& form = session.form<frmNaOrder>();
     user::type(form.txtNaOrderNo, "NA/SR/214/2024");
