@@ -4,6 +4,7 @@
 #include "controls/FileStore.h"
 #include "desktop/MainWindow.h"
 #include "desktop/QtPorts.h"
+#include "desktop/QtProgress.h"
 #include "desktop/Theme.h"
 #include "shell/mdiInterface.h"
 
@@ -20,11 +21,12 @@ int main(int, char* arguments[]) {
     QtClock clock;
     QtProgram program;
     QtDialogs dialogs(program);
+    QtProgress progress;
     FileStore files;
-    Proposal proposal({dialogs, clock, files, program});
+    Proposal proposal({dialogs, clock, files, program, progress});
     mdiInterface shell(proposal);
     MainWindow window(proposal, shell);
-    dialogs.parent = &window;
+    dialogs.parent = progress.parent = &window;
     window.show();
     return QApplication::exec();
 }
