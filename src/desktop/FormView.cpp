@@ -119,6 +119,13 @@ QWidget* FormView::widgetOf(const Control& control) const {
     return view ? &view->widget() : nullptr;
 }
 
+bool FormView::onTurnedPage(const Control& control) const {
+    const QWidget* widget = widgetOf(control);
+    return widget && std::ranges::any_of(pages, [&](const Page& page) {
+        return &page != &pages[current] && page.area && page.area->isAncestorOf(widget);
+    });
+}
+
 void FormView::takeKeys(const Control* control, Qt::FocusReason reason) {
     ControlView* view = control && control->takesFocus() ? viewOf(*control) : nullptr;
     QWidget* widget = view ? &view->keyboardPart() : nullptr;

@@ -28,6 +28,8 @@ public:
     /// The form is gone; this is only a dead picture now.
     void detach();
 
+    /// Whether the control stands on a page that was turned away.
+    bool onTurnedPage(const Control& control) const;
     /// Gives the keyboard to the control, or to the form when the control is not there.
     void takeKeys(const Control* control, Qt::FocusReason reason);
     /// Widget of the control; null when it has not been drawn.

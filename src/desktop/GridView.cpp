@@ -41,6 +41,11 @@ bool hasKeyboard(const QWidget& widget) {
     return widget.window()->focusWidget() == &widget;
 }
 
+/// The keys that open a list everywhere on the desktop.
+bool opensList(const QKeyEvent& event) {
+    return event.key() == Qt::Key_F4 || (event.key() == Qt::Key_Down && event.modifiers() & Qt::AltModifier);
+}
+
 class GridView : public ControlView {
 public:
     GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& screen, const ViewMaker& maker);
@@ -194,7 +199,9 @@ bool GridView::systemKey(const QKeyEvent& event) {
     // A key that an editor over a cell had no use for is not meant for the cell below it.
     if (!hasKeyboard(table))
         return false;
-    if (const std::optional<QModelIndex> cell = table.target(event)) {
+    if (opensList(event)) {
+        act([this] { user::openCell(grid()); });
+    } else if (const std::optional<QModelIndex> cell = table.target(event)) {
         goTo(*cell);
     } else if (event.matches(QKeySequence::Paste)) {
         edit(QGuiApplication::clipboard()->text());

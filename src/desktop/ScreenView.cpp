@@ -81,8 +81,13 @@ void ScreenView::showControls() {
             view->sync(*control);
 }
 
-Control* ScreenView::keyboardTarget(const Form& form) {
-    if (Control* last = form.activeControl(); last && last->takesFocus())
+bool ScreenView::onTurnedPage(const Control& control) const {
+    const FormView* view = viewOf(control.form());
+    return view && view->onTurnedPage(control);
+}
+
+Control* ScreenView::keyboardTarget(const Form& form) const {
+    if (Control* last = form.activeControl(); last && last->takesFocus() && !onTurnedPage(*last))
         return last;
     const std::vector<Control*> order = form.tabOrder();
     const auto firstOf = [&order](const auto& condition) {
@@ -97,10 +102,11 @@ Control* ScreenView::keyboardTarget(const Form& form) {
 
 bool ScreenView::giveFocus() {
     const Form* front = screen.frontForm();
-    if (underWay > 0 || screen.focused() || !front)
+    const Control* focused = screen.focused();
+    if (underWay > 0 || !front || (focused && !onTurnedPage(*focused)))
         return false;
     Control* target = keyboardTarget(*front);
-    if (!target)
+    if (!target || target == focused)
         return false;
     ++underWay;
     screen.event([&] { screen.setFocus(*target); });

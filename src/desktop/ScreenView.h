@@ -49,8 +49,10 @@ private:
     void later();
     void showForms();
     void showControls();
+    /// Whether the control stands on a page of its form that is not the one shown.
+    bool onTurnedPage(const Control& control) const;
     /// The control of the form that keys go to when none has the focus; null when none can take it.
-    static Control* keyboardTarget(const Form& form);
+    Control* keyboardTarget(const Form& form) const;
     /// Gives the focus to the front form when nothing has it. True when that ran reactions.
     bool giveFocus();
     void placeKeyboard();

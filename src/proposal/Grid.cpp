@@ -153,6 +153,11 @@ bool Grid::pressButton(int row, int column) {
     return true;
 }
 
+bool Grid::openCell() {
+    const int row = currentRow();
+    return pressButton(row, atColumn) || clickCell(row, atColumn);
+}
+
 bool Grid::deleteRow(int row) {
     if (!allowDelete || !has(row, 0))
         return false;
@@ -308,6 +313,10 @@ bool goToCell(Grid& grid, int row, int column) {
 
 bool pressCellButton(Grid& grid, int row, int column) {
     return act(grid, [&] { return grid.pressButton(row, column); });
+}
+
+bool openCell(Grid& grid) {
+    return act(grid, [&] { return grid.openCell(); });
 }
 
 bool deleteRow(Grid& grid, int row) {

@@ -55,6 +55,8 @@ public:
     /// the column cannot take is refused and the old value kept. An empty text empties a cell that holds no text.
     bool editCell(int row, int column, std::string_view text);
     bool pressButton(int row, int column);
+    /// Brings up what the current cell has to offer: presses its button, or clicks a cell that has none.
+    bool openCell();
     /// Asks `beforeDelete`, deletes the row, and runs `afterDelete`; the row that came behind is current then, or the
     /// last one.
     bool deleteRow(int row);
@@ -151,6 +153,7 @@ bool clickCell(Grid& grid, int row, int column);
 /// An arrow key: makes the cell current without a click. False for a hidden column.
 bool goToCell(Grid& grid, int row, int column);
 bool pressCellButton(Grid& grid, int row, int column);
+bool openCell(Grid& grid);
 bool deleteRow(Grid& grid, int row);
 /// A text editor changed the text of the current cell as a whole (a paste, a cut): no key filter sees it. Starts an
 /// edit where none is under way; false where the cell takes none.

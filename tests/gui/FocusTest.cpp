@@ -187,6 +187,27 @@ private slots:
         QVERIFY(stage.hasKeyboard(form.title));
     }
 
+    void aPageThatIsTurnedAwayTakesTheKeyboardWithIt() {
+        struct TurningForm : SampleForm {
+            using SampleForm::SampleForm;
+            void functionKey(std::string_view /*key*/) override { tabs.setTab(1 - tabs.tab()); }
+        };
+        Stage stage;
+        TurningForm form(stage.proposal);
+        int left = 0;
+        form.title.lostFocus = [&left] { ++left; };
+        form.show();
+        stage.settle();
+        QVERIFY(stage.hasKeyboard(form.title));
+        QTest::keyClick(&stage.widget(form.title), Qt::Key_F3);
+        stage.settle();
+        QCOMPARE(left, 1);
+        QVERIFY(stage.hasKeyboard(form.second));
+        QTest::keyClick(&stage.widget(form.second), Qt::Key_F3);
+        stage.settle();
+        QVERIFY(stage.hasKeyboard(form.title));
+    }
+
     void functionKeysReachTheForm() {
         struct KeyForm : SampleForm {
             using SampleForm::SampleForm;

@@ -106,7 +106,14 @@ Robot::Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFol
     Hands::inWindow([] { qApp->installEventFilter(&releaseCounter()); });
 }
 
+/// What a window manager does when a window has appeared or a dialog has gone; the display has none.
+void Robot::activate() {
+    Hands::inWindow([&] { window.activateWindow(); });
+    Hands::waitUntil([&] { return window.isActiveWindow(); }, "the window is active");
+}
+
 void Robot::run(std::istream& script) {
+    activate();
     int number = 0;
     for (std::string line; std::getline(script, line);) {
         ++number;
@@ -424,8 +431,10 @@ void Robot::expectMessage(const Words& words) {
         throw std::runtime_error("there was no message");
     const Message found = messages.front();
     messages.pop_front();
-    // The real path of the file stands where the driver's is relative.
-    const bool same = found.title == words.at(1).text && found.icon == iconNamed(words.at(3).text);
+    // The real path of the file stands where the driver's is relative, and a box without a title has the program's.
+    const std::string& title = words.at(1).text;
+    const bool titled = found.title == (title.empty() ? proposal.screen.ports.program.title() : title);
+    const bool same = titled && found.icon == iconNamed(words.at(3).text);
     if (!same)
         throw std::runtime_error("found \"" + found.text + "\" titled \"" + found.title + "\"");
 }
@@ -440,8 +449,11 @@ void Robot::attendDialogs() {
             dialog = openDialog();
             modal = QApplication::activeModalWidget();
         });
-        if (dialog)
+        if (dialog) {
             answerDialog(*dialog);
+            if (!Hands::holds([] { return QApplication::activeModalWidget(); }))
+                activate();
+        }
         quiet = modal ? 0 : quiet + 1;
         QThread::msleep(pause);
     }

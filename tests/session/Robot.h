@@ -29,6 +29,7 @@ public:
 private:
     using Words = std::vector<driver::Word>;
 
+    void activate();
     void runLine(const std::string& line);
     void menu(const Words& words);
     void type(const Words& words);

@@ -175,6 +175,20 @@ TEST_F(GridKeys, SpacePressesTheButtonOfALockedCell) {
     EXPECT_EQ(take(), Log{"button 5"});
 }
 
+TEST_F(GridKeys, OpeningACellPressesItsButtonAndClicksOneWithout) {
+    user::goToCell(grid, 0, 4);
+    take();
+    EXPECT_TRUE(user::openCell(grid));
+    EXPECT_EQ(take(), Log{"button 4"});
+    user::goToCell(grid, 1, 2);
+    take();
+    EXPECT_TRUE(user::openCell(grid));
+    EXPECT_EQ(take(), Log{"click 2"});
+    grid.bind(nullptr);
+    EXPECT_FALSE(user::openCell(grid));
+    EXPECT_EQ(take(), Log{});
+}
+
 TEST_F(GridKeys, LeavingTheGridEndsTheEdit) {
     user::goToCell(grid, 0, 2);
     take();
