@@ -10,6 +10,7 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "base/Text.h"
 #include "controls/Controls.h"
 #include "controls/Form.h"
 #include "controls/User.h"
@@ -212,7 +213,8 @@ public:
 
 private:
     Colour foreColor() const override { return static_cast<Captioned&>(*subject).foreColor(); }
-    void syncContent() override { label.setText(toQt(static_cast<Captioned&>(*subject).caption())); }
+    /// Blanks around a caption would only push it out of its column.
+    void syncContent() override { label.setText(toQt(trim(static_cast<Captioned&>(*subject).caption()))); }
 
     QLabel& label;
 };

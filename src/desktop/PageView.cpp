@@ -44,7 +44,7 @@ PageView::Group PageView::makeGroup(const LayoutGroup& group, const ViewMaker& m
         made.title->setFont(bold);
     }
     for (const std::string_view head : group.heads)
-        made.heads.push_back(makeLabel(trim(head)));
+        made.heads.push_back(makeLabel(head));
     for (const LayoutRow& row : group.rows) {
         made.rows.push_back(makeRow(row, maker));
         nameControls(made.rows.back(), made);
@@ -55,7 +55,7 @@ PageView::Group PageView::makeGroup(const LayoutGroup& group, const ViewMaker& m
 PageView::Row PageView::makeRow(const LayoutRow& row, const ViewMaker& maker) {
     Row made;
     if (!trim(row.item).empty()) {
-        made.item = makeLabel(trim(row.item));
+        made.item = makeLabel(row.item);
         made.item->setAlignment(Qt::AlignRight | Qt::AlignTop);
     }
     if (!row.label.empty() && (made.liveQuestion = maker(row.label, *this)))
@@ -104,7 +104,7 @@ void PageView::nameControls(const Row& row, const Group& group) {
 }
 
 QLabel* PageView::makeLabel(std::string_view text) {
-    auto* label = new QLabel(toQt(text), this);
+    auto* label = new QLabel(toQt(trim(text)), this);
     label->setTextFormat(Qt::PlainText);
     return label;
 }

@@ -214,7 +214,7 @@ private slots:
         auto& heading = session.widget<QLabel>(form.lblInfoExtract);
         session.window.forms().act(Qt::OtherFocusReason, [&] { user::pick(form.cmbExtract, 2); });
         session.settle();
-        QCOMPARE(heading.text(), QString(" Information For Extract No :- 3"));
+        QCOMPARE(heading.text(), QString("Information For Extract No :- 3"));
         QVERIFY(heading.font().bold());
         QCOMPARE(heading.x(), session.table(form.dgdInfoOfExtract).x());
         QCOMPARE(session.table(form.dgdInfoOfExtract).accessibleName(), QString("Information For Extract No :- 3"));
