@@ -1,60 +1,9 @@
 #include "landrecords/ExtractForm.h"
 
-#include <gtest/gtest.h>
-
-#include "controls/User.h"
-#include "fees/frmDocCheckList.h"
-#include "landrecords/frmPlotExtractRelation.h"
-#include "unit/LandRecordsWorld.h"
+#include "unit/ExtractsFixture.h"
 
 namespace plandesk::test {
 namespace {
-
-struct Extracts : testing::Test, LandRecordsWorld {
-    Tables& tables = proposal.tables;
-
-    /// Plots "A", "B", ... of these counts, saved, so that each has its empty extracts.
-    void relate(const std::vector<int>& counts, bool prc = false) {
-        auto& relation = proposal.forms.get<frmPlotExtractRelation>();
-        relation.open();
-        if (prc)
-            relation.SSTab1.setTab(1);
-        (prc ? relation.txtNoOfPlot : relation.txtNoOfPlot712).setText(std::to_string(counts.size()));
-        Grid& grid = prc ? relation.dgdPRCPlotRel : relation.dgd712ExtractRelation;
-        for (int row = 0; row < static_cast<int>(counts.size()); ++row) {
-            user::editCell(grid, row, 2, std::string(" Plot ") + static_cast<char>('A' + row) + " ");
-            user::editCell(grid, row, 3, std::to_string(counts[static_cast<std::size_t>(row)]));
-        }
-        user::click(prc ? relation.cmdSave : relation.cmdSave712Relation);
-        ports.dialogs.take();
-    }
-    frmMain712& open712() {
-        proposal.forms.get<frmDocCheckList>().Image1_Click(0);
-        return proposal.forms.get<frmMain712>();
-    }
-    frmPRCEXT& openPrc() {
-        proposal.forms.get<frmDocCheckList>().Image1_Click(1);
-        return proposal.forms.get<frmPRCEXT>();
-    }
-    static std::vector<std::string> rowTexts(const Recordset& table) {
-        std::vector<std::string> texts;
-        for (const auto& row : table.allRows()) {
-            std::string text;
-            for (const Value& value : row)
-                text += (text.empty() ? "" : "|") + (isNull(value) ? "null" : valueText(value));
-            texts.push_back(text);
-        }
-        return texts;
-    }
-    static std::vector<std::string> items(const ComboBox& list) {
-        std::vector<std::string> texts;
-        for (int item = 0; item < list.listCount(); ++item)
-            texts.push_back(list.item(item));
-        return texts;
-    }
-};
-
-using Texts = std::vector<std::string>;
 
 TEST_F(Extracts, TheListRunsPlotByPlot) {
     relate({2, 0, 1});
@@ -274,123 +223,6 @@ TEST_F(Extracts, ADateTypedAsAWholeIsTakenAndShownInThePicker) {
     EXPECT_EQ(form.DTPicker1.date(), (Date{2007, 8, 9}));
 }
 
-struct Owners : Extracts {
-    frmMain712& form = (relate({1}), open712());
-    Owners() { user::editCell(form.dgdInfoOfExtract, 0, 5, "3"); }
-    std::string cell(int row, int column) { return form.dgdOwner.cellText(row, column); }
-};
-
-TEST_F(Owners, AClickPlacesTheListAndLeavingItWritesTheChoice) {
-    user::clickCell(form.dgdOwner, 0, 3);
-    EXPECT_TRUE(form.cmbOwnSingingStatus.visible());
-    EXPECT_TRUE(form.cmbOwnSingingStatus.focused());
-    EXPECT_EQ(form.dgdOwner.floating(form.cmbOwnSingingStatus).column, 3);
-    user::pick(form.cmbOwnSingingStatus, 1);
-    EXPECT_EQ(cell(0, 3), " -- Select -- ");
-    user::leave(form.cmbOwnSingingStatus);
-    EXPECT_EQ(cell(0, 3), "Signed");
-    user::pressCellButton(form.dgdOwner, 1, 4);
-    EXPECT_TRUE(form.cmbEncumber.focused());
-    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
-    EXPECT_EQ(form.cmbEncumber.listIndex(), 0);  // blanks around the text do not count
-    user::pick(form.cmbEncumber, 5);
-    user::focus(form.txtRemark);
-    EXPECT_EQ(cell(1, 4), "For Govt. matter");
-}
-
-TEST_F(Owners, AListLeftWithoutAChoiceWritesNothing) {
-    user::clickCell(form.dgdOwner, 0, 3);
-    user::leave(form.cmbOwnSingingStatus);
-    EXPECT_EQ(cell(0, 3), " -- Select -- ");
-}
-
-TEST_F(Owners, AChoiceLeftOverFromAnotherRowIsWritten) {
-    user::clickCell(form.dgdOwner, 0, 3);
-    user::pick(form.cmbOwnSingingStatus, 1);
-    user::clickCell(form.dgdOwner, 1, 3);
-    EXPECT_EQ(cell(0, 3), "Signed");
-    EXPECT_EQ(form.cmbOwnSingingStatus.listIndex(), 1);
-    user::leave(form.cmbOwnSingingStatus);
-    EXPECT_EQ(cell(1, 3), "Signed");
-}
-
-TEST_F(Owners, AMoveOfTheCellPlacesTheListButDoesNotOpenIt) {
-    user::clickCell(form.dgdOwner, 0, 3);
-    user::pick(form.cmbOwnSingingStatus, 1);
-    user::goToCell(form.dgdOwner, 1, 3);
-    EXPECT_TRUE(form.cmbOwnSingingStatus.visible());
-    EXPECT_TRUE(form.dgdOwner.focused());
-    EXPECT_EQ(form.dgdOwner.floating(form.cmbOwnSingingStatus).row, 1);
-    user::focus(form.cmbOwnSingingStatus);
-    user::leave(form.cmbOwnSingingStatus);
-    EXPECT_EQ(cell(1, 3), " -- Select -- ");
-    user::goToCell(form.dgdOwner, 1, 4);
-    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
-    EXPECT_TRUE(form.cmbEncumber.visible());
-}
-
-TEST_F(Owners, AChoiceThatTheUserMakesInAPlacedListIsWritten) {
-    user::goToCell(form.dgdOwner, 1, 3);
-    user::pick(form.cmbOwnSingingStatus, 2);
-    user::press(form.cmbOwnSingingStatus, "Tab");
-    EXPECT_EQ(cell(1, 3), "PAH Given");
-    EXPECT_TRUE(form.dgdOwner.focused());
-    EXPECT_EQ(form.dgdOwner.currentColumn(), 4);
-}
-
-TEST_F(Owners, EncumbrancesAreFoundInAnyCase) {
-    user::editCell(form.dgdOwner, 0, 4, " WATAN ");
-    user::clickCell(form.dgdOwner, 0, 4);
-    EXPECT_EQ(form.cmbEncumber.listIndex(), 8);
-    user::editCell(form.dgdOwner, 0, 3, "signed");
-    user::clickCell(form.dgdOwner, 0, 3);
-    EXPECT_EQ(form.cmbOwnSingingStatus.listIndex(), -1);
-}
-
-TEST_F(Owners, NoListIsPlacedWhileABlockIsBuilt) {
-    proposal.isSavingLandRecord = true;
-    user::goToCell(form.dgdOwner, 1, 3);
-    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
-}
-
-TEST_F(Owners, TheOwnerTypeIsOutOfReach) {
-    EXPECT_FALSE(user::clickCell(form.dgdOwner, 0, 5));
-    EXPECT_FALSE(user::editCell(form.dgdOwner, 0, 5, "H - Holder"));
-}
-
-TEST_F(Extracts, TheOwnerTypeOfAPrcIsChosenFromItsList) {
-    relate({1}, true);
-    auto& form = openPrc();
-    user::editCell(form.dgdInfoOfExtract, 0, 5, "2");
-    user::goToCell(form.dgdOwner, 0, 5);
-    EXPECT_TRUE(form.cmbOwnType.visible());
-    user::clickCell(form.dgdOwner, 0, 5);
-    EXPECT_EQ(form.cmbOwnType.listIndex(), 0);
-    user::pick(form.cmbOwnType, 2);
-    user::leave(form.cmbOwnType);
-    EXPECT_EQ(form.dgdOwner.cellText(0, 5), "L - Lease");
-}
-
-TEST_F(Extracts, TheOwnerTypeIsWrittenWithoutALookWhetherThereIsARow) {
-    relate({1}, true);
-    auto& form = openPrc();
-    user::editCell(form.dgdInfoOfExtract, 0, 5, "1");
-    user::clickCell(form.dgdOwner, 0, 5);
-    user::pick(form.cmbOwnType, 2);
-    form.addOwner(0);
-    user::leave(form.cmbOwnType);
-    EXPECT_EQ(ports.dialogs.take().size(), 1U);
-}
-
-TEST_F(Owners, AStatusListLeftWhenItsRowIsGoneWritesNothing) {
-    user::clickCell(form.dgdOwner, 0, 3);
-    user::pick(form.cmbOwnSingingStatus, 1);
-    form.addOwner(0);
-    user::leave(form.cmbOwnSingingStatus);
-    EXPECT_TRUE(ports.dialogs.take().empty());
-    EXPECT_EQ(tables.rsOwner712->rowCount(), 0);
-}
-
 TEST_F(Extracts, ADatePickedWhileNoExtractIsCurrentIsPassedOver) {
     relate({2});
     auto& form = open712();
@@ -607,43 +439,6 @@ TEST_F(Extracts, CloseHidesTheForm) {
     auto& form = open712();
     user::click(form.cmdClose);
     EXPECT_FALSE(form.visible());
-}
-
-// What the ownership rows make of it
-
-TEST_F(Extracts, OwnershipTakesNamesAndAreasAndNumbersPrcsBehind) {
-    relate({2});
-    relate({1}, true);
-    auto& land = open712();
-    user::editCell(land.dgdInfoOfExtract, 0, 5, "2");
-    user::editCell(land.dgdInfoOfExtract, 0, 6, "12.5");
-    user::editCell(land.dgdOwner, 0, 2, " Sham ");
-    user::editCell(land.dgdOwner, 1, 2, "Ram");
-    auto& cards = openPrc();
-    user::editCell(cards.dgdInfoOfExtract, 0, 5, "1");
-    user::editCell(cards.dgdOwner, 0, 2, "Sita");
-    tables.rsOwnership->setFilter("ExtNo = 2");
-    tables.rsOwnership->set("DocStatus", "Yes");
-    EXPECT_FALSE(proposal.ownershipRelationSaved);
-    user::click(land.cmdSave);
-    EXPECT_EQ(rowTexts(*tables.rsOwnership), (Texts{"1|Sham,Ram|12.5|0", "2||0|Yes", "3|Sita|0|0"}));
-    EXPECT_TRUE(proposal.ownershipRelationSaved);
-}
-
-TEST_F(Extracts, OwnershipRowsThatAreMissingAreAdded) {
-    relate({1});
-    tables.create(&Tables::rsOwnership);
-    user::click(open712().cmdSave);
-    EXPECT_EQ(rowTexts(*tables.rsOwnership), Texts{"1||0|0"});
-    EXPECT_FALSE(proposal.ownershipRelationSaved);  // there is no PRC
-}
-
-TEST_F(Extracts, WithoutA712ExtractPrcsAreNotTakenIntoTheOwnership) {
-    relate({2}, true);
-    tables.create(&Tables::rsOwnership);
-    user::click(openPrc().cmdSave);
-    EXPECT_EQ(tables.rsOwnership->rowCount(), 0);
-    EXPECT_FALSE(proposal.ownershipRelationSaved);
 }
 
 }  // namespace

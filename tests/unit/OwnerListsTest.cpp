@@ -1,0 +1,128 @@
+#include "landrecords/OwnerLists.h"
+
+#include "unit/ExtractsFixture.h"
+
+namespace plandesk::test {
+namespace {
+
+struct Owners : Extracts {
+    frmMain712& form = (relate({1}), open712());
+    Owners() { user::editCell(form.dgdInfoOfExtract, 0, 5, "3"); }
+    std::string cell(int row, int column) { return form.dgdOwner.cellText(row, column); }
+};
+
+TEST_F(Owners, AClickPlacesTheListAndLeavingItWritesTheChoice) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    EXPECT_TRUE(form.cmbOwnSingingStatus.visible());
+    EXPECT_TRUE(form.cmbOwnSingingStatus.focused());
+    EXPECT_EQ(form.dgdOwner.floating(form.cmbOwnSingingStatus).column, 3);
+    user::pick(form.cmbOwnSingingStatus, 1);
+    EXPECT_EQ(cell(0, 3), " -- Select -- ");
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_EQ(cell(0, 3), "Signed");
+    user::pressCellButton(form.dgdOwner, 1, 4);
+    EXPECT_TRUE(form.cmbEncumber.focused());
+    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
+    EXPECT_EQ(form.cmbEncumber.listIndex(), 0);  // blanks around the text do not count
+    user::pick(form.cmbEncumber, 5);
+    user::focus(form.txtRemark);
+    EXPECT_EQ(cell(1, 4), "For Govt. matter");
+}
+
+TEST_F(Owners, AListLeftWithoutAChoiceWritesNothing) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_EQ(cell(0, 3), " -- Select -- ");
+}
+
+TEST_F(Owners, AChoiceLeftOverFromAnotherRowIsWritten) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    user::pick(form.cmbOwnSingingStatus, 1);
+    user::clickCell(form.dgdOwner, 1, 3);
+    EXPECT_EQ(cell(0, 3), "Signed");
+    EXPECT_EQ(form.cmbOwnSingingStatus.listIndex(), 1);
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_EQ(cell(1, 3), "Signed");
+}
+
+TEST_F(Owners, AMoveOfTheCellPlacesTheListButDoesNotOpenIt) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    user::pick(form.cmbOwnSingingStatus, 1);
+    user::goToCell(form.dgdOwner, 1, 3);
+    EXPECT_TRUE(form.cmbOwnSingingStatus.visible());
+    EXPECT_TRUE(form.dgdOwner.focused());
+    EXPECT_EQ(form.dgdOwner.floating(form.cmbOwnSingingStatus).row, 1);
+    user::focus(form.cmbOwnSingingStatus);
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_EQ(cell(1, 3), " -- Select -- ");
+    user::goToCell(form.dgdOwner, 1, 4);
+    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
+    EXPECT_TRUE(form.cmbEncumber.visible());
+}
+
+TEST_F(Owners, AChoiceThatTheUserMakesInAPlacedListIsWritten) {
+    user::goToCell(form.dgdOwner, 1, 3);
+    user::pick(form.cmbOwnSingingStatus, 2);
+    user::press(form.cmbOwnSingingStatus, "Tab");
+    EXPECT_EQ(cell(1, 3), "PAH Given");
+    EXPECT_TRUE(form.dgdOwner.focused());
+    EXPECT_EQ(form.dgdOwner.currentColumn(), 4);
+}
+
+TEST_F(Owners, EncumbrancesAreFoundInAnyCase) {
+    user::editCell(form.dgdOwner, 0, 4, " WATAN ");
+    user::clickCell(form.dgdOwner, 0, 4);
+    EXPECT_EQ(form.cmbEncumber.listIndex(), 8);
+    user::editCell(form.dgdOwner, 0, 3, "signed");
+    user::clickCell(form.dgdOwner, 0, 3);
+    EXPECT_EQ(form.cmbOwnSingingStatus.listIndex(), -1);
+}
+
+TEST_F(Owners, NoListIsPlacedWhileABlockIsBuilt) {
+    proposal.isSavingLandRecord = true;
+    user::goToCell(form.dgdOwner, 1, 3);
+    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
+}
+
+TEST_F(Owners, TheOwnerTypeIsOutOfReach) {
+    EXPECT_FALSE(user::clickCell(form.dgdOwner, 0, 5));
+    EXPECT_FALSE(user::editCell(form.dgdOwner, 0, 5, "H - Holder"));
+}
+
+struct PrcOwners : Extracts {};
+
+TEST_F(PrcOwners, TheOwnerTypeOfAPrcIsChosenFromItsList) {
+    relate({1}, true);
+    auto& form = openPrc();
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "2");
+    user::goToCell(form.dgdOwner, 0, 5);
+    EXPECT_TRUE(form.cmbOwnType.visible());
+    user::clickCell(form.dgdOwner, 0, 5);
+    EXPECT_EQ(form.cmbOwnType.listIndex(), 0);
+    user::pick(form.cmbOwnType, 2);
+    user::leave(form.cmbOwnType);
+    EXPECT_EQ(form.dgdOwner.cellText(0, 5), "L - Lease");
+}
+
+TEST_F(PrcOwners, TheOwnerTypeIsWrittenWithoutALookWhetherThereIsARow) {
+    relate({1}, true);
+    auto& form = openPrc();
+    user::editCell(form.dgdInfoOfExtract, 0, 5, "1");
+    user::clickCell(form.dgdOwner, 0, 5);
+    user::pick(form.cmbOwnType, 2);
+    form.addOwner(0);
+    user::leave(form.cmbOwnType);
+    EXPECT_EQ(ports.dialogs.take().size(), 1U);
+}
+
+TEST_F(Owners, AStatusListLeftWhenItsRowIsGoneWritesNothing) {
+    user::clickCell(form.dgdOwner, 0, 3);
+    user::pick(form.cmbOwnSingingStatus, 1);
+    form.addOwner(0);
+    user::leave(form.cmbOwnSingingStatus);
+    EXPECT_TRUE(ports.dialogs.take().empty());
+    EXPECT_EQ(tables.rsOwner712->rowCount(), 0);
+}
+
+}  // namespace
+}  // namespace plandesk::test
