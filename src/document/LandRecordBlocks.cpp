@@ -120,7 +120,7 @@ void build(const Block& block, Proposal& proposal) {
                   block.is712 ? proposal.forms.get<frmPlotExtractRelation>().txtNoOfExtract712.text()
                               : std::to_string(extracts.recordCount()));
     {
-        ProgressOf progress(proposal.screen.ports.progress, block.element, extracts.recordCount());
+        ProgressOf progress(proposal.screen.ports.progress, block.family.head, extracts.recordCount());
         for (; !extracts.eof(); extracts.moveNext()) {
             appendExtract(xml, block, proposal, extracts);
             progress.step();
