@@ -7,13 +7,14 @@
 
 #include "controls/User.h"
 #include "fees/frmDocCheckList.h"
+#include "landrecords/ExtractForm.h"
 #include "landrecords/frmPlotExtractRelation.h"
-#include "unit/LandRecordsWorld.h"
+#include "unit/World.h"
 
 namespace plandesk::test {
 
 /// Plots and their extracts, ready to open the forms of the extracts.
-struct Extracts : testing::Test, LandRecordsWorld {
+struct Extracts : testing::Test, World {
     Tables& tables = proposal.tables;
 
     /// Plots "A", "B", ... of these counts, saved, so that each has its empty extracts.

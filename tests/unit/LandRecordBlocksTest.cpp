@@ -4,13 +4,14 @@
 
 #include "controls/User.h"
 #include "landrecords/ExtractForm.h"
+#include "landrecords/frmNaOrder.h"
 #include "landrecords/frmPlotExtractRelation.h"
-#include "unit/LandRecordsWorld.h"
+#include "unit/World.h"
 
 namespace plandesk::test {
 namespace {
 
-struct Blocks : testing::Test, LandRecordsWorld {
+struct Blocks : testing::Test, World {
     Tables& tables = proposal.tables;
 
     /// Adds a row; std::monostate leaves a cell empty.

@@ -4,8 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include "unit/LandRecordsWorld.h"
+#include "landrecords/ExtractForm.h"
+#include "landrecords/frmNaOrder.h"
+#include "landrecords/frmPlotExtractRelation.h"
 #include "unit/LayoutCheck.h"
+#include "unit/World.h"
 
 // What the forms of the land records say beside their controls, and that every control has its place.
 
@@ -34,7 +37,7 @@ constexpr std::array questions = std::to_array<Question>({
     {"frmNaOrder", "txtNARemark", "N.A. Order Remark"},
 });
 
-struct LandRecordsLayout : testing::Test, LandRecordsWorld {
+struct LandRecordsLayout : testing::Test, World {
     /// The first row that `wanted` accepts; null without one.
     template <class Wanted>
     const LayoutRow* row(std::string_view form, Wanted wanted) {

@@ -4,12 +4,12 @@
 
 #include "controls/User.h"
 #include "fees/frmDocCheckList.h"
-#include "unit/LandRecordsWorld.h"
+#include "unit/World.h"
 
 namespace plandesk::test {
 namespace {
 
-struct NaOrder : testing::Test, LandRecordsWorld {
+struct NaOrder : testing::Test, World {
     frmNaOrder& form = proposal.forms.get<frmNaOrder>();
 
     /// Which of the first and the second area are shown.

@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "controls/User.h"
-#include "unit/LandRecordsWorld.h"
+#include "unit/World.h"
 
 namespace plandesk::test {
 namespace {
 
-struct PlotExtractRelation : testing::Test, LandRecordsWorld {
+struct PlotExtractRelation : testing::Test, World {
     frmPlotExtractRelation& form = proposal.forms.get<frmPlotExtractRelation>();
     Tables& tables = proposal.tables;
 
