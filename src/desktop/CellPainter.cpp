@@ -46,7 +46,7 @@ void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option, c
     text.widget->style()->drawControl(QStyle::CE_ItemViewItem, &text, painter, text.widget);
     if (column.button)
         paintButton(*painter, option, cell);
-    if (!model.isCurrent(cell))
+    if (cell != model.current())
         return;
     painter->save();
     painter->setPen(QPen(model.grid()->focused() ? option.palette.color(QPalette::Highlight) : quietFrame, frameWidth,

@@ -40,9 +40,15 @@ ColumnKind GridModel::kind(int column) const {
                                                   : ColumnKind::Text;
 }
 
-bool GridModel::isCurrent(const QModelIndex& cell) const {
+QModelIndex GridModel::current() const {
     const Grid* shown = grid();
-    return shown && shown->currentRow() == cell.row() && shown->currentColumn() == cell.column();
+    if (!shown)
+        return {};
+    int place = shown->currentColumn();
+    if (shown->column(place).width == 0)
+        for (place = 0; place < columns && shown->column(place).width == 0;)
+            ++place;
+    return index(shown->currentRow(), place);
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {

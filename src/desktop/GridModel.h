@@ -20,7 +20,8 @@ public:
     void look();
     GridColumn column(int column) const;
     ColumnKind kind(int column) const;
-    bool isCurrent(const QModelIndex& cell) const;
+    /// The cell that keys go to: the grid's current one, or the first of its row while that has no width.
+    QModelIndex current() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

@@ -61,8 +61,6 @@ private:
     static constexpr int usualLines = 5;
 
     Grid& grid() const { return static_cast<Grid&>(*subject); }
-    QModelIndex currentCell() const { return model.index(grid().currentRow(), grid().currentColumn()); }
-
     void syncContent() override;
     QPalette::ColorRole backRole() const override { return QPalette::Base; }
     void syncLine();
@@ -98,7 +96,7 @@ GridView::GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& scr
     connect(&line, &QLineEdit::textEdited, this, [this](const QString& text) {
         edit(text);
         if (subject)
-            this->table.scrollTo(currentCell());
+            this->table.scrollTo(model.current());
     });
     table.show(model);
     table.cellsMoved = [this] { placeParts(); };
@@ -107,7 +105,7 @@ GridView::GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& scr
 void GridView::syncContent() {
     model.look();
     table.fitColumns();
-    const QModelIndex current = currentCell();
+    const QModelIndex current = model.current();
     if (table.currentIndex() != current)
         table.selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     placeParts();
@@ -128,7 +126,7 @@ void GridView::syncLine() {
         line.setText(text);
     if (!line.isHidden())
         return;
-    const QModelIndex current = currentCell();
+    const QModelIndex current = model.current();
     line.setAccessibleName(model.headerData(current.column(), Qt::Horizontal, Qt::DisplayRole).toString());
     line.setAlignment(Qt::Alignment(model.data(current, Qt::TextAlignmentRole).toInt()));
     table.scrollTo(current);
@@ -145,7 +143,7 @@ void GridView::placeParts() {
         placeEditor(floating);
     // The frame of the current cell stays in sight around the line.
     constexpr int frame = 2;
-    line.setGeometry(table.visualRect(currentCell()).adjusted(frame, frame, -frame, -frame));
+    line.setGeometry(table.visualRect(model.current()).adjusted(frame, frame, -frame, -frame));
     line.raise();
 }
 
@@ -258,7 +256,7 @@ void GridView::edit(const QString& text) {
 void GridView::editPresentText() {
     if (grid().currentRow() < 0 || grid().editing())
         return;
-    edit(model.data(currentCell(), Qt::DisplayRole).toString());
+    edit(model.data(model.current(), Qt::DisplayRole).toString());
     line.selectAll();
 }
 

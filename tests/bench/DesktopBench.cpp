@@ -2,9 +2,11 @@
 // display is 16 milliseconds.
 
 #include <QApplication>
+#include <QScrollBar>
 #include <QTest>
 #include <array>
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -13,6 +15,7 @@
 #include <benchmark/benchmark.h>
 
 #include "desktop/Theme.h"
+#include "gui/GridForm.h"
 #include "gui/Session.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
@@ -167,5 +170,58 @@ void answerThatMovesThePageToRepaint(benchmark::State& state) {
         state.SkipWithError("not every answer was painted");
 }
 BENCHMARK(answerThatMovesThePageToRepaint)->Unit(benchmark::kMillisecond);
+
+// A grid on the screen, of few rows and of many: what the many cost is seen beside the few.
+constexpr std::array<std::int64_t, 2> gridRows = {100, 50'000};
+
+void timeGrid(benchmark::State& state, const std::function<void(test::GridStage&, int round)>& act) {
+    needApplication();
+    test::GridStage stage(static_cast<int>(state.range(0)));
+    stage.table->setAbsolutePosition(static_cast<int>(state.range(0)) / 2);
+    stage.form().grid.moveTo(stage.form().grid.currentRow(), test::GridForm::Name);
+    stage.form().grid.setFocus();
+    stage.settle();
+    const PaintCounter counter;
+    int rounds = 0;
+    for (auto round : state) {
+        act(stage, rounds);
+        stage.settle();
+        ++rounds;
+    }
+    if (counter.paints < rounds)
+        state.SkipWithError("not every round was painted");
+    state.SetLabel(std::to_string(state.range(0)) + " rows");
+}
+
+void gridBoundToAFilteredTable(benchmark::State& state) {
+    timeGrid(state, [](test::GridStage& stage, int) {
+        stage.table->setFilter("No >= 0");
+        stage.form().grid.bind(stage.table);
+    });
+}
+BENCHMARK(gridBoundToAFilteredTable)->ArgsProduct({{gridRows.begin(), gridRows.end()}})->Unit(benchmark::kMillisecond);
+
+void pageKeyInAGridToRepaint(benchmark::State& state) {
+    timeGrid(state, [](test::GridStage& stage, int round) {
+        QTest::keyClick(&stage.keyboard(), round % 2 == 0 ? Qt::Key_PageDown : Qt::Key_PageUp);
+    });
+}
+BENCHMARK(pageKeyInAGridToRepaint)->ArgsProduct({{gridRows.begin(), gridRows.end()}})->Unit(benchmark::kMillisecond);
+
+void dragOfAGridsBarToRepaint(benchmark::State& state) {
+    timeGrid(state, [](test::GridStage& stage, int round) {
+        QScrollBar& bar = *stage.shown().verticalScrollBar();
+        constexpr int stride = 37;
+        bar.setValue((round + 1) * stride % bar.maximum());
+    });
+}
+BENCHMARK(dragOfAGridsBarToRepaint)->ArgsProduct({{gridRows.begin(), gridRows.end()}})->Unit(benchmark::kMillisecond);
+
+void keyInACellToRepaint(benchmark::State& state) {
+    timeGrid(state, [](test::GridStage& stage, int round) {
+        QTest::keyClick(&stage.keyboard(), round % 2 == 0 ? Qt::Key_1 : Qt::Key_Backspace);
+    });
+}
+BENCHMARK(keyInACellToRepaint)->ArgsProduct({{gridRows.begin(), gridRows.end()}})->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -177,6 +177,21 @@ private slots:
         QCOMPARE(&stage.keyboard(), &stage.widget(stage.form().before));
     }
 
+    void anEditOutlivesAMessageBox() {
+        GridStage stage;
+        stage.click(1, GridForm::Name);
+        stage.type("typed");
+        stage.view.act(Qt::OtherFocusReason, [&] {
+            stage.form().screen().message("Do you want to Exit ?", "");
+            stage.type("lost");  // nothing reaches the system while the box is open
+            stage.settle();
+        });
+        QVERIFY(stage.line());
+        QCOMPARE(stage.line()->text(), QString("typed"));
+        stage.press(Qt::Key_Tab);
+        QCOMPARE(stage.cell(1, GridForm::Name), "typed"s);
+    }
+
     void anEditOutlivesRepaintingAndChangesElsewhere() {
         GridStage stage;
         stage.click(1, GridForm::Name);

@@ -105,6 +105,17 @@ private slots:
         QCOMPARE(stage.form().clicks.size(), 2U);
     }
 
+    void aGridThatWasJustFilledShowsTheCellThatKeysWouldGoTo() {
+        GridStage stage;
+        QCOMPARE(stage.form().grid.currentColumn(), int(GridForm::No));
+        QCOMPARE(stage.shown().currentIndex(), stage.shown().model()->index(0, GridForm::Fixed));
+        stage.form().grid.setFocus();
+        stage.settle();
+        QCOMPARE(frameColour(stage, 0, GridForm::Fixed), stage.shown().palette().color(QPalette::Highlight));
+        stage.press(Qt::Key_Right);
+        QVERIFY(stage.at(0, GridForm::Name));
+    }
+
     void theOtherMouseButtonsDoNothing() {
         GridStage stage;
         QTest::mouseClick(stage.shown().viewport(), Qt::RightButton, {}, stage.place(1, GridForm::Name).center());
