@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QStyle>
 #include <algorithm>
 
 #include "base/Text.h"
@@ -17,11 +18,11 @@
 
 namespace plandesk::desktop {
 
-FormView::FormView(Form& shown, ScreenView& screen, QWidget& parent) : QWidget(&parent), form(&shown), screen(screen) {
-    setObjectName(toQt(form->name()));
-    setAccessibleName(toQt(form->caption()).trimmed());
+FormView::FormView(Form& form, ScreenView& screen, QWidget& parent) : QWidget(&parent), form(&form), screen(screen) {
+    setObjectName(toQt(form.name()));
+    setAccessibleName(toQt(form.caption()).trimmed());
     setAutoFillBackground(true);
-    const Layout& layout = form->layout();
+    const Layout& layout = form.layout();
     head = makeViews(layout.head);
     tabs = makeView(layout.tabs, *this);
     if (tabs)
@@ -81,7 +82,7 @@ void FormView::drawPage(std::size_t number) {
     page.area = new QScrollArea(this);
     page.area->setFrameShape(QFrame::NoFrame);
     page.area->setFocusPolicy(Qt::NoFocus);
-    page.view = new PageView(*page.area, std::move(groups), layout.questionWidth, maker);
+    page.view = new PageView(*page.area, groups, layout.questionWidth, maker);
     page.area->setWidget(page.view);
 }
 
@@ -122,8 +123,8 @@ QWidget* FormView::widgetOf(const Control& control) const {
 bool FormView::onTurnedPage(const Control& control) const {
     const QWidget* widget = widgetOf(control);
     return widget && std::ranges::any_of(pages, [&](const Page& page) {
-        return &page != &pages[current] && page.area && page.area->isAncestorOf(widget);
-    });
+               return &page != &pages[current] && page.area && page.area->isAncestorOf(widget);
+           });
 }
 
 void FormView::takeKeys(const Control* control, Qt::FocusReason reason) {

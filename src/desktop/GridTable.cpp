@@ -16,7 +16,7 @@ namespace {
 
 /// The settings were made for a font whose characters are as wide as this on average, in twips.
 constexpr int twipsPerCharacter = 90;
-constexpr int leastTextCharacters = 8;
+constexpr int leastTextCharacters = 6;
 
 /// What a cell of that kind must be able to show.
 QString sample(ColumnKind kind, bool yesNo) {

@@ -26,7 +26,8 @@ bool shownByCode(const ControlView* view) {
 
 }  // namespace
 
-PageView::PageView(QWidget& parent, std::vector<LayoutGroup> layoutGroups, int questionWidth, const ViewMaker& maker)
+PageView::PageView(QWidget& parent, const std::vector<LayoutGroup>& layoutGroups, int questionWidth,
+                   const ViewMaker& maker)
     : QWidget(&parent), questionCharacters(questionWidth) {
     groups.reserve(layoutGroups.size());
     for (const LayoutGroup& group : layoutGroups)
@@ -166,8 +167,8 @@ bool PageView::boxStandsAlone(const Row& row) {
 int PageView::controlsWidth(const Row& row) const {
     const bool alone = boxStandsAlone(row);
     int width = row.unit ? row.unit->sizeHint().width() : 0;
-    for (std::size_t place = 0; place < row.controls.size(); ++place)
-        width += row.controls[place]->naturalWidth(alone) + gap();
+    for (const ControlView* view : row.controls)
+        width += view->naturalWidth(alone) + gap();
     return width;
 }
 

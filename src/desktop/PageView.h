@@ -17,7 +17,7 @@ namespace plandesk::desktop {
 class PageView : public QWidget {
 public:
     /// `questionWidth`: widest question column, in average characters of the font.
-    PageView(QWidget& parent, std::vector<LayoutGroup> groups, int questionWidth, const ViewMaker& maker);
+    PageView(QWidget& parent, const std::vector<LayoutGroup>& groups, int questionWidth, const ViewMaker& maker);
 
     /// Lays the page out in that width; the page takes the height it needs. `viewHeight`: what one sees of it at once.
     void arrange(int width, int viewHeight);

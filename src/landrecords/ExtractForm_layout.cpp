@@ -14,7 +14,7 @@ constexpr LayoutRow headRows[] = {
 
 constexpr LayoutRow extractRows[] = {
     {.controls = "dgdInfoOfExtract", .label = "lblInfoExtract", .lines = 1},
-    {.question = "Original Ownership", .controls = "dgdOwner", .lines = 5},
+    {.question = "Original Ownership", .controls = "dgdOwner", .lines = 4},
     {.question = "Power Of Attorney Information", .controls = "dgdPAH", .lines = 3},
 };
 

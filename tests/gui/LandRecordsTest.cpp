@@ -16,7 +16,6 @@ using namespace std::string_literals;
 namespace {
 
 constexpr int plotName = 2;
-constexpr int plotCount = 3;
 constexpr int infoDate = 3;
 constexpr int ownerStatus = 3;
 constexpr int ownerEncumbrance = 4;

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTableView>
 #include <map>
 #include <set>
 
@@ -98,6 +99,9 @@ QString clipped(const QWidget& widget) {
             hint.setWidth(widget.fontMetrics().size(Qt::TextShowMnemonic, button->text()).width());
         if (size.width() < hint.width() || size.height() < hint.height())
             return "control " + name;
+    } else if (const auto* table = qobject_cast<const QTableView*>(&widget)) {
+        if (table->horizontalScrollBar()->isVisible())
+            return "grid " + name;
     }
     return {};
 }
