@@ -26,12 +26,13 @@ void ListBox::showPopup() {
 }
 
 void ListBox::paintEvent(QPaintEvent* /*event*/) {
-    // As Qt draws it, but a foreign text in full colour and a text that does not fit with its end left out.
+    // As Qt draws it, but a foreign text in full colour, without blanks around it, and a text that does not fit with its
+    // end left out.
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
     const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    option.currentText = fontMetrics().elidedText(shownText(), Qt::ElideRight, field.width());
+    option.currentText = fontMetrics().elidedText(shownText().trimmed(), Qt::ElideRight, field.width());
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
