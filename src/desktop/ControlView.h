@@ -30,6 +30,8 @@ public:
 
     /// Shows what the control holds now.
     void sync();
+    /// Whether code shows the control, wherever it stands.
+    bool shownByCode() const { return subject && subject->visible(); }
     /// Whether the page shows the place of the control at all; a hidden group or row takes all of its controls away.
     void setOnPage(bool on);
     /// Says what a screen reader is to call it.

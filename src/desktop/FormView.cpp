@@ -149,14 +149,14 @@ int FormView::gap() const {
 int FormView::placeViews(const Views& views, int width, int top) const {
     FlowLine line(2 * gap(), width - 2 * gap(), top + gap(), 0, gap());
     for (ControlView* view : views)
-        if (view->control() && view->control()->visible())
+        if (view->shownByCode())
             line.add(view->widget(), view->sizeFor(width - 4 * gap(), false));
     return views.empty() ? top : line.finish() + gap();
 }
 
 void FormView::arrange() {
     int top = placeViews(head, width(), 0);
-    if (tabs && tabs->control() && tabs->control()->visible()) {
+    if (tabs && tabs->shownByCode()) {
         const QSize size = tabs->widget().sizeHint();
         tabs->widget().setGeometry(QRect({2 * gap(), top}, size));
         top += size.height();

@@ -1,13 +1,10 @@
 #include "desktop/PageView.h"
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QPainter>
 #include <algorithm>
-#include <numeric>
 
 #include "base/Text.h"
-#include "desktop/FlowLine.h"
 #include "desktop/QtText.h"
 
 namespace plandesk::desktop {
@@ -16,13 +13,6 @@ namespace {
 
 constexpr QColor frameLine(0xD8, 0xC8, 0xB0);
 constexpr QColor markRed(0xC0, 0x00, 0x00);
-
-/// Share of the page's width that the answers get at least, in percent, when the questions would take all.
-constexpr int answerShare = 45;
-
-bool shownByCode(const ControlView* view) {
-    return view->control() && view->control()->visible();
-}
 
 }  // namespace
 
@@ -120,14 +110,14 @@ bool PageView::leadsRow(const Row& row) {
 
 void PageView::updateShown() {
     for (Group& group : groups) {
-        group.shown = !group.frame || shownByCode(group.frame);
+        group.shown = !group.frame || group.frame->shownByCode();
         if (group.title)
             group.title->setVisible(group.shown);
         for (QLabel* head : group.heads)
             head->setVisible(group.shown);
         for (Row& row : group.rows) {
-            const bool some = row.controls.empty() ? !row.liveQuestion || shownByCode(row.liveQuestion)
-                                                   : std::ranges::any_of(row.controls, shownByCode);
+            const bool some = row.controls.empty() ? !row.liveQuestion || row.liveQuestion->shownByCode()
+                                                   : std::ranges::any_of(row.controls, &ControlView::shownByCode);
             row.shown = group.shown && some;
             setShown(row);
             if (row.liveQuestion)
@@ -146,240 +136,6 @@ void PageView::setShown(const Row& row) {
         row.question->setVisible(row.shown);
     for (ControlView* view : row.controls)
         view->setOnPage(row.shown);
-}
-
-int PageView::gap() const {
-    return fontMetrics().averageCharWidth();
-}
-
-int PageView::lineHeight() const {
-    // Height of a text box and its like: the tallest of what commonly stands in a row.
-    constexpr int border = 10;
-    return fontMetrics().height() + border;
-}
-
-bool PageView::boxStandsAlone(const Row& row) {
-    return !row.unit && std::ranges::count_if(row.controls, [](const ControlView* view) {
-                            return view->control() && view->control()->kind() == ControlKind::TextBox;
-                        }) == 1;
-}
-
-int PageView::controlsWidth(const Row& row) const {
-    const bool alone = boxStandsAlone(row);
-    int width = row.unit ? row.unit->sizeHint().width() : 0;
-    for (const ControlView* view : row.controls)
-        width += view->naturalWidth(alone) + gap();
-    return width;
-}
-
-PageView::Columns PageView::columnsFor(int width) const {
-    int item = 0;
-    int mark = 0;
-    int question = 0;
-    int answers = 0;
-    int filling = 0;
-    for (const Group& group : groups) {
-        const std::vector<int> table = tableColumns(group);
-        answers = std::max(answers, std::accumulate(table.begin(), table.end(), 0));
-        for (const Row& row : group.rows) {
-            if (row.item)
-                item = std::max(item, row.item->sizeHint().width() + gap());
-            if (row.mark)
-                mark = std::max(mark, row.mark->sizeHint().width());
-            if (fillsWidth(row)) {
-                filling = std::max(filling, row.controls.front()->naturalWidth(true));
-                continue;
-            }
-            if (row.question && !row.controls.empty())
-                question = std::max(question, fontMetrics().horizontalAdvance(row.question->text()) + 1);
-            if (!group.heads.empty() && leadsRow(row))
-                question = std::max(question, row.controls.front()->naturalWidth(false));
-            if (group.heads.empty())
-                answers = std::max(answers, controlsWidth(row));
-        }
-    }
-    Columns columns;
-    const int margin = 2 * gap();
-    columns.right = width - margin;
-    columns.item = margin;
-    columns.question = margin + item;
-    constexpr int percent = 100;
-    const int room = columns.right - columns.question - mark - 2 * gap();
-    question = std::min(question, questionCharacters * fontMetrics().averageCharWidth());
-    columns.questionWidth = std::min(question, room - std::min(answers, room * answerShare / percent));
-    columns.mark = columns.question + columns.questionWidth + gap();
-    columns.controls = columns.mark + mark + gap();
-    columns.naturalWidth =
-        std::max(columns.question + question + mark + 2 * gap() + answers, columns.item + filling) + margin;
-    return columns;
-}
-
-int PageView::naturalWidth() {
-    updateShown();
-    return columnsFor(0).naturalWidth;
-}
-
-std::vector<int> PageView::tableColumns(const Group& group) const {
-    std::vector<int> widths;
-    if (group.heads.empty())
-        return widths;
-    for (const Row& row : group.rows) {
-        const std::size_t first = leadsRow(row) ? 1 : 0;
-        for (std::size_t place = first; place < row.controls.size(); ++place) {
-            const std::size_t column = place - first;
-            if (column == widths.size())
-                widths.push_back(column + 1 < group.heads.size() ? group.heads[column + 1]->sizeHint().width() + gap()
-                                                                 : 0);
-            widths[column] = std::max(widths[column], row.controls[place]->naturalWidth(false) + gap());
-        }
-    }
-    return widths;
-}
-
-void PageView::arrange(int width, int viewHeight) {
-    lastWidth = width;
-    lastViewHeight = viewHeight;
-    updateShown();
-    const Columns columns = columnsFor(width);
-    int bottom = gap();
-    for (Group& group : groups)
-        if (group.shown)
-            bottom = placeGroup(group, columns, bottom);
-    resize(width, bottom + gap());
-    // What has just been placed is no reason to place it again.
-    QCoreApplication::removePostedEvents(this, QEvent::LayoutRequest);
-    update();
-}
-
-int PageView::placeGroup(Group& group, const Columns& columns, int top) {
-    const int padding = group.frame ? gap() : 0;
-    int bottom = placeTitle(group, columns, top + padding);
-    std::vector<int> widths = tableColumns(group);
-    const int total = std::accumulate(widths.begin(), widths.end(), 0);
-    const int room = columns.right - columns.controls;
-    if (total > room)
-        for (int& width : widths)
-            width = width * room / total;
-    if (!group.heads.empty())
-        bottom = placeHeads(group, columns, widths, bottom);
-    for (const Row& row : group.rows)
-        if (row.shown)
-            bottom =
-                (group.heads.empty() ? placeRow(row, columns, bottom) : placeTableRow(row, columns, widths, bottom)) +
-                gap() / 2;
-    group.outline = QRect(columns.item - gap(), top, columns.right - columns.item + 2 * gap(), bottom + padding - top);
-    return bottom + padding + gap();
-}
-
-int PageView::placeTitle(const Group& group, const Columns& columns, int top) {
-    int bottom = top;
-    const auto place = [&](QWidget& label) {
-        label.setGeometry(columns.item, bottom, columns.right - columns.item, label.sizeHint().height());
-        bottom += label.sizeHint().height() + gap() / 2;
-    };
-    if (group.frame)
-        place(group.frame->widget());
-    if (group.title)
-        place(*group.title);
-    return bottom;
-}
-
-int PageView::placeHeads(const Group& group, const Columns& columns, const std::vector<int>& widths, int top) {
-    int height = 0;
-    int left = columns.question;
-    for (std::size_t column = 0; column < group.heads.size(); ++column) {
-        QLabel* head = group.heads[column];
-        const int width = column == 0 ? columns.questionWidth : column <= widths.size() ? widths[column - 1] : gap();
-        head->setGeometry(left, top, width, head->sizeHint().height());
-        height = std::max(height, head->height());
-        left = column == 0 ? columns.controls : left + width;
-    }
-    return top + height + gap() / 2;
-}
-
-int PageView::placeQuestion(const Row& row, const Columns& columns, int top, int width) {
-    const int offset = (lineHeight() - fontMetrics().height()) / 2;
-    if (row.item)
-        row.item->setGeometry(columns.item, top + offset, columns.question - columns.item - gap(),
-                              row.item->sizeHint().height());
-    if (row.mark)
-        row.mark->setGeometry(QRect({columns.mark, top + offset}, row.mark->sizeHint()));
-    if (!row.question)
-        return top;
-    const int height = row.question->heightForWidth(width);
-    row.question->setGeometry(columns.question, top + offset, width, height);
-    return top + offset + height;
-}
-
-int PageView::placeTableRow(const Row& row, const Columns& columns, const std::vector<int>& widths, int top) {
-    int bottom = std::max(top + lineHeight(), placeQuestion(row, columns, top, columns.questionWidth));
-    std::size_t first = 0;
-    int middle = top + lineHeight() / 2;
-    if (leadsRow(row)) {
-        first = 1;
-        ControlView& lead = *row.controls.front();
-        const QSize size = lead.sizeFor(columns.questionWidth, false);
-        const int height = std::max(size.height(), lineHeight());
-        lead.widget().setGeometry(QRect({columns.question, top}, QSize(size.width(), height)));
-        bottom = std::max(bottom, top + height);
-        middle = top + height / 2;
-    }
-    const auto place = [&](QWidget& widget, int left, QSize size) {
-        widget.setGeometry(QRect({left, std::max(top, middle - size.height() / 2)}, size));
-        bottom = std::max(bottom, widget.geometry().bottom() + 1);
-    };
-    int left = columns.controls;
-    for (std::size_t cell = first; cell < row.controls.size(); ++cell) {
-        const int width = widths[cell - first];
-        place(row.controls[cell]->widget(), left, row.controls[cell]->sizeFor(width - gap(), false));
-        left += width;
-    }
-    if (row.unit)
-        place(*row.unit, left, row.unit->sizeHint());
-    return bottom;
-}
-
-int PageView::placeRow(const Row& row, const Columns& columns, int top) {
-    if (row.controls.empty())
-        return placeQuestion(row, columns, top, columns.right - columns.question);
-    if (fillsWidth(row))
-        return placeFilling(row, columns, top);
-    const int room = columns.right - columns.controls;
-    const bool tooWide = std::ranges::any_of(
-        row.controls, [room](const ControlView* view) { return shownByCode(view) && view->leastWidth() > room; });
-    const int questionBottom = placeQuestion(row, columns, top, columns.questionWidth);
-    if (tooWide)
-        return placeControls(row, columns.question, columns.right, questionBottom + gap() / 2);
-    return std::max(questionBottom, placeControls(row, columns.controls, columns.right, top));
-}
-
-int PageView::placeFilling(const Row& row, const Columns& columns, int top) {
-    const int width = columns.right - columns.item;
-    int start = top;
-    if (row.question) {
-        start += gap() / 2;
-        const int height = row.question->heightForWidth(width);
-        row.question->setGeometry(columns.item, start, width, height);
-        start += height + gap() / 2;
-    }
-    ControlView& view = *row.controls.front();
-    constexpr int leastLines = 8;
-    const int left = lastViewHeight - start - 2 * gap() - gap() / 2;
-    const bool stretches = view.fillsPage() && lastViewHeight > 0;
-    const int height = stretches ? std::max(left, leastLines * lineHeight()) : view.sizeFor(width, true).height();
-    view.widget().setGeometry(columns.item, start, width, height);
-    return start + height;
-}
-
-int PageView::placeControls(const Row& row, int left, int right, int top) {
-    FlowLine line(left, right, top, lineHeight(), gap());
-    const bool alone = boxStandsAlone(row);
-    for (ControlView* view : row.controls)
-        if (shownByCode(view))
-            line.add(view->widget(), view->sizeFor(right - left, alone));
-    if (row.unit)
-        line.add(*row.unit, row.unit->sizeHint());
-    return line.finish();
 }
 
 bool PageView::event(QEvent* event) {
