@@ -26,8 +26,8 @@ void ListBox::showPopup() {
 }
 
 void ListBox::paintEvent(QPaintEvent* /*event*/) {
-    // As Qt draws it, but a foreign text in full colour, without blanks around it, and a text that does not fit with its
-    // end left out.
+    // As Qt draws it, but a foreign text in full colour, without blanks around it, and a text that does not fit with
+    // its end left out.
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
