@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTableView>
 #include <QThread>
 #include <QToolButton>
 #include <atomic>
@@ -94,10 +95,11 @@ QWidget* openDialog() {
 
 }  // namespace
 
-Robot::Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFolder)
+Robot::Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFolder, bool keyboardAlone)
     : proposal(proposal),
       window(window),
       pictures(std::move(pictureFolder)),
+      keyboardAlone(keyboardAlone),
       commands{
           {"menu", &Robot::menu},           {"type", &Robot::type},       {"press", &Robot::press},
           {"pressform", &Robot::pressForm}, {"click", &Robot::click},     {"pick", &Robot::pick},
@@ -130,7 +132,6 @@ void Robot::runLine(const std::string& line) {
     constexpr std::string_view picture = "# screenshot ";
     if (line.starts_with(picture))
         return takePicture(toQt(line.substr(picture.size())));
-    keyboardAlone |= line == "# by keyboard alone";
     const Words words = driver::splitWords(line);
     if (words.empty())
         return;
@@ -365,10 +366,34 @@ void Robot::pickByKeyboard(ComboBox& list, const driver::Word& item) {
     Hands::waitUntil([&] { return list.listIndex() == wanted && !box->view()->isVisible(); }, "the item is picked");
 }
 
+void Robot::clickOnCell(const Grid& grid, int row, int column, bool onButton) {
+    scrollTo(grid);
+    QPoint place;
+    bool covered = false;
+    Hands::inWindow([&] {
+        auto* table = static_cast<QTableView*>(widgetOf(grid));
+        const QModelIndex cell = table->model()->index(row, column);
+        table->scrollTo(cell);
+        const QRect rect = table->visualRect(cell);
+        // The button stands at the right end of its cell.
+        place = table->viewport()->mapToGlobal(onButton ? QPoint(rect.right() - rect.height() / 2, rect.center().y())
+                                                        : rect.topLeft() + QPoint(8, rect.height() / 2));
+        covered = QApplication::widgetAt(place) != table->viewport();
+    });
+    if (covered)  // the editor that a click would bring is there already
+        return;
+    clickAndWait(place);
+    Hands::waitUntil([&] { return grid.currentRow() == row && grid.currentColumn() == column; }, "the cell is current");
+}
+
 Grid& Robot::goToCell(const Words& words) {
     auto& grid = dynamic_cast<Grid&>(control(words.at(1)));
     const int row = driver::countingNumber(words.at(2).text);
     const int column = driver::countingNumber(words.at(3).text);
+    if (!keyboardAlone) {
+        clickOnCell(grid, row, column, false);
+        return grid;
+    }
     takeFocus(grid);
     constexpr int most = 300;
     for (int turn = 0; turn < most; ++turn) {
@@ -395,8 +420,13 @@ void Robot::cell(const Words& words) {
 }
 
 void Robot::openCell(const Words& words) {
-    goToCell(words);
-    Hands::key("alt+Down");
+    if (keyboardAlone) {
+        goToCell(words);
+        Hands::key("alt+Down");
+    } else {
+        clickOnCell(dynamic_cast<Grid&>(control(words.at(1))), driver::countingNumber(words.at(2).text),
+                    driver::countingNumber(words.at(3).text), words[0].text == "cellbutton");
+    }
 }
 
 void Robot::date(const Words& words) {

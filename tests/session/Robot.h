@@ -17,11 +17,11 @@
 namespace plandesk::session {
 
 /// Does what a script of the driver's grammar says, on the real window with keyboard and mouse. It knows the commands
-/// that are a user's doing, `answer` and `expect-message`, takes a picture of the screen at each comment
-/// "# screenshot NAME", and leaves the mouse alone from a comment "# by keyboard alone" on.
+/// that are a user's doing, `answer` and `expect-message`, and takes a picture of the screen at each
+/// comment "# screenshot NAME". With `keyboardAlone` it never touches the mouse.
 class Robot {
 public:
-    Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFolder);
+    Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFolder, bool keyboardAlone);
 
     /// Runs the script; throws at the first thing that does not come about.
     void run(std::istream& script);
@@ -51,7 +51,8 @@ private:
     void clickOn(const Control& control);
     void tabTo(const Control& control);
     void takeFocus(Control& control);
-    /// Walks with the arrow keys to the cell that the words name.
+    void clickOnCell(const Grid& grid, int row, int column, bool onButton);
+    /// Makes the cell that the words name the current one, with the arrow keys or a click.
     Grid& goToCell(const Words& words);
     void menuByKeyboard(QAction& entry);
     void pickByKeyboard(ComboBox& list, const driver::Word& item);
@@ -62,7 +63,7 @@ private:
     Proposal& proposal;
     desktop::MainWindow& window;
     QString pictures;
-    bool keyboardAlone = false;
+    bool keyboardAlone;
     std::deque<std::string> answers;
     std::deque<Message> messages;
     std::map<std::string, void (Robot::*)(const Words&), std::less<>> commands;

@@ -1,5 +1,6 @@
-// plandesk-session SCRIPT PICTURES: shows the whole program on the present display, lets a robot work it with keyboard
-// and mouse as the driver's script SCRIPT says, and leaves pictures in the folder PICTURES.
+// plandesk-session SCRIPT PICTURES [keyboard]: shows the whole program on the present display, lets a robot work it
+// with keyboard and mouse, or by keyboard alone, as the driver's script SCRIPT says, and leaves pictures in the folder
+// PICTURES.
 
 #include <QApplication>
 #include <QThread>
@@ -7,6 +8,7 @@
 #include <fstream>
 #include <iostream>
 #include <memory>
+#include <string_view>
 
 #include "controls/FileStore.h"
 #include "desktop/QtPorts.h"
@@ -16,8 +18,9 @@
 
 int main(int argc, char* argv[]) {
     using namespace plandesk;
-    if (argc != 3) {
-        std::cerr << "usage: plandesk-session SCRIPT PICTURES\n";
+    const bool keyboardAlone = argc == 4 && std::string_view(argv[3]) == "keyboard";
+    if (argc != 3 && !keyboardAlone) {
+        std::cerr << "usage: plandesk-session SCRIPT PICTURES [keyboard]\n";
         return 2;
     }
     QApplication application(argc, argv);
@@ -41,7 +44,7 @@ int main(int argc, char* argv[]) {
             std::ifstream script(argv[1]);
             if (!script)
                 throw std::runtime_error(std::string("cannot read ") + argv[1]);
-            session::Robot(proposal, window, argv[2]).run(script);
+            session::Robot(proposal, window, argv[2], keyboardAlone).run(script);
         } catch (const std::exception& error) {
             std::cerr << error.what() << '\n';
             status = 1;
