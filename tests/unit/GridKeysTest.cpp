@@ -198,6 +198,21 @@ TEST_F(GridKeys, LeavingTheGridEndsTheEdit) {
     EXPECT_EQ(take(), (Log{"updated 2", "left"}));
 }
 
+TEST_F(GridKeys, AnotherTableGivesUpTheEdit) {
+    user::goToCell(grid, 0, 2);
+    press({"n", "e", "w"});
+    auto other = std::make_shared<Recordset>(columns);
+    other->addNew();
+    other->set("Name", "other");
+    other->update();
+    grid.bind(other);
+    EXPECT_FALSE(grid.editing());
+    press({"Tab"});
+    EXPECT_EQ(cell(0, 2), "other");
+    grid.bind(table);
+    EXPECT_EQ(cell(0, 2), "first");
+}
+
 TEST_F(GridKeys, AnotherCellEndsTheEditInTheOldOne) {
     user::goToCell(grid, 0, 2);
     press({"x"});

@@ -23,6 +23,7 @@ TEST_F(OwnershipRows, TakeNamesAndAreasAndNumbersPrcsBehind) {
     EXPECT_FALSE(proposal.ownershipRelationSaved);
     user::click(land.cmdSave);
     EXPECT_EQ(rowTexts(*tables.rsOwnership), (Texts{"1|Sham,Ram|12.5|0", "2||0|Yes", "3|Sita|0|0"}));
+    EXPECT_EQ(tables.rsOwnership->filter(), "");
     EXPECT_TRUE(proposal.ownershipRelationSaved);
 }
 
