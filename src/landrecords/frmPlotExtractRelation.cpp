@@ -92,6 +92,7 @@ frmPlotExtractRelation::frmPlotExtractRelation(Proposal& proposal)
 
 void frmPlotExtractRelation::wire(const Family& family) {
     family.plots.keyPress = keyFilterDecimal;
+    family.plots.rightAligned = family.total.rightAligned = true;
     family.plots.change = family.plots.lostFocus = [this, &family] { plotsChanged(family); };
     family.grid.afterColumnUpdate = [this, &family](int) { recount(family); };
     family.grid.enterKey = [this, &family] { return enterOnGrid(family); };
