@@ -12,6 +12,7 @@
 
 #include "controls/FileStore.h"
 #include "desktop/QtPorts.h"
+#include "desktop/QtProgress.h"
 #include "desktop/Theme.h"
 #include "session/Robot.h"
 #include "shell/mdiInterface.h"
@@ -30,11 +31,12 @@ int main(int argc, char* argv[]) {
     desktop::QtClock clock;
     desktop::QtProgram program;
     desktop::QtDialogs dialogs(program);
+    desktop::QtProgress progress;
     FileStore files;
-    Proposal proposal({dialogs, clock, files, program});
+    Proposal proposal({dialogs, clock, files, program, progress});
     mdiInterface shell(proposal);
     desktop::MainWindow window(proposal, shell);
-    dialogs.parent = &window;
+    dialogs.parent = progress.parent = &window;
     window.resize(1024, 700);
     window.show();
 
