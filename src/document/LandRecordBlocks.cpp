@@ -31,8 +31,12 @@ struct Block {
     bool is712;
 };
 
-constexpr int statics712[] = {1, 2, 3, 4, 5, 6, 7};
-constexpr int staticsPRC[] = {1, 2, 3, 5, 6, 7};  // without FerFarNo
+constexpr int statics712[] = {ExtractColumn::SurveyNo, ExtractColumn::HissaNo,    ExtractColumn::DateOf712,
+                              ExtractColumn::FerFarNo, ExtractColumn::NoOfOwners, ExtractColumn::CumulativeArea,
+                              ExtractColumn::NoOfPAHs};
+constexpr int staticsPRC[] = {  // without FerFarNo
+    ExtractColumn::SurveyNo,   ExtractColumn::HissaNo,        ExtractColumn::DateOf712,
+    ExtractColumn::NoOfOwners, ExtractColumn::CumulativeArea, ExtractColumn::NoOfPAHs};
 
 constexpr Block block712 = {
     "a712Extract", "NoOfExtract", "Extract", "Remark712", family712, statics712, &Proposal::extractOwnerXML, true};
@@ -63,10 +67,10 @@ std::string_view statusWord(const Value& status) {
 }
 
 Text owner(const Block& block, Recordset& owners) {
-    Text text = EscapeXML(trimmed(owners, ownerName)) + "#";
-    text.append(statusWord(owners.get(ownerStatus))).append("#");
-    text += std::to_string(encumbranceCode(trimmed(owners, ownerEncumbrance)));
-    Text type = trimmed(owners, ownerType);
+    Text text = EscapeXML(trimmed(owners, OwnerColumn::Name)) + "#";
+    text.append(statusWord(owners.get(OwnerColumn::SingingStatus))).append("#");
+    text += std::to_string(encumbranceCode(trimmed(owners, OwnerColumn::Encumbrances)));
+    Text type = trimmed(owners, OwnerColumn::OwnerType);
     if (type == trim(noOwnerType))
         type.clear();
     // The 7/12 block has no "#" before the type: its reader expects three pieces.
@@ -74,7 +78,8 @@ Text owner(const Block& block, Recordset& owners) {
 }
 
 Text holder(Recordset& holders) {
-    return trimmed(holders, holderName) + "#" + (valueNumber(holders.get(holderSign)) != 0 ? "1" : "0");
+    return trimmed(holders, HolderColumn::Name) + "#" +
+           (valueNumber(holders.get(HolderColumn::PAHSing)) != 0 ? "1" : "0");
 }
 
 /// Number of the rows of one extract, then one numbered element for each.
@@ -92,7 +97,7 @@ void appendExtract(Text& xml, const Block& block, Proposal& proposal, Recordset&
     Recordset& owners = proposal.tables.ensure(block.family.owners);
     Recordset& holders = proposal.tables.ensure(block.family.holders);
     const Text element = Text(block.extract) + std::to_string(extracts.absolutePosition());
-    const Text key = "ExtNo = " + valueText(extracts.get("ExtNo"));
+    const Text key = "ExtNo = " + valueText(extracts.get(ExtractColumn::ExtNo));
     xml.append("<").append(element).append(">");
     appendElement(xml, "Static", statics(block, extracts));
     appendRows(xml, owners, key, "NoOfOwner", "OWNER", [&] { return owner(block, owners); });

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "landrecords/ExtractForm.h"
+#include "proposal/InPlace.h"
 
 namespace plandesk {
 
@@ -13,52 +14,52 @@ constexpr std::array<Tables::Member, 2> droppedPRC = {&Tables::rsPAHPRC, &Tables
 
 constexpr GridColumn hidden = {.caption = "", .width = 0};
 
-constexpr std::array<GridColumn, 8> infoColumns712 = {{
-    hidden,
-    {.caption = "Survey No", .width = 1400},
-    {.caption = "Hissa No", .width = 1400},
-    {.caption = "Date of 7/12", .width = 1500, .button = true},
-    {.caption = "Ferfar No", .width = 1600},
-    {.caption = "No of Owners", .width = 1300},
-    {.caption = "Cumulative 7/12 Area in Sq.Mt", .width = 2600},
-    {.caption = "No Of PAHs", .width = 1200},
-}};
+constexpr auto infoColumns712 = inPlace<ExtractColumn, GridColumn>({
+    {ExtractColumn::ExtNo, hidden},
+    {ExtractColumn::SurveyNo, {.caption = "Survey No", .width = 1400}},
+    {ExtractColumn::HissaNo, {.caption = "Hissa No", .width = 1400}},
+    {ExtractColumn::DateOf712, {.caption = "Date of 7/12", .width = 1500, .button = true}},
+    {ExtractColumn::FerFarNo, {.caption = "Ferfar No", .width = 1600}},
+    {ExtractColumn::NoOfOwners, {.caption = "No of Owners", .width = 1300}},
+    {ExtractColumn::CumulativeArea, {.caption = "Cumulative 7/12 Area in Sq.Mt", .width = 2600}},
+    {ExtractColumn::NoOfPAHs, {.caption = "No Of PAHs", .width = 1200}},
+});
 
-constexpr std::array<GridColumn, 8> infoColumnsPRC = {{
-    hidden,
-    {.caption = "City Survey No", .width = 1600},
-    {.caption = "Tika Sheet No ", .width = 1600},
-    {.caption = "PRC Date", .width = 1500, .button = true},
-    {.caption = "Ferfar No", .width = 0},
-    {.caption = "No of Owners", .width = 1300},
-    {.caption = "Cumulative PRC Area", .width = 2200},
-    {.caption = "No Of PAHs", .width = 1200},
-}};
+constexpr auto infoColumnsPRC = inPlace<ExtractColumn, GridColumn>({
+    {ExtractColumn::ExtNo, hidden},
+    {ExtractColumn::SurveyNo, {.caption = "City Survey No", .width = 1600}},
+    {ExtractColumn::HissaNo, {.caption = "Tika Sheet No ", .width = 1600}},
+    {ExtractColumn::DateOf712, {.caption = "PRC Date", .width = 1500, .button = true}},
+    {ExtractColumn::FerFarNo, {.caption = "Ferfar No", .width = 0}},
+    {ExtractColumn::NoOfOwners, {.caption = "No of Owners", .width = 1300}},
+    {ExtractColumn::CumulativeArea, {.caption = "Cumulative PRC Area", .width = 2200}},
+    {ExtractColumn::NoOfPAHs, {.caption = "No Of PAHs", .width = 1200}},
+});
 
-constexpr std::array<GridColumn, 6> ownerColumns712 = {{
-    hidden,
-    {.caption = "Sr No", .width = 700},
-    {.caption = "Name Of Owner", .width = 4200},
-    {.caption = "Owner Signing Status ", .width = 2100, .button = true},
-    {.caption = "Encumbrances", .width = 2600, .button = true},
-    {.caption = "Owner Type", .width = 0},
-}};
+constexpr auto ownerColumns712 = inPlace<OwnerColumn, GridColumn>({
+    {OwnerColumn::ExtNo, hidden},
+    {OwnerColumn::OwnNo, {.caption = "Sr No", .width = 700}},
+    {OwnerColumn::Name, {.caption = "Name Of Owner", .width = 4200}},
+    {OwnerColumn::SingingStatus, {.caption = "Owner Signing Status ", .width = 2100, .button = true}},
+    {OwnerColumn::Encumbrances, {.caption = "Encumbrances", .width = 2600, .button = true}},
+    {OwnerColumn::OwnerType, {.caption = "Owner Type", .width = 0}},
+});
 
-constexpr std::array<GridColumn, 6> ownerColumnsPRC = {{
-    hidden,
-    {.caption = "Sr No", .width = 700},
-    {.caption = "Name Of Owner", .width = 3600},
-    {.caption = "Owner Signing Status ", .width = 2100},
-    {.caption = "Encumbrances", .width = 2600},
-    {.caption = "Owner Type", .width = 2100},
-}};
+constexpr auto ownerColumnsPRC = inPlace<OwnerColumn, GridColumn>({
+    {OwnerColumn::ExtNo, hidden},
+    {OwnerColumn::OwnNo, {.caption = "Sr No", .width = 700}},
+    {OwnerColumn::Name, {.caption = "Name Of Owner", .width = 3600}},
+    {OwnerColumn::SingingStatus, {.caption = "Owner Signing Status ", .width = 2100}},
+    {OwnerColumn::Encumbrances, {.caption = "Encumbrances", .width = 2600}},
+    {OwnerColumn::OwnerType, {.caption = "Owner Type", .width = 2100}},
+});
 
-constexpr std::array<GridColumn, 4> columnsOfHolders = {{
-    hidden,
-    {.caption = "SrNo", .width = 700},
-    {.caption = "Holder Name", .width = 4200},
-    {.caption = "PAH Sign", .width = 1000, .locked = true, .button = true, .yesNo = true},
-}};
+constexpr auto columnsOfHolders = inPlace<HolderColumn, GridColumn>({
+    {HolderColumn::ExtNo, hidden},
+    {HolderColumn::PAHNo, {.caption = "SrNo", .width = 700}},
+    {HolderColumn::Name, {.caption = "Holder Name", .width = 4200}},
+    {HolderColumn::PAHSing, {.caption = "PAH Sign", .width = 1000, .locked = true, .button = true, .yesNo = true}},
+});
 
 }  // namespace
 

@@ -47,11 +47,6 @@ struct ExtractWording {
 extern const ExtractWording wording712;
 extern const ExtractWording wordingPRC;
 
-// Places of the columns of the three grids.
-enum InfoColumn { infoDate = 3, infoOwners = 5, infoHolders = 7 };
-enum OwnerColumn { ownerName = 2, ownerStatus = 3, ownerEncumbrance = 4, ownerType = 5 };
-enum HolderColumn { holderName = 2, holderSign = 3 };
-
 extern const std::span<const GridColumn> holderColumns;
 
 // What an owner has whose lists were not touched.

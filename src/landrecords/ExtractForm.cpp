@@ -45,9 +45,9 @@ void ExtractForm::wire() {
     dgdInfoOfExtract.afterColumnUpdate = [this](int column) { infoUpdated(column); };
     dgdInfoOfExtract.buttonClick = [this](int) { placeDate(true); };
     dgdInfoOfExtract.editStart = [this](int column) {
-        if (column == infoDate)
+        if (column == ExtractColumn::DateOf712)
             placeDate(true);
-        return column != infoDate;
+        return column != ExtractColumn::DateOf712;
     };
     DTPicker1.change = [this] { dateChosen(); };
     dgdOwner.buttonClick = dgdOwner.click = [this](int column) { ownerLists.open(column); };
@@ -129,7 +129,7 @@ void ExtractForm::listExtracts() {
     int listed = 0;
     for (plots.moveFirst(); !plots.eof(); plots.moveNext()) {
         const std::string plot =
-            " " + std::string(trim(valueText(plots.get("Plot Name")))) + " --- " + std::string(wording->entry);
+            " " + std::string(trim(valueText(plots.get(PlotColumn::PlotName)))) + " --- " + std::string(wording->entry);
         for (std::int16_t i = extractCount(plots); i > 0; --i)
             cmbExtract.addItem(plot + std::to_string(++listed) + " ");
     }
@@ -152,9 +152,10 @@ void ExtractForm::buildRows() {
     }
     for (; number <= count; ++number) {
         extracts->addNew();
-        extracts->set("ExtNo", number);
-        extracts->set("DateOf712", screen().ports.clock.today());
-        for (const std::string_view column : {"FerFarNo", "NoOfOwners ", "CumulativeArea", "NoOfPAHs"})
+        extracts->set(ExtractColumn::ExtNo, number);
+        extracts->set(ExtractColumn::DateOf712, screen().ports.clock.today());
+        for (const int column : {ExtractColumn::FerFarNo, ExtractColumn::NoOfOwners, ExtractColumn::CumulativeArea,
+                                 ExtractColumn::NoOfPAHs})
             extracts->set(column, 0);
         extracts->update();
     }
@@ -210,11 +211,11 @@ void ExtractForm::infoUpdated(int column) {
     const auto number = [this, column] {
         return toInteger16(valueNumber(proposal.tables.ensure(family.extracts).get(column)));
     };
-    if (column == infoDate) {
+    if (column == ExtractColumn::DateOf712) {
         placeDate(false);
-    } else if (column == infoOwners) {
+    } else if (column == ExtractColumn::NoOfOwners) {
         addOwner(number());
-    } else if (column == infoHolders) {
+    } else if (column == ExtractColumn::NoOfPAHs) {
         addPAH(number());
     }
 }
@@ -225,11 +226,11 @@ void ExtractForm::addOwner(std::int16_t count) {
     owners.deleteVisible();
     for (int number = 1; number <= count; ++number) {
         owners.addNew();
-        owners.set("ExtNo", chosenExtract);
-        owners.set("OwnNo", number);
-        owners.set("SingingStatus", std::string(noStatus));
-        owners.set("Encumbrances", std::string(noEncumbrance));
-        owners.set("OwnerType", std::string(noOwnerType));
+        owners.set(OwnerColumn::ExtNo, chosenExtract);
+        owners.set(OwnerColumn::OwnNo, number);
+        owners.set(OwnerColumn::SingingStatus, std::string(noStatus));
+        owners.set(OwnerColumn::Encumbrances, std::string(noEncumbrance));
+        owners.set(OwnerColumn::OwnerType, std::string(noOwnerType));
         owners.update();
     }
     bindOwners();
@@ -241,9 +242,9 @@ void ExtractForm::addPAH(std::int16_t count) {
     holders.deleteVisible();
     for (int number = 1; number <= count; ++number) {
         holders.addNew();
-        holders.set("ExtNo", chosenExtract);
-        holders.set("PAHNo", number);
-        holders.set("PAHSing", false);
+        holders.set(HolderColumn::ExtNo, chosenExtract);
+        holders.set(HolderColumn::PAHNo, number);
+        holders.set(HolderColumn::PAHSing, false);
         holders.update();
     }
     bindHolders();
@@ -253,9 +254,9 @@ void ExtractForm::placeDate(bool focus) {
     Recordset& extracts = proposal.tables.ensure(family.extracts);
     if (!hasCurrentRow(extracts))
         return;  // nothing to place the picker over
-    if (const auto* date = std::get_if<Date>(&extracts.get(infoDate)))
+    if (const auto* date = std::get_if<Date>(&extracts.get(ExtractColumn::DateOf712)))
         DTPicker1.setDate(*date);
-    dgdInfoOfExtract.place(DTPicker1, infoDate);
+    dgdInfoOfExtract.place(DTPicker1, ExtractColumn::DateOf712);
     if (focus)
         DTPicker1.setFocus();
 }
@@ -264,7 +265,7 @@ void ExtractForm::dateChosen() {
     Recordset& extracts = proposal.tables.ensure(family.extracts);
     if (!hasCurrentRow(extracts))
         return;
-    extracts.set(infoDate, DTPicker1.date());
+    extracts.set(ExtractColumn::DateOf712, DTPicker1.date());
     extracts.update();
     dgdInfoOfExtract.refresh();
 }
@@ -278,7 +279,7 @@ void ExtractForm::toggleSign() {
     Recordset& holders = proposal.tables.ensure(family.holders);
     if (!hasCurrentRow(holders))
         return;
-    holders.set(holderSign, valueNumber(holders.get(holderSign)) == 0);
+    holders.set(HolderColumn::PAHSing, valueNumber(holders.get(HolderColumn::PAHSing)) == 0);
     holders.update();
     dgdPAH.refresh();
 }

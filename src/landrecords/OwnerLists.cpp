@@ -27,7 +27,9 @@ void addItems(ComboBox& list, std::span<const std::string_view> items) {
 
 OwnerLists::OwnerLists(Grid& owners, ComboBox& status, ComboBox& encumbrance, ComboBox& type, bool typeFollows)
     : owners(owners),
-      lists{{{status, ownerStatus, true}, {encumbrance, ownerEncumbrance, true}, {type, ownerType, typeFollows}}} {
+      lists{{{status, OwnerColumn::SingingStatus, true},
+             {encumbrance, OwnerColumn::Encumbrances, true},
+             {type, OwnerColumn::OwnerType, typeFollows}}} {
     addItems(status, statuses);
     encumbrance.addItem(noEncumbrance);
     addItems(encumbrance, encumbrances);
@@ -66,7 +68,7 @@ void OwnerLists::cellChanged(bool placeOwn) {
 void OwnerLists::place(const List& list) {
     placing = true;
     const std::string text = owners.cellText(owners.currentRow(), list.column);
-    const bool anyCase = list.column == ownerEncumbrance;  // what was read from a document is in upper case
+    const bool anyCase = list.column == OwnerColumn::Encumbrances;  // what was read from a document is in upper case
     for (int item = 0; item < list.box.listCount(); ++item) {
         const std::string_view known = trim(list.box.item(item));
         if (anyCase ? equalsIgnoringCase(known, trim(text)) : known == trim(text)) {
@@ -82,7 +84,7 @@ void OwnerLists::leave(List& list) {
     if (!std::exchange(list.opened, false) || list.box.listIndex() < 0)
         return;
     // The owner type alone is written without a look whether there is a row for it.
-    if (list.column != ownerType && owners.currentRow() < 0)
+    if (list.column != OwnerColumn::OwnerType && owners.currentRow() < 0)
         return;
     if (!owners.table())
         throw RuntimeError(ErrorNumber::ObjectNotSet);

@@ -16,7 +16,7 @@ std::string ownerNames(Recordset& owners) {
     std::string names;
     std::string_view comma;
     for (owners.moveFirst(); !owners.eof(); owners.moveNext()) {
-        names.append(comma).append(trim(valueText(owners.get("name"))));
+        names.append(comma).append(trim(valueText(owners.get(OwnerColumn::Name))));
         comma = ",";
     }
     return names;
@@ -31,18 +31,18 @@ bool takeOver(Proposal& proposal, Tables::Member extractTable, Tables::Member ow
     if (extracts.recordCount() == 0)
         return false;
     for (extracts.moveFirst(); !extracts.eof(); extracts.moveNext()) {
-        const std::int32_t number = toInteger32(valueNumber(extracts.get("ExtNo")));
+        const std::int32_t number = toInteger32(valueNumber(extracts.get(ExtractColumn::ExtNo)));
         const std::int32_t global = toInteger32(static_cast<double>(number) + shift);
         ownership.setFilter("ExtNo = " + std::to_string(global));
         if (ownership.recordCount() == 0) {
             ownership.addNew();
-            ownership.set("DocStatus", "0");
+            ownership.set(OwnershipColumn::DocStatus, "0");
         }
-        ownership.set("ExtNo", global);
+        ownership.set(OwnershipColumn::ExtNo, global);
         owners.setFilter("");
         owners.setFilter("ExtNo = " + std::to_string(number));
-        ownership.set("Name", ownerNames(owners));
-        ownership.set("Area", valueNumber(extracts.get("CumulativeArea")));
+        ownership.set(OwnershipColumn::Name, ownerNames(owners));
+        ownership.set(OwnershipColumn::Area, valueNumber(extracts.get(ExtractColumn::CumulativeArea)));
         ownership.update();
         ownership.setFilter("");
     }

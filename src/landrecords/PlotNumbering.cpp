@@ -2,20 +2,17 @@
 
 #include <limits>
 #include <string>
-#include <string_view>
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
+#include "proposal/TableColumns.h"
 
 namespace plandesk {
 
 namespace {
 
-constexpr std::string_view plotNumber = "SrNo";
-constexpr std::string_view extracts = "No of PRC";  // counts the extracts of a plot in both families
-
 std::int32_t numberOf(Recordset& plots) {
-    return toInteger32(valueNumber(plots.get(plotNumber)));
+    return toInteger32(valueNumber(plots.get(PlotColumn::SrNo)));
 }
 
 std::int16_t added16(std::int16_t sum, std::int16_t more) {
@@ -48,7 +45,7 @@ void filterToOthers(Recordset& table, const std::vector<Plot>& plots) {
 }  // namespace
 
 std::int16_t extractCount(Recordset& plots) {
-    return toInteger16(valueNumber(plots.get(extracts)));
+    return toInteger16(valueNumber(plots.get(PlotColumn::NoOfPRC)));
 }
 
 std::int16_t sumOfExtracts(Recordset& plots) {

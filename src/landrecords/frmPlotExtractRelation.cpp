@@ -1,31 +1,28 @@
 #include "landrecords/frmPlotExtractRelation.h"
 
-#include <array>
 #include <string>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "proposal/InPlace.h"
 
 namespace plandesk {
 
 namespace {
 
-constexpr int countColumn = 3;
-constexpr int nameColumn = 2;
+constexpr auto columns712 = inPlace<PlotColumn, GridColumn>({
+    {PlotColumn::SrNo, {.caption = "Sr No", .width = 0}},
+    {PlotColumn::PlotDesciption, {.caption = " ", .width = 2200, .locked = true}},
+    {PlotColumn::PlotName, {.caption = "Plot Name", .width = 3600}},
+    {PlotColumn::NoOfPRC, {.caption = "No. of Extract", .width = 1600}},
+});
 
-constexpr std::array<GridColumn, 4> columns712 = {{
-    {.caption = "Sr No", .width = 0},
-    {.caption = " ", .width = 2200, .locked = true},
-    {.caption = "Plot Name", .width = 3600},
-    {.caption = "No. of Extract", .width = 1600},
-}};
-
-constexpr std::array<GridColumn, 4> columnsPRC = {{
-    {.caption = "Sr No", .width = 0},
-    {.caption = " ", .width = 2200, .locked = true},
-    {.caption = "Plot Name", .width = 3600},
-    {.caption = "No. of PRC", .width = 1600},
-}};
+constexpr auto columnsPRC = inPlace<PlotColumn, GridColumn>({
+    {PlotColumn::SrNo, {.caption = "Sr No", .width = 0}},
+    {PlotColumn::PlotDesciption, {.caption = " ", .width = 2200, .locked = true}},
+    {PlotColumn::PlotName, {.caption = "Plot Name", .width = 3600}},
+    {PlotColumn::NoOfPRC, {.caption = "No. of PRC", .width = 1600}},
+});
 
 void copyPlots(Recordset& from, Recordset& to) {
     for (const auto& row : from.allRows()) {
@@ -158,8 +155,8 @@ void frmPlotExtractRelation::plotsChanged(const Family& family) {
         plots.setFilter(" SrNo = " + std::to_string(i));
         if (plots.recordCount() == 0)
             plots.addNew();
-        plots.set("SrNo", i);
-        plots.set("PlotDesciption", "For Plot No : " + std::to_string(i));
+        plots.set(PlotColumn::SrNo, i);
+        plots.set(PlotColumn::PlotDesciption, "For Plot No : " + std::to_string(i));
         plots.update();
         plots.setFilter("");
     }
@@ -187,9 +184,10 @@ bool frmPlotExtractRelation::enterOnGrid(const Family& family) {
     const std::string& plots = family.plots.text();
     const int next = grid.currentRow() + 1;
     // The number of plots may be beyond the rows, after a deletion.
-    if (plots.empty() || grid.currentColumn() != countColumn || next >= leadingNumber(plots) || next >= grid.rowCount())
+    if (plots.empty() || grid.currentColumn() != PlotColumn::NoOfPRC || next >= leadingNumber(plots) ||
+        next >= grid.rowCount())
         return false;
-    grid.moveTo(next, nameColumn);
+    grid.moveTo(next, PlotColumn::PlotName);
     grid.beginEdit(family.enterKey);  // the key goes into the name of the next plot
     return true;
 }
@@ -218,7 +216,8 @@ void frmPlotExtractRelation::leaveRelation(const Family& family) {
     std::string list;
     Recordset& plots = proposal.tables.ensure(family.table);
     for (plots.moveFirst(); !plots.eof(); plots.moveNext())
-        list += valueText(plots.get("SrNo")) + "$-$" + std::string(trim(valueText(plots.get("Plot Name")))) + "$-$" +
+        list += valueText(plots.get(PlotColumn::SrNo)) + "$-$" +
+                std::string(trim(valueText(plots.get(PlotColumn::PlotName)))) + "$-$" +
                 std::to_string(extractCount(plots)) + "@->";
     proposal.*family.fragment += list;
 }

@@ -10,8 +10,9 @@ namespace {
 
 /// Adds `step` to the number of every visible row, in visit order.
 void renumber(Recordset& table, int step) {
+    const int extNo = columnIndex(table.columns(), "ExtNo");  // at a place of its own in each table
     for (; !table.eof(); table.moveNext()) {
-        table.set("ExtNo", toInteger32(valueNumber(table.get("ExtNo")) + step));
+        table.set(extNo, toInteger32(valueNumber(table.get(extNo)) + step));
         table.update();
     }
 }

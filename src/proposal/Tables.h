@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "proposal/Recordset.h"
+#include "proposal/TableColumns.h"
 
 namespace plandesk {
 
