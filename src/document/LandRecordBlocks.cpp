@@ -7,8 +7,8 @@
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "landrecords/Encumbrances.h"
-#include "landrecords/ExtractFamily.h"
 #include "landrecords/ExtractForm.h"
+#include "landrecords/ExtractFormKind.h"
 #include "landrecords/frmPlotExtractRelation.h"
 #include "proposal/Element.h"
 #include "proposal/Proposal.h"
@@ -25,10 +25,8 @@ struct Block {
     std::string_view count;
     std::string_view extract;  ///< element of one extract, numbered
     std::string_view remark;
-    const ExtractFamily& family;
+    const ExtractFormKind& form;
     std::span<const int> statics;  ///< columns of the extract that `Static` holds
-    std::string Proposal::*fragment;
-    bool is712;
 };
 
 constexpr int statics712[] = {ExtractColumn::SurveyNo, ExtractColumn::HissaNo,    ExtractColumn::DateOf712,
@@ -39,9 +37,22 @@ constexpr int staticsPRC[] = {  // without FerFarNo
     ExtractColumn::NoOfOwners, ExtractColumn::CumulativeArea, ExtractColumn::NoOfPAHs};
 
 constexpr Block block712 = {
-    "a712Extract", "NoOfExtract", "Extract", "Remark712", family712, statics712, &Proposal::extractOwnerXML, true};
+    .element = "a712Extract",
+    .count = "NoOfExtract",
+    .extract = "Extract",
+    .remark = "Remark712",
+    .form = form712,
+    .statics = statics712,
+};
 
-constexpr Block blockPRC = {"PRC", "NoOfPRC", "PRC", "RemarkPRC", familyPRC, staticsPRC, &Proposal::prcOwnerXML, false};
+constexpr Block blockPRC = {
+    .element = "PRC",
+    .count = "NoOfPRC",
+    .extract = "PRC",
+    .remark = "RemarkPRC",
+    .form = formPRC,
+    .statics = staticsPRC,
+};
 
 Text trimmed(Recordset& table, int column) {
     return Text(trim(valueText(table.get(column))));
@@ -53,7 +64,7 @@ Text statics(const Block& block, Recordset& extracts) {
         if (column != block.statics.front())
             text += "#";
         const Text value = trimmed(extracts, column);
-        text += block.is712 ? EscapeXML(value) : value;
+        text += block.form.family.is712 ? EscapeXML(value) : value;
     }
     return text;
 }
@@ -74,7 +85,7 @@ Text owner(const Block& block, Recordset& owners) {
     if (type == trim(noOwnerType))
         type.clear();
     // The 7/12 block has no "#" before the type: its reader expects three pieces.
-    return text + (block.is712 ? EscapeXML(type) : "#" + type);
+    return text + (block.form.family.is712 ? EscapeXML(type) : "#" + type);
 }
 
 Text holder(Recordset& holders) {
@@ -94,8 +105,8 @@ void appendRows(Text& xml, Recordset& table, std::string_view key, std::string_v
 }
 
 void appendExtract(Text& xml, const Block& block, Proposal& proposal, Recordset& extracts) {
-    Recordset& owners = proposal.tables.ensure(block.family.owners);
-    Recordset& holders = proposal.tables.ensure(block.family.holders);
+    Recordset& owners = proposal.tables.ensure(block.form.family.owners);
+    Recordset& holders = proposal.tables.ensure(block.form.family.holders);
     const Text element = Text(block.extract) + std::to_string(extracts.absolutePosition());
     const Text key = "ExtNo = " + valueText(extracts.get(ExtractColumn::ExtNo));
     xml.append("<").append(element).append(">");
@@ -112,29 +123,29 @@ Text remark(Proposal& proposal) {
 }
 
 void build(const Block& block, Proposal& proposal) {
-    Recordset& extracts = proposal.tables.ensure(block.family.extracts);
+    Recordset& extracts = proposal.tables.ensure(block.form.family.extracts);
     if (extracts.recordCount() == 0)
         return;
-    proposal.is712Current = block.is712;
+    proposal.is712Current = block.form.family.is712;
     proposal.isSavingLandRecord = true;
     Text xml;
     extracts.setFilter("");
     extracts.moveFirst();
     xml.append("<").append(block.element).append(">");
     appendElement(xml, block.count,
-                  block.is712 ? proposal.forms.get<frmPlotExtractRelation>().txtNoOfExtract712.text()
-                              : std::to_string(extracts.recordCount()));
+                  block.form.family.is712 ? proposal.forms.get<frmPlotExtractRelation>().txtNoOfExtract712.text()
+                                          : std::to_string(extracts.recordCount()));
     {
-        ProgressOf progress(proposal.screen.ports.progress, block.family.head, extracts.recordCount());
+        ProgressOf progress(proposal.screen.ports.progress, block.form.head, extracts.recordCount());
         for (; !extracts.eof(); extracts.moveNext()) {
             appendExtract(xml, block, proposal, extracts);
             progress.step();
         }
     }
     const Text closing = remark(proposal);
-    appendElement(xml, block.remark, EscapeXML(block.is712 ? trim(closing) : closing));
+    appendElement(xml, block.remark, EscapeXML(block.form.family.is712 ? trim(closing) : closing));
     xml.append("</").append(block.element).append(">");
-    proposal.*block.fragment = std::move(xml);
+    proposal.*block.form.family.extractList = std::move(xml);
     proposal.isSavingLandRecord = false;
 }
 

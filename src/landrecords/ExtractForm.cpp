@@ -5,7 +5,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "landrecords/Encumbrances.h"
-#include "landrecords/ExtractFamily.h"
+#include "landrecords/ExtractFormKind.h"
 #include "landrecords/Ownership.h"
 #include "landrecords/PlotNumbering.h"
 #include "particulars/frmAnnexureA.h"
@@ -20,13 +20,14 @@ bool hasCurrentRow(Recordset& table) {
 
 }  // namespace
 
-ExtractForm::ExtractForm(Proposal& proposal, const ExtractFamily& family)
-    : DataForm(proposal, family.formName, family.caption),
-      lblHead(*this, "lblHead", family.head),
-      cmdSave(*this, "cmdSave", family.saveCaption),
-      cmdReferesh(*this, "cmdReferesh", family.resetCaption),
-      family(family),
-      ownerLists(dgdOwner, cmbOwnSingingStatus, cmbEncumber, cmbOwnType, family.prc) {
+ExtractForm::ExtractForm(Proposal& proposal, const ExtractFormKind& kind)
+    : DataForm(proposal, kind.formName, kind.caption),
+      lblHead(*this, "lblHead", kind.head),
+      cmdSave(*this, "cmdSave", kind.saveCaption),
+      cmdReferesh(*this, "cmdReferesh", kind.resetCaption),
+      kind(kind),
+      family(kind.family),
+      ownerLists(dgdOwner, cmbOwnSingingStatus, cmbEncumber, cmbOwnType, !family.is712) {
     txtRemark.multiLine = true;
     for (Grid* grid : {&dgdInfoOfExtract, &dgdOwner, &dgdPAH})
         grid->allowDelete = false;
@@ -34,9 +35,9 @@ ExtractForm::ExtractForm(Proposal& proposal, const ExtractFamily& family)
     wire();
 }
 
-frmMain712::frmMain712(Proposal& proposal) : ExtractForm(proposal, family712) {}
+frmMain712::frmMain712(Proposal& proposal) : ExtractForm(proposal, form712) {}
 
-frmPRCEXT::frmPRCEXT(Proposal& proposal) : ExtractForm(proposal, familyPRC) {}
+frmPRCEXT::frmPRCEXT(Proposal& proposal) : ExtractForm(proposal, formPRC) {}
 
 void ExtractForm::wire() {
     txtNoOfExtranct.keyPress = keyFilterNumeric;
@@ -66,11 +67,11 @@ void ExtractForm::wire() {
 void ExtractForm::load() {
     txtNoOfExtranct.setEnabled(false);
     txtCaseType.setText(proposal.forms.get<frmAnnexureA>().cboCaseType.text());
-    wording = family.prc || !proposal.is712Current ? &wordingPRC : &wording712;
-    txtNoOfExtranct.setText(std::to_string(proposal.*wording->total));
+    wording = family.is712 && proposal.is712Current ? &wording712 : &wordingPRC;
+    txtNoOfExtranct.setText(std::to_string(proposal.*wording->family.total));
     applyWording();
     txtNoOfExtranct_LostFocus();
-    txtRemark.setText(proposal.*family.lastRemark);
+    txtRemark.setText(proposal.*family.remark);
     setFormColors(*this, proposal);
 }
 
@@ -84,23 +85,23 @@ void ExtractForm::applyWording() {
 
 // The PRC form has no key handling of its own: Enter is handled in its grids and its count box alone.
 int ExtractForm::keyPress(int key) const {
-    return family.prc ? key : DataForm::keyPress(key);
+    return family.is712 ? DataForm::keyPress(key) : key;
 }
 
 bool ExtractForm::enterActsAsTab() const {
-    return !family.prc || txtNoOfExtranct.focused();
+    return family.is712 || txtNoOfExtranct.focused();
 }
 
 void ExtractForm::txtNoOfExtranct_LostFocus() {
     if (!alreadyFilled && leadingNumber(txtNoOfExtranct.text()) == 0)
         return;
-    if (family.prc && alreadyFilled)
+    if (!family.is712 && alreadyFilled)
         reread();
     Recordset& plots712 = proposal.tables.ensure(&Tables::rsPlot712);
-    if (family.prc)
-        plots712.moveFirst();
-    else if (plots712.rowCount() == 0)  // also while the plots of the PRCs are listed
+    if (family.is712 && plots712.rowCount() == 0)  // also while the plots of the PRCs are listed
         return;
+    if (!family.is712)
+        plots712.moveFirst();
     listExtracts();
     if (!alreadyFilled)
         buildRows();
@@ -125,11 +126,11 @@ void ExtractForm::reread() {
 
 void ExtractForm::listExtracts() {
     cmbExtract.clear();
-    Recordset& plots = proposal.tables.ensure(wording->plots);
+    Recordset& plots = proposal.tables.ensure(wording->family.plots);
     int listed = 0;
     for (plots.moveFirst(); !plots.eof(); plots.moveNext()) {
-        const std::string plot =
-            " " + std::string(trim(valueText(plots.get(PlotColumn::PlotName)))) + " --- " + std::string(wording->entry);
+        const std::string plot = " " + std::string(trim(valueText(plots.get(PlotColumn::PlotName)))) + " --- " +
+                                 std::string(wording->family.entry);
         for (std::int16_t i = extractCount(plots); i > 0; --i)
             cmbExtract.addItem(plot + std::to_string(++listed) + " ");
     }
@@ -145,7 +146,7 @@ void ExtractForm::buildRows() {
     int number = extracts->recordCount() + 1;
     if (number > count) {
         number = 1;
-        if (!family.prc) {  // PRCs are added beside the old ones
+        if (family.is712) {  // PRCs are added beside the old ones
             proposal.tables.create(extractTables);
             extracts = &proposal.tables.ensure(family.extracts);
         }
@@ -285,18 +286,18 @@ void ExtractForm::toggleSign() {
 }
 
 void ExtractForm::cmdSave_Click() {
-    if (family.prc) {
-        proposal.is712Current = false;
-        proposal.commands.buildPRCBlock();
-    } else {
+    if (family.is712) {
         if (leadingNumber(txtNoOfExtranct.text()) == 0)
             return;
         dgdOwner.bind(nullptr);  // until an extract is chosen again
         proposal.commands.buildExtractBlock();
+    } else {
+        proposal.is712Current = false;
+        proposal.commands.buildPRCBlock();
     }
     buildOwnership(proposal);
     proposal.tables.rsOwnership712 = proposal.tables.rsOwnership;
-    if (family.prc)
+    if (!family.is712)
         for (Grid* grid : {&dgdInfoOfExtract, &dgdOwner, &dgdPAH})
             grid->refresh();
     hide();
@@ -311,7 +312,7 @@ void ExtractForm::cmdReferesh_Click() {
     txtRemark.setText("");
     cmbExtract.clear();
     txtNoOfExtranct.setText("");
-    for (const Tables::Member table : family.droppedByReset)
+    for (const Tables::Member table : kind.droppedByReset)
         (proposal.tables.*table).reset();
 }
 

@@ -11,6 +11,7 @@
 namespace plandesk {
 
 struct ExtractFamily;
+struct ExtractFormKind;
 struct ExtractWording;
 
 /// The records of one family of extracts: survey data, owners and power-of-attorney holders of each. The number of
@@ -58,7 +59,7 @@ public:
     Button Command1{*this, "Command1", "Command1"};
 
 protected:
-    ExtractForm(Proposal& proposal, const ExtractFamily& family);
+    ExtractForm(Proposal& proposal, const ExtractFormKind& kind);
 
 private:
     void wire();
@@ -78,6 +79,7 @@ private:
     void toggleSign();
     void cmdReferesh_Click();
 
+    const ExtractFormKind& kind;
     const ExtractFamily& family;
     const ExtractWording* wording = nullptr;  ///< fixed when the form is loaded
     OwnerLists ownerLists;

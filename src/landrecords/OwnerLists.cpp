@@ -9,7 +9,7 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "landrecords/Encumbrances.h"
-#include "landrecords/ExtractFamily.h"
+#include "proposal/TableColumns.h"
 
 namespace plandesk {
 

@@ -1,11 +1,16 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "controls/Controls.h"
 #include "proposal/Grid.h"
 
 namespace plandesk {
+
+// What an owner has whose lists were not touched.
+inline constexpr std::string_view noStatus = " -- Select -- ";  // no item of its list
+inline constexpr std::string_view noOwnerType = "  ------ Select------  ";
 
 /// The three lists that float over the cells of the owners' grid: signing status, encumbrance and owner type. One that
 /// the user opened takes the focus, and its choice goes into the cell when it is left.

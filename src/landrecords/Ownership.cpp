@@ -6,6 +6,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "landrecords/frmPlotExtractRelation.h"
+#include "proposal/ExtractFamily.h"
 #include "proposal/Proposal.h"
 
 namespace plandesk {
@@ -23,9 +24,9 @@ std::string ownerNames(Recordset& owners) {
 }
 
 /// `shift` is added to an extract's own number. False when there is no extract.
-bool takeOver(Proposal& proposal, Tables::Member extractTable, Tables::Member ownerTable, std::int32_t shift) {
-    Recordset& extracts = proposal.tables.ensure(extractTable);
-    Recordset& owners = proposal.tables.ensure(ownerTable);
+bool takeOver(Proposal& proposal, const ExtractFamily& family, std::int32_t shift) {
+    Recordset& extracts = proposal.tables.ensure(family.extracts);
+    Recordset& owners = proposal.tables.ensure(family.owners);
     Recordset& ownership = proposal.tables.ensure(&Tables::rsOwnership);
     extracts.setFilter("");
     if (extracts.recordCount() == 0)
@@ -53,10 +54,10 @@ bool takeOver(Proposal& proposal, Tables::Member extractTable, Tables::Member ow
 
 // PRCs are taken only when there is a 7/12 extract, and the flag is raised only when there is a PRC.
 void buildOwnership(Proposal& proposal) {
-    if (!takeOver(proposal, &Tables::rsExtract712, &Tables::rsOwner712, 0))
+    if (!takeOver(proposal, family712, 0))
         return;
     const std::string& extracts712 = proposal.forms.get<frmPlotExtractRelation>().txtNoOfExtract712.text();
-    if (takeOver(proposal, &Tables::rsExtractPRC, &Tables::rsOwnerPRC, toInteger32(leadingNumber(extracts712))))
+    if (takeOver(proposal, familyPRC, toInteger32(leadingNumber(extracts712))))
         proposal.ownershipRelationSaved = true;
 }
 

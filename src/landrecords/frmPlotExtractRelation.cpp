@@ -4,25 +4,24 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "proposal/ExtractGaps.h"
 #include "proposal/InPlace.h"
 
 namespace plandesk {
 
 namespace {
 
-constexpr auto columns712 = inPlace<PlotColumn, GridColumn>({
-    {PlotColumn::SrNo, {.caption = "Sr No", .width = 0}},
-    {PlotColumn::PlotDesciption, {.caption = " ", .width = 2200, .locked = true}},
-    {PlotColumn::PlotName, {.caption = "Plot Name", .width = 3600}},
-    {PlotColumn::NoOfPRC, {.caption = "No. of Extract", .width = 1600}},
-});
+constexpr auto plotColumns(std::string_view count) {
+    return inPlace<PlotColumn, GridColumn>({
+        {PlotColumn::SrNo, {.caption = "Sr No", .width = 0}},
+        {PlotColumn::PlotDesciption, {.caption = " ", .width = 2200, .locked = true}},
+        {PlotColumn::PlotName, {.caption = "Plot Name", .width = 3600}},
+        {PlotColumn::NoOfPRC, {.caption = count, .width = 1600}},
+    });
+}
 
-constexpr auto columnsPRC = inPlace<PlotColumn, GridColumn>({
-    {PlotColumn::SrNo, {.caption = "Sr No", .width = 0}},
-    {PlotColumn::PlotDesciption, {.caption = " ", .width = 2200, .locked = true}},
-    {PlotColumn::PlotName, {.caption = "Plot Name", .width = 3600}},
-    {PlotColumn::NoOfPRC, {.caption = "No. of PRC", .width = 1600}},
-});
+constexpr auto columns712 = plotColumns("No. of Extract");
+constexpr auto columnsPRC = plotColumns("No. of PRC");
 
 void copyPlots(Recordset& from, Recordset& to) {
     for (const auto& row : from.allRows()) {
@@ -37,62 +36,58 @@ void copyPlots(Recordset& from, Recordset& to) {
 
 frmPlotExtractRelation::frmPlotExtractRelation(Proposal& proposal)
     : DataForm(proposal, formName, "Plot Extract Relation Ship"),
-      land{txtNoOfPlot712,
-           txtNoOfExtract712,
-           dgd712ExtractRelation,
-           columns712,
-           &Tables::rsPlot712,
-           &Tables::rsPlot712Saved,
-           gapTables712,
-           false,
-           false,
-           "0",
-           "frmMain712",
-           "7/12 Extract Relationship saved Succussfully ! ",
-           &Proposal::plotRelXML,
-           &Proposal::noOfExtract712},
-      cards{txtNoOfPlot,
-            txtNoOfPrc,
-            dgdPRCPlotRel,
-            columnsPRC,
-            &Tables::rsPlotPRC,
-            &Tables::rsPlotPRCSaved,
-            gapTablesPRC,
-            true,
-            true,
-            "1",
-            "",
-            "PRC Extract Relationship saved Succussfully ! ",
-            &Proposal::plotPrcDetailsXML,
-            &Proposal::noOfPRC} {
-    wire(land);
-    wire(cards);
+      tab712{
+          .family = family712,
+          .plots = txtNoOfPlot712,
+          .total = txtNoOfExtract712,
+          .grid = dgd712ExtractRelation,
+          .columns = columns712,
+          .shrinks = false,
+          .keepsRow = false,
+          .enterKey = "0",
+          .unloads = "frmMain712",
+          .message = "7/12 Extract Relationship saved Succussfully ! ",
+      },
+      tabPRC{
+          .family = familyPRC,
+          .plots = txtNoOfPlot,
+          .total = txtNoOfPrc,
+          .grid = dgdPRCPlotRel,
+          .columns = columnsPRC,
+          .shrinks = true,
+          .keepsRow = true,
+          .enterKey = "1",
+          .unloads = "",
+          .message = "PRC Extract Relationship saved Succussfully ! ",
+      } {
+    wire(tab712);
+    wire(tabPRC);
     cmdAddPlot.toolTip = cmdAddPlotPRC.toolTip = "Add New Plot !";
     SSTab1.click = [this] { SSTab1_Click(); };
     cmdAddPlot.click = [this] { txtNoOfPlot712.setText(numberText(leadingNumber(txtNoOfPlot712.text()) + 1)); };
     cmdAddPlotPRC.click = [this] { txtNoOfPlot.setText(numberText(leadingNumber(txtNoOfPlot.text()) + 1)); };
-    cmdSave712Relation.click = [this] { saveRelation(land); };
-    cmdSave.click = [this] { saveRelation(cards); };
+    cmdSave712Relation.click = [this] { saveRelation(tab712); };
+    cmdSave.click = [this] { saveRelation(tabPRC); };
     cmdRefereshExtract.click = [this] {
-        reset(land);
+        reset(tab712);
         txtNoOfExtract712.setText("");
     };
-    cmdRefereshPRC.click = [this] { reset(cards); };  // the total of the PRCs stays as it is
+    cmdRefereshPRC.click = [this] { reset(tabPRC); };  // the total of the PRCs stays as it is
     close712Extract.click = cmdClose.click = [this] { hide(); };
     dgd712ExtractRelation.beforeDelete = [this] { return confirmDelete(); };
     dgd712ExtractRelation.afterDelete = [this] { plotDeleted(); };
-    dgdPRCPlotRel.afterDelete = [this] { recount(cards); };
+    dgdPRCPlotRel.afterDelete = [this] { recount(tabPRC); };
     procedure("Save712ExtractRaltionShip", [this] { Save712ExtractRaltionShip(); });
     procedure("dgd712ExtractRelationColSetting", [this] { dgd712ExtractRelationColSetting(); });
     procedure("dgdPRCPlotRelColSetting", [this] { dgdPRCPlotRelColSetting(); });
 }
 
-void frmPlotExtractRelation::wire(const Family& family) {
-    family.plots.keyPress = keyFilterDecimal;
-    family.plots.rightAligned = family.total.rightAligned = true;
-    family.plots.change = family.plots.lostFocus = [this, &family] { plotsChanged(family); };
-    family.grid.afterColumnUpdate = [this, &family](int) { recount(family); };
-    family.grid.enterKey = [this, &family] { return enterOnGrid(family); };
+void frmPlotExtractRelation::wire(const Tab& tab) {
+    tab.plots.keyPress = keyFilterDecimal;
+    tab.plots.rightAligned = tab.total.rightAligned = true;
+    tab.plots.change = tab.plots.lostFocus = [this, &tab] { plotsChanged(tab); };
+    tab.grid.afterColumnUpdate = [this, &tab](int) { recount(tab); };
+    tab.grid.enterKey = [this, &tab] { return enterOnGrid(tab); };
 }
 
 void frmPlotExtractRelation::load() {
@@ -106,7 +101,7 @@ void frmPlotExtractRelation::functionKey(std::string_view key) {
     if (key == "F3")
         SSTab1.setTab(first ? 1 : 0);
     else if (key == "F2")
-        saveRelation(first ? land : cards);
+        saveRelation(first ? tab712 : tabPRC);
     else if (key == "Esc")
         hide();
 }
@@ -114,25 +109,25 @@ void frmPlotExtractRelation::functionKey(std::string_view key) {
 void frmPlotExtractRelation::open() {
     show();
     SSTab1.setTab(0);
-    rebind(land);
-    proposal.tables.create(land.saved);
-    proposal.tables.create(cards.saved);
-    copyPlots(proposal.tables.ensure(land.table), *(proposal.tables.*land.saved));
+    rebind(tab712);
+    proposal.tables.create(tab712.family.savedPlots);
+    proposal.tables.create(tabPRC.family.savedPlots);
+    copyPlots(proposal.tables.ensure(tab712.family.plots), *(proposal.tables.*tab712.family.savedPlots));
 }
 
 // The snapshot of the PRC plots is renewed at each visit of their tab, with the edits made so far in it.
 void frmPlotExtractRelation::SSTab1_Click() {
     if (SSTab1.tab() != 1)
         return;
-    rebind(cards);
-    proposal.tables.create(cards.saved);
-    copyPlots(proposal.tables.ensure(cards.table), *(proposal.tables.*cards.saved));
+    rebind(tabPRC);
+    proposal.tables.create(tabPRC.family.savedPlots);
+    copyPlots(proposal.tables.ensure(tabPRC.family.plots), *(proposal.tables.*tabPRC.family.savedPlots));
 }
 
-void frmPlotExtractRelation::rebind(const Family& family) {
-    proposal.tables.ensure(family.table);
-    family.grid.bind(proposal.tables.*family.table);
-    family.grid.setColumns(family.columns);
+void frmPlotExtractRelation::rebind(const Tab& tab) {
+    proposal.tables.ensure(tab.family.plots);
+    tab.grid.bind(proposal.tables.*tab.family.plots);
+    tab.grid.setColumns(tab.columns);
 }
 
 void frmPlotExtractRelation::dgd712ExtractRelationColSetting() {
@@ -143,14 +138,14 @@ void frmPlotExtractRelation::dgdPRCPlotRelColSetting() {
     dgdPRCPlotRel.setColumns(columnsPRC);
 }
 
-void frmPlotExtractRelation::plotsChanged(const Family& family) {
-    if (&family == &land && rowBeingDeleted)
-        return recount(family);
-    const std::string_view text = trim(family.plots.text());
+void frmPlotExtractRelation::plotsChanged(const Tab& tab) {
+    if (&tab == &tab712 && rowBeingDeleted)
+        return recount(tab);
+    const std::string_view text = trim(tab.plots.text());
     if (text.empty())
         return;
     const std::int16_t number = toInteger16(text);
-    Recordset& plots = proposal.tables.ensure(family.table);
+    Recordset& plots = proposal.tables.ensure(tab.family.plots);
     for (int i = 1; i <= number; ++i) {
         plots.setFilter(" SrNo = " + std::to_string(i));
         if (plots.recordCount() == 0)
@@ -160,35 +155,35 @@ void frmPlotExtractRelation::plotsChanged(const Family& family) {
         plots.update();
         plots.setFilter("");
     }
-    if (family.shrinks) {  // on the 7/12 tab, rows above the number stay
+    if (tab.shrinks) {  // on the 7/12 tab, rows above the number stay
         plots.setFilter(" SrNo > " + std::to_string(number));
         plots.deleteVisible();
         plots.setFilter("");
     }
-    rebind(family);
-    recount(family);
+    rebind(tab);
+    recount(tab);
 }
 
-void frmPlotExtractRelation::recount(const Family& family) {
-    Recordset& plots = proposal.tables.ensure(family.table);
+void frmPlotExtractRelation::recount(const Tab& tab) {
+    Recordset& plots = proposal.tables.ensure(tab.family.plots);
     const Bookmark place = plots.bookmark();
     const std::int16_t total = sumOfExtracts(plots);
-    if (family.keepsRow || !rowBeingDeleted)
+    if (tab.keepsRow || !rowBeingDeleted)
         plots.setBookmark(place);
-    family.total.setText(std::to_string(total));
-    family.grid.refresh();
+    tab.total.setText(std::to_string(total));
+    tab.grid.refresh();
 }
 
-bool frmPlotExtractRelation::enterOnGrid(const Family& family) {
-    Grid& grid = family.grid;
-    const std::string& plots = family.plots.text();
+bool frmPlotExtractRelation::enterOnGrid(const Tab& tab) {
+    Grid& grid = tab.grid;
+    const std::string& plots = tab.plots.text();
     const int next = grid.currentRow() + 1;
     // The number of plots may be beyond the rows, after a deletion.
     if (plots.empty() || grid.currentColumn() != PlotColumn::NoOfPRC || next >= leadingNumber(plots) ||
         next >= grid.rowCount())
         return false;
     grid.moveTo(next, PlotColumn::PlotName);
-    grid.beginEdit(family.enterKey);  // the key goes into the name of the next plot
+    grid.beginEdit(tab.enterKey);  // the key goes into the name of the next plot
     return true;
 }
 
@@ -203,68 +198,69 @@ bool frmPlotExtractRelation::confirmDelete() {
 
 // Neither the number of plots nor the numbers of the other rows follow.
 void frmPlotExtractRelation::plotDeleted() {
-    recount(land);
+    recount(tab712);
     rowBeingDeleted = false;
 }
 
-void frmPlotExtractRelation::leaveRelation(const Family& family) {
-    for (TextBox* box : {&family.total, &family.plots})
+void frmPlotExtractRelation::leaveRelation(const Tab& tab) {
+    for (TextBox* box : {&tab.total, &tab.plots})
         if (trim(box->text()).empty())
             box->setText("0");
-    proposal.*family.fragment = family.plots.text() + "^#^" + family.total.text() + "^#^";
-    proposal.*family.extracts = toInteger16(family.total.text());
+    proposal.*tab.family.plotList = tab.plots.text() + "^#^" + tab.total.text() + "^#^";
+    proposal.*tab.family.total = toInteger16(tab.total.text());
     std::string list;
-    Recordset& plots = proposal.tables.ensure(family.table);
+    Recordset& plots = proposal.tables.ensure(tab.family.plots);
     for (plots.moveFirst(); !plots.eof(); plots.moveNext())
         list += valueText(plots.get(PlotColumn::SrNo)) + "$-$" +
                 std::string(trim(valueText(plots.get(PlotColumn::PlotName)))) + "$-$" +
                 std::to_string(extractCount(plots)) + "@->";
-    proposal.*family.fragment += list;
+    proposal.*tab.family.plotList += list;
 }
 
 void frmPlotExtractRelation::Save712ExtractRaltionShip() {
-    leaveRelation(land);
-    leaveRelation(cards);
+    leaveRelation(tab712);
+    leaveRelation(tabPRC);
 }
 
-void frmPlotExtractRelation::saveRelation(const Family& family) {
+void frmPlotExtractRelation::saveRelation(const Tab& tab) {
     Save712ExtractRaltionShip();
     const NumberChanges changes =
-        comparePlots(proposal.tables.ensure(family.saved), proposal.tables.ensure(family.table));
-    rebind(family);
-    applyNumbers(family, changes);
-    proposal.forms.unload(family.unloads);
-    screen().message(family.message, "");
+        comparePlots(proposal.tables.ensure(tab.family.savedPlots), proposal.tables.ensure(tab.family.plots));
+    rebind(tab);
+    applyNumbers(tab.family, changes);
+    proposal.forms.unload(tab.unloads);
+    screen().message(tab.message, "");
 }
 
 // Numbers to delete were worked out in the old numbering and are applied upwards, each renumbering what follows, after
 // the additions have moved the rows: from the second number on the wrong rows go. Saved proposals have come to be so.
-void frmPlotExtractRelation::applyNumbers(const Family& family, const NumberChanges& changes) {
+void frmPlotExtractRelation::applyNumbers(const ExtractFamily& family, const NumberChanges& changes) {
     const Date today = screen().ports.clock.today();
-    const auto shift = [this](const GapTable& gap) {
-        return gap.counts712First ? toInteger32(leadingNumber(txtNoOfExtract712.text())) : 0;
+    const auto gaps = gapTables(family);
+    const auto shift = [this, &family](const GapTable& gap) {
+        return gap.shared && !family.is712 ? toInteger32(leadingNumber(txtNoOfExtract712.text())) : 0;
     };
     ProgressOf progress(screen().ports.progress, caption(),
                         static_cast<int>(changes.added.size() + changes.deleted.size()));
     for (const std::int32_t number : changes.added) {
-        for (const GapTable& gap : family.gaps)
+        for (const GapTable& gap : gaps)
             if (number > 0)
                 openGap(proposal.tables.ensure(gap.table), number + shift(gap), gap.kind, today);
         progress.step();
     }
     for (const std::int32_t number : changes.deleted) {
-        for (const GapTable& gap : family.gaps)
+        for (const GapTable& gap : gaps)
             if (number > 0)
                 closeGap(proposal.tables.ensure(gap.table), number + shift(gap));
         progress.step();
     }
 }
 
-void frmPlotExtractRelation::reset(const Family& family) {
-    family.plots.setText("");
-    family.grid.bind(nullptr);
-    family.plots.setEnabled(true);
-    proposal.tables.create(family.table);
+void frmPlotExtractRelation::reset(const Tab& tab) {
+    tab.plots.setText("");
+    tab.grid.bind(nullptr);
+    tab.plots.setEnabled(true);
+    proposal.tables.create(tab.family.plots);
 }
 
 }  // namespace plandesk

@@ -6,7 +6,7 @@
 #include "controls/Controls.h"
 #include "landrecords/PlotNumbering.h"
 #include "proposal/DataForm.h"
-#include "proposal/ExtractGaps.h"
+#include "proposal/ExtractFamily.h"
 #include "proposal/Grid.h"
 
 namespace plandesk {
@@ -60,38 +60,34 @@ private:
     static constexpr std::string_view keysCaption = "Press  {F3}  - Toggle      {F2} - Save     {Esc}  - Close";
 
     /// What the two tabs work on alike.
-    struct Family {
+    struct Tab {
+        const ExtractFamily& family;
         TextBox& plots;
         TextBox& total;
         Grid& grid;
         std::span<const GridColumn> columns;
-        Tables::Member table;
-        Tables::Member saved;
-        std::span<const GapTable> gaps;
         bool shrinks;               ///< a lower number of plots deletes the last ones
         bool keepsRow;              ///< a recount after a deletion comes back to the current row
         std::string_view enterKey;  ///< key that Enter on a count sends to the next row
         std::string_view unloads;   ///< form that a save unloads, so that it is built afresh
         std::string_view message;
-        std::string Proposal::*fragment;
-        std::int16_t Proposal::*extracts;
     };
 
-    void wire(const Family& family);
-    void rebind(const Family& family);
+    void wire(const Tab& tab);
+    void rebind(const Tab& tab);
     void SSTab1_Click();
-    void plotsChanged(const Family& family);
-    void recount(const Family& family);
-    bool enterOnGrid(const Family& family);
-    void saveRelation(const Family& family);
-    void applyNumbers(const Family& family, const NumberChanges& changes);
-    void reset(const Family& family);
+    void plotsChanged(const Tab& tab);
+    void recount(const Tab& tab);
+    bool enterOnGrid(const Tab& tab);
+    void saveRelation(const Tab& tab);
+    void applyNumbers(const ExtractFamily& family, const NumberChanges& changes);
+    void reset(const Tab& tab);
     bool confirmDelete();
     void plotDeleted();
-    void leaveRelation(const Family& family);
+    void leaveRelation(const Tab& tab);
 
-    Family land;
-    Family cards;
+    const Tab tab712;
+    const Tab tabPRC;
     bool rowBeingDeleted = false;
 };
 

@@ -17,30 +17,24 @@ void renumber(Recordset& table, int step) {
     }
 }
 
-constexpr std::array<GapTable, 12> gapTables(Tables::Member extracts, Tables::Member owners, Tables::Member holders,
-                                             bool counts712First) {
-    return {{
-        {extracts, GapKind::Dated, false},
-        {owners, GapKind::NumberOnly, false},
-        {holders, GapKind::NumberOnly, false},
-        {&Tables::rsOwnership, GapKind::WithStatus, counts712First},
-        {&Tables::rsULCOrder, GapKind::NumberOnly, counts712First},
-        {&Tables::rsSchemeGrid, GapKind::NumberOnly, counts712First},
-        {&Tables::rsULCOrderUS22, GapKind::NumberOnly, counts712First},
-        {&Tables::rsUS84Plots, GapKind::NumberOnly, counts712First},
-        {&Tables::rsULCOrderUS84, GapKind::NumberOnly, counts712First},
-        {&Tables::rsULCOrderUS20a1, GapKind::NumberOnly, counts712First},
-        {&Tables::rsSchemeBuilt, GapKind::NumberOnly, counts712First},
-        {&Tables::rsSchemeSold, GapKind::NumberOnly, counts712First},
-    }};
-}
-
 }  // namespace
 
-constexpr std::array<GapTable, 12> gapTables712 =
-    gapTables(&Tables::rsExtract712, &Tables::rsOwner712, &Tables::rsPAH712, false);
-constexpr std::array<GapTable, 12> gapTablesPRC =
-    gapTables(&Tables::rsExtractPRC, &Tables::rsOwnerPRC, &Tables::rsPAHPRC, true);
+std::array<GapTable, 12> gapTables(const ExtractFamily& family) {
+    return {{
+        {family.extracts, GapKind::Dated},
+        {family.owners, GapKind::NumberOnly},
+        {family.holders, GapKind::NumberOnly},
+        {&Tables::rsOwnership, GapKind::WithStatus, true},
+        {&Tables::rsULCOrder, GapKind::NumberOnly, true},
+        {&Tables::rsSchemeGrid, GapKind::NumberOnly, true},
+        {&Tables::rsULCOrderUS22, GapKind::NumberOnly, true},
+        {&Tables::rsUS84Plots, GapKind::NumberOnly, true},
+        {&Tables::rsULCOrderUS84, GapKind::NumberOnly, true},
+        {&Tables::rsULCOrderUS20a1, GapKind::NumberOnly, true},
+        {&Tables::rsSchemeBuilt, GapKind::NumberOnly, true},
+        {&Tables::rsSchemeSold, GapKind::NumberOnly, true},
+    }};
+}
 
 void openGap(Recordset& table, std::int32_t number, GapKind kind, Date today) {
     if (table.rowCount() > 0) {

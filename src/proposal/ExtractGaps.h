@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "base/Date.h"
-#include "proposal/Tables.h"
+#include "proposal/ExtractFamily.h"
 
 // Extracts are numbered without gaps in every table keyed by `ExtNo`. When an extract comes or goes, a gap is opened or
 // closed in each of them.
@@ -30,11 +30,10 @@ void closeGap(Recordset& table, std::int32_t number);
 struct GapTable {
     Tables::Member table;
     GapKind kind;
-    bool counts712First;  ///< a PRC's number here is its own plus the number of 7/12 extracts
+    bool shared = false;  ///< by both families: a PRC's number here is its own plus the number of 7/12 extracts
 };
 
 /// The tables in which an added or deleted extract opens or closes a gap, in this order.
-extern const std::array<GapTable, 12> gapTables712;
-extern const std::array<GapTable, 12> gapTablesPRC;
+std::array<GapTable, 12> gapTables(const ExtractFamily& family);
 
 }  // namespace plandesk

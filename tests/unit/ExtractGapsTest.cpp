@@ -137,28 +137,28 @@ TEST_F(ExtractGaps, LeaveRowsWithoutANumberAlone) {
 }
 
 TEST_F(ExtractGaps, AreMadeInTwelveTablesInTheToldOrderAndKind) {
-    const auto described = [](const std::array<GapTable, 12>& list) {
+    const auto described = [](const ExtractFamily& family) {
         std::string text;
-        for (const GapTable& each : list) {
+        for (const GapTable& each : gapTables(family)) {
             const auto definition = std::ranges::find(tableDefinitions(), each.table, &TableDefinition::table);
             text += std::string(definition->name) + "(" + std::to_string(static_cast<int>(each.kind)) + ")" +
-                    (each.counts712First ? "+ " : " ");
+                    (each.shared ? "+ " : " ");
         }
         return text;
     };
-    EXPECT_EQ(described(gapTables712),
-              "rsExtract712(1) rsOwner712(-1) rsPAH712(-1) rsOwnership(2) rsULCOrder(-1) rsSchemeGrid(-1) "
-              "rsULCOrderUS22(-1) rsUS84Plots(-1) rsULCOrderUS84(-1) rsULCOrderUS20a1(-1) rsSchemeBuilt(-1) "
-              "rsSchemeSold(-1) ");
-    EXPECT_EQ(described(gapTablesPRC),
+    EXPECT_EQ(described(family712),
+              "rsExtract712(1) rsOwner712(-1) rsPAH712(-1) rsOwnership(2)+ rsULCOrder(-1)+ rsSchemeGrid(-1)+ "
+              "rsULCOrderUS22(-1)+ rsUS84Plots(-1)+ rsULCOrderUS84(-1)+ rsULCOrderUS20a1(-1)+ rsSchemeBuilt(-1)+ "
+              "rsSchemeSold(-1)+ ");
+    EXPECT_EQ(described(familyPRC),
               "rsExtractPRC(1) rsOwnerPRC(-1) rsPAHPRC(-1) rsOwnership(2)+ rsULCOrder(-1)+ rsSchemeGrid(-1)+ "
               "rsULCOrderUS22(-1)+ rsUS84Plots(-1)+ rsULCOrderUS84(-1)+ rsULCOrderUS20a1(-1)+ rsSchemeBuilt(-1)+ "
               "rsSchemeSold(-1)+ ");
 }
 
 TEST_F(ExtractGaps, OpenAndCloseInEveryTableOfBothFamilies) {
-    for (const auto* list : {&gapTables712, &gapTablesPRC}) {
-        for (const GapTable& each : *list) {
+    for (const ExtractFamily* family : {&family712, &familyPRC}) {
+        for (const GapTable& each : gapTables(*family)) {
             Recordset& table = tables.ensure(each.table);
             const int before = table.rowCount();
             openGap(table, 1, each.kind, today);

@@ -1,4 +1,4 @@
-#include "landrecords/ExtractFamily.h"
+#include "landrecords/ExtractFormKind.h"
 
 #include <array>
 
@@ -65,58 +65,46 @@ constexpr auto columnsOfHolders = inPlace<HolderColumn, GridColumn>({
 
 constexpr std::span<const GridColumn> holderColumns = columnsOfHolders;
 
-constexpr ExtractFamily family712 = {
+constexpr ExtractFormKind form712 = {
+    .family = family712,
     .formName = frmMain712::formName,
     .caption = "Scrutiny Of 7/12 Extract",
     .head = " Scrutiny Of 7/12 Extract",
     .saveCaption = "Save 7/12 Scrutiny Data",
     .resetCaption = "Reset 7/12 Information ",
-    .extracts = &Tables::rsExtract712,
-    .owners = &Tables::rsOwner712,
-    .holders = &Tables::rsPAH712,
     .droppedByReset = dropped712,
-    .lastRemark = &Proposal::remark712,
-    .prc = false,
 };
 
-constexpr ExtractFamily familyPRC = {
+constexpr ExtractFormKind formPRC = {
+    .family = familyPRC,
     .formName = frmPRCEXT::formName,
     .caption = "PRC Extract Scruitny ",
     .head = " Scrutiny Of PRC Extract",
     .saveCaption = "Save PRC Scrutiny Information",
     .resetCaption = "Reset",
-    .extracts = &Tables::rsExtractPRC,
-    .owners = &Tables::rsOwnerPRC,
-    .holders = &Tables::rsPAHPRC,
     .droppedByReset = droppedPRC,
-    .lastRemark = &Proposal::remarkPRC,
-    .prc = true,
 };
 
 constexpr ExtractWording wording712 = {
+    .family = family712,
     .firstInfo = " Information For Extract No :- 1",
     .info = " Information For Extract No :- ",
     .frame = "Extract Details",
     .count = " No of 7/12 Extracts",
     .select = "Select 7/12 Extract For Details",
     .remark = "7/12 Remarks",
-    .entry = " EXTRACT ",
-    .plots = &Tables::rsPlot712,
-    .total = &Proposal::noOfExtract712,
     .infoColumns = infoColumns712,
     .ownerColumns = ownerColumns712,
 };
 
 constexpr ExtractWording wordingPRC = {
+    .family = familyPRC,
     .firstInfo = "Information For PRC No :- 1",
     .info = " Information For PRC No :- ",
     .frame = "PRC Details",
     .count = "No of PRC",
     .select = "Select PRC for details",
     .remark = "PRC Remark",
-    .entry = " PRC ",
-    .plots = &Tables::rsPlotPRC,
-    .total = &Proposal::noOfPRC,
     .infoColumns = infoColumnsPRC,
     .ownerColumns = ownerColumnsPRC,
 };
