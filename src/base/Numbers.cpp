@@ -28,12 +28,14 @@ public:
 
     /// Whether there was a number; what follows it is left in `rest`.
     bool read() {
-        takeSign();
+        const bool isSigned = takeSign();
         const bool whole = takeDigits(reading == Reading::Whole ? "," : "");
         const bool fraction = take(".") && takeDigits();
         if (!whole && !fraction)
             return false;
         takeExponent();
+        if (reading == Reading::Whole && !isSigned)
+            takeTrailingSign();
         return true;
     }
 
@@ -58,11 +60,18 @@ private:
         return true;
     }
 
-    void takeSign() {
-        if (take("+"))
+    bool takeSign() {
+        const bool plus = take("+");
+        if (plus)
             plain.pop_back();
-        else
-            take("-");
+        return plus || take("-");
+    }
+
+    void takeTrailingSign() {
+        if (take("-"))
+            std::ranges::rotate(plain, plain.end() - 1);
+        else if (take("+"))
+            plain.pop_back();
     }
 
     bool takeDigits(std::string_view groupSeparator = {}) {
@@ -131,6 +140,14 @@ std::optional<std::string> wholeNumber(std::string_view text) {
     if (!reader.read() || !reader.rest.empty())
         return std::nullopt;
     return reader.plain;
+}
+
+/// The number that the whole text is; nothing when it is none or beyond the range of a double.
+std::optional<double> numberOf(std::string_view text) {
+    if (const std::optional<double> value = digitsValue(text))
+        return value;
+    const std::optional<std::string> plain = wholeNumber(text);
+    return plain ? valueOf(*plain) : std::nullopt;
 }
 
 template <typename Integer>
@@ -253,10 +270,11 @@ std::int32_t toInteger32(std::string_view text) {
 }
 
 std::string numberText(double value) {
+    constexpr double wholeLimit = 1e15;  // below it a whole number shows all its digits
+    if (std::abs(value) < wholeLimit && value == std::trunc(value))
+        return std::to_string(static_cast<std::int64_t>(value));
     Decimal number = toDecimal(value);
     number.digits.erase(std::max<std::size_t>(number.digits.find_last_not_of('0') + 1, 1));
-    if (number.digits == "0")
-        return "0";
     const int decimals = static_cast<int>(number.digits.size()) - number.point;
     const bool fits = number.point <= significantDigits && decimals <= significantDigits;
     return (number.negative ? "-" : "") + (fits ? fixedText(number) : exponentText(number));
@@ -274,11 +292,30 @@ std::string formatAmount(double value) {
 }
 
 std::string formatAmount(std::string_view text) {
-    if (const std::optional<double> value = digitsValue(text))
-        return formatAmount(*value);
-    const std::optional<std::string> plain = wholeNumber(text);
-    const std::optional<double> value = plain ? valueOf(*plain) : std::nullopt;
+    const std::optional<double> value = numberOf(text);
     return value ? formatAmount(*value) : std::string(text);
+}
+
+std::string formatGrouped(double value) {
+    constexpr std::size_t group = 3;
+    std::string text = formatAmount(value);
+    const std::size_t firstDigit = text.front() == '-' ? 1 : 0;
+    for (std::size_t place = text.find('.'); place > firstDigit + group;) {
+        place -= group;
+        text.insert(place, ",");
+    }
+    return text;
+}
+
+std::string formatGrouped(std::string_view text) {
+    const std::optional<double> value = numberOf(text);
+    return value ? formatGrouped(*value) : std::string(text);
+}
+
+std::string formatWhole(double value) {
+    const Decimal number = toDecimal(value);
+    const std::string units = roundedUnits(number, 0);
+    return number.negative && units != "0" ? "-" + units : units;
 }
 
 }  // namespace plandesk

@@ -11,8 +11,8 @@ namespace plandesk {
 /// range of a double gives the largest one.
 double leadingNumber(std::string_view text);
 
-/// Whether the whole text is a number: blanks around it, a sign, digits grouped by commas, a point and an exponent are
-/// allowed; an empty text is not numeric.
+/// Whether the whole text is a number: blanks around it, a sign at one end, digits grouped by commas, a point and an
+/// exponent are allowed; an empty text is not numeric.
 bool isNumeric(std::string_view text);
 
 /// The number that the whole text is. RuntimeError 13 when it is none, 6 beyond the range of a double.
@@ -37,5 +37,13 @@ std::string formatAmount(double value);
 /// A text that is a number is given in the form of formatAmount; any other text, the empty one and a number beyond the
 /// range of a double too, is given back as it is.
 std::string formatAmount(std::string_view text);
+
+/// "#,##0.00": as formatAmount, with the whole part grouped by thousands.
+std::string formatGrouped(double value);
+std::string formatGrouped(std::string_view text);
+
+/// "0": a whole number of at most 15 significant digits, halves away from zero, no grouping, no exponent.
+/// RuntimeError 6 for a value that is not finite.
+std::string formatWhole(double value);
 
 }  // namespace plandesk

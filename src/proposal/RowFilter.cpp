@@ -47,7 +47,8 @@ public:
 
     double takeNumber() {
         const std::string_view number = take(std::min(rest.find_first_not_of("+-.0123456789"), rest.size()));
-        if (!isNumeric(number))
+        // An expression knows no sign behind a number.
+        if (!isNumeric(number) || number.ends_with('-') || number.ends_with('+'))
             malformed();
         return toDouble(number);
     }

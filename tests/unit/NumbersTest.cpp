@@ -66,13 +66,14 @@ TEST(Numbers, LeadingNumberBeyondTheRangeIsTheLargestDouble) {
 }
 
 TEST(Numbers, NumericTextsMayHaveBlanksAroundSignCommasPointAndExponent) {
-    for (const char* text : {"0", " 5 ", "-5", "+5", "1,000", "1,00,000.50", "5.", ".5", "-.5", "1e5", "1.5E-3"})
+    for (const char* text : {"0", " 5 ", "-5", "+5", "1,000", "1,00,000.50", "5.", ".5", "-.5", "1e5", "1.5E-3", "5-",
+                             "5+ ", "1,000.5-", "1e5-"})
         EXPECT_TRUE(isNumeric(text)) << text;
 }
 
 TEST(Numbers, OtherTextsAreNotNumeric) {
-    for (const char* text : {"", "  ", "abc", "5a", "a5", "1 2", "- 5", "--5", ".", "-", "1.2.3", "1e", "1e+", ",5",
-                             "1.5,0", "1e5.0", "5%", "\t5"})
+    for (const char* text : {"",    "  ", "abc",   "5a",    "a5", "1 2", "- 5", "--5", ".",   "-",   "1.2.3", "1e",
+                             "1e+", ",5", "1.5,0", "1e5.0", "5%", "\t5", "-5-", "+5-", "5--", "5 -", "5-e1",  "1e-"})
         EXPECT_FALSE(isNumeric(text)) << text;
 }
 
@@ -80,6 +81,8 @@ TEST(Numbers, TextsConvertToTheNumbersThatTheyAre) {
     EXPECT_EQ(toDouble(" 1,00,000.5 "), 100000.5);
     EXPECT_EQ(toDouble("-2.5e-1"), -0.25);
     EXPECT_EQ(toDouble("1e-400"), 0);
+    EXPECT_EQ(toDouble("1,000.5-"), -1000.5);
+    EXPECT_EQ(toDouble("25+"), 25);
 }
 
 TEST(Numbers, ATextThatIsNoNumberIsATypeMismatch) {
@@ -186,6 +189,34 @@ TEST(Numbers, ATextThatIsANumberIsFormattedAsAnAmount) {
 TEST(Numbers, ATextThatIsNoNumberStaysAsItIs) {
     for (const char* text : {"", " ", "abc", "12 sq.m", "1.2.3", "1e400"})
         EXPECT_EQ(formatAmount(text), text);
+}
+
+TEST(Numbers, ATextThatIsANumberIsGroupedByThousands) {
+    EXPECT_EQ(formatGrouped("1234.5"), "1,234.50");
+    EXPECT_EQ(formatGrouped("123456"), "123,456.00");
+    EXPECT_EQ(formatGrouped("1,00,000"), "100,000.00");
+    EXPECT_EQ(formatGrouped("999.995"), "1,000.00");
+    EXPECT_EQ(formatGrouped("-123"), "-123.00");
+    EXPECT_EQ(formatGrouped("1234-"), "-1,234.00");
+    EXPECT_EQ(formatGrouped(".5"), "0.50");
+    for (const char* text : {"", " ", "abc", "1.2.3", "1e400"})
+        EXPECT_EQ(formatGrouped(text), text);
+}
+
+TEST(Numbers, AGroupedNumberShowsTheDigitsThatADoubleHolds) {
+    EXPECT_EQ(formatGrouped("12345678901234567890"), "12,345,678,901,234,600,000.00");
+    EXPECT_EQ(formatGrouped("0.1234567890123456789"), "0.12");
+}
+
+TEST(Numbers, WholeNumbersAreRoundedAwayFromZeroWithoutAnExponent) {
+    EXPECT_EQ(formatWhole(0), "0");
+    EXPECT_EQ(formatWhole(12.5), "13");
+    EXPECT_EQ(formatWhole(-12.5), "-13");
+    EXPECT_EQ(formatWhole(0.5), "1");
+    EXPECT_EQ(formatWhole(-0.4), "0");
+    EXPECT_EQ(formatWhole(99999.5), "100000");
+    EXPECT_EQ(formatWhole(1e20), "100000000000000000000");
+    EXPECT_EQ(errorOf([] { formatWhole(std::nan("")); }), 6);
 }
 
 TEST(Numbers, LongTextsAreRead) {
