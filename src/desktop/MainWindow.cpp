@@ -19,7 +19,8 @@ namespace plandesk::desktop {
 namespace {
 
 constexpr QSize firstSize{1180, 820};
-constexpr int tick = 100;  // milliseconds, both timers
+constexpr QMargins usualFrame{6, 38, 6, 6};  // before the window is there to be asked
+constexpr int tick = 100;                    // milliseconds, both timers
 
 struct Shortcut {
     std::string_view entry;
@@ -42,6 +43,14 @@ QString asTitle(std::string_view caption) {
 
 }  // namespace
 
+QRect framedWithin(const QRect& available, const QMargins& frame, const QRect& wanted) {
+    const QRect room = available.marginsRemoved(frame);
+    QRect place(wanted.topLeft(), wanted.size().boundedTo(room.size()));
+    place.moveLeft(std::clamp(place.left(), room.left(), room.left() + room.width() - place.width()));
+    place.moveTop(std::clamp(place.top(), room.top(), room.top() + room.height() - place.height()));
+    return place;
+}
+
 MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
     : proposal(proposal), shell(shell), desk(new Desk(*this)), screenView(proposal.screen, *desk) {
     setObjectName(QStringLiteral("mdiInterface"));
@@ -61,7 +70,8 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
     connect(close, &QShortcut::activated, this, [this] { closeFrontForm(); });
     showState();
     screenView.refresh();
-    resize(firstSize.boundedTo(screen()->availableSize()));
+    ownSize = framedWithin(screen()->availableGeometry(), usualFrame, {{0, 0}, firstSize}).size();
+    resize(ownSize);
 }
 
 MainWindow::~MainWindow() {
@@ -131,6 +141,27 @@ void MainWindow::closeFrontForm() {
                 front->closeBox();
         });
     });
+}
+
+void MainWindow::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    // The desktop puts its frame around the window a little later, and tells nobody.
+    if (!event->spontaneous())
+        for (const int pause : {2 * tick, 10 * tick})
+            QTimer::singleShot(pause, this, [this] { fitScreen(); });
+}
+
+void MainWindow::fitScreen() {
+    const QRect available = screen()->availableGeometry();
+    const QRect outside = frameGeometry();
+    const QRect inside = geometry();
+    if (size() != ownSize || available.contains(outside))
+        return;
+    const QMargins frame(inside.left() - outside.left(), inside.top() - outside.top(), outside.right() - inside.right(),
+                         outside.bottom() - inside.bottom());
+    const QRect place = framedWithin(available, frame, inside);
+    ownSize = place.size();
+    setGeometry(place);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -17,6 +17,9 @@ class mdiInterface;
 
 namespace plandesk::desktop {
 
+/// The place, without frame, of a window that stands at `wanted` as far as it is inside `available` with its frame.
+QRect framedWithin(const QRect& available, const QMargins& frame, const QRect& wanted);
+
 /// The picture of the main window: menu, desk with the forms, status bar, and the beat of the two timers.
 class MainWindow : public QMainWindow {
 public:
@@ -28,6 +31,7 @@ public:
     QAction* entry(std::string_view name) const;
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -35,11 +39,14 @@ private:
     void makeStatusBar();
     void makeTimers();
     void showState();
+    /// Makes the window fit the screen together with its frame, while it has the size that it was given at first.
+    void fitScreen();
     void closeFrontForm();
 
     Proposal& proposal;
     mdiInterface& shell;
     Desk* desk;
+    QSize ownSize;
     ScreenView screenView;
     std::map<std::string, QAction*, std::less<>> entries;
     QTimer timer1;

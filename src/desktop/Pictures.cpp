@@ -106,6 +106,31 @@ QPixmap floorPlanPicture() {
     return picture;
 }
 
+QIcon programIcon() {
+    constexpr double grid = 32.0;
+    QIcon icon;
+    for (const int side : {16, 22, 24, 32, 36, 48, 64, 72, 96, 128, 192, 256}) {
+        QPixmap picture(side, side);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.scale(side / grid, side / grid);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0x5B, 0x45, 0x24));
+        painter.drawRoundedRect(QRectF(0.5, 0.5, 31, 31), 5, 5);
+        painter.setPen(QPen(Qt::white, 3, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter.setBrush(Qt::NoBrush);
+        // One wall around, with the door's gap below, and one between two rooms.
+        painter.drawPolyline(QPolygonF({{11, 25}, {7, 25}, {7, 7}, {25, 7}, {25, 25}, {21, 25}}));
+        painter.drawLine(QPointF(7, 15), QPointF(14, 15));
+        painter.setPen(QPen(QColor(0xF2, 0xC4, 0x74), 2.5, Qt::SolidLine, Qt::FlatCap));
+        painter.drawLine(QPointF(12, 26), QPointF(12, 17));
+        painter.drawArc(QRectF(3, 17, 18, 18), 0, 90 * 16);
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
 QIcon detailsIcon(int side) {
     constexpr double grid = 14.0;
     QPixmap picture(side, side);

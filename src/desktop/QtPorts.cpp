@@ -38,16 +38,22 @@ void prepare(QMessageBox& box) {
     box.setTextFormat(Qt::PlainText);
 }
 
-std::string chosenPath(QFileDialog& chooser, const FileDialog& dialog) {
-    chooser.setObjectName(QStringLiteral("fileDialog"));
-    chooser.setNameFilters({toQt(dialog.filter), QFileDialog::tr("All files (*)")});
-    chooser.setDefaultSuffix(toQt(dialog.defaultExtension));
-    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty())
-        return dialog.fileName;
-    return fromQt(chooser.selectedFiles().constFirst());
-}
-
 }  // namespace
+
+QString safeFileName(const QString& title) {
+    constexpr qsizetype longest = 80;
+    static const QString unsafe = QStringLiteral("/\\:*?\"<>|");
+    QString name;
+    for (const QChar character : title.simplified())
+        name += character.isPrint() && !unsafe.contains(character) ? character : QChar(' ');
+    name = name.simplified().left(longest);
+    // A leading dot hides a file; one at the end, or a blank, is dropped by some systems.
+    while (name.startsWith('.'))
+        name.remove(0, 1);
+    while (name.endsWith('.') || name.endsWith(' ') || (!name.isEmpty() && name.back().isHighSurrogate()))
+        name.chop(1);
+    return name.trimmed();
+}
 
 QString QtDialogs::titleOf(const Message& message) const {
     return toQt(message.title.empty() ? program.title() : message.title);
@@ -67,6 +73,23 @@ bool QtDialogs::askYesNo(const Message& question) {
     return box.exec() == QMessageBox::Yes;
 }
 
+std::string QtDialogs::chosenPath(QFileDialog& chooser, const FileDialog& dialog) {
+    chooser.setObjectName(QStringLiteral("fileDialog"));
+    chooser.setNameFilters({toQt(dialog.filter), QFileDialog::tr("All files (*)")});
+    chooser.setDefaultSuffix(toQt(dialog.defaultExtension));
+    chooser.setDirectory(lastFolder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
+                                              : lastFolder);
+    const QString name = toQt(dialog.fileName);
+    if (const QString shown = name.isEmpty() ? safeFileName(toQt(dialog.proposedName)) : name;
+        !shown.isEmpty() && chooser.acceptMode() == QFileDialog::AcceptSave)
+        chooser.selectFile(shown);
+    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty())
+        return dialog.fileName;
+    const QString chosen = chooser.selectedFiles().constFirst();
+    lastFolder = QFileInfo(chosen).absolutePath();
+    return fromQt(chosen);
+}
+
 std::string QtDialogs::openFile(const FileDialog& dialog) {
     QFileDialog chooser(parent, toQt(dialog.title));
     chooser.setFileMode(QFileDialog::ExistingFile);
@@ -76,8 +99,6 @@ std::string QtDialogs::openFile(const FileDialog& dialog) {
 std::string QtDialogs::saveFile(const FileDialog& dialog) {
     QFileDialog chooser(parent, toQt(dialog.title));
     chooser.setAcceptMode(QFileDialog::AcceptSave);
-    if (!dialog.fileName.empty())
-        chooser.selectFile(toQt(dialog.fileName));
     return chosenPath(chooser, dialog);
 }
 

@@ -5,9 +5,12 @@
 
 #include "controls/Ports.h"
 
+class QFileDialog;
+
 namespace plandesk::desktop {
 
-/// Message boxes and file dialogs of the machine, before the window `parent`.
+/// Message boxes and file dialogs of the machine, before the window `parent`. File dialogs begin in the folder of the
+/// file chosen last, the first one in the user's documents.
 class QtDialogs : public Dialogs {
 public:
     explicit QtDialogs(const Program& program) : program(program) {}
@@ -21,9 +24,15 @@ public:
 
 private:
     QString titleOf(const Message& message) const;
+    std::string chosenPath(QFileDialog& chooser, const FileDialog& dialog);
 
     const Program& program;
+    QString lastFolder;  ///< of the file chosen last in this run
 };
+
+/// A file name, without extension, made of a title: at most 80 characters, none that a file system refuses.
+/// Empty when nothing is left.
+QString safeFileName(const QString& title);
 
 class QtClock : public Clock {
 public:

@@ -7,6 +7,8 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "desktop/Pictures.h"
+
 namespace plandesk::desktop {
 
 namespace {
@@ -48,6 +50,7 @@ void useTheme() {
     palette.setColor(QPalette::Highlight, QColor(0x2F, 0x5D, 0x8C));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     QApplication::setPalette(palette);
+    QApplication::setWindowIcon(programIcon());
 }
 
 }  // namespace plandesk::desktop

@@ -79,8 +79,8 @@ void SaveData(Proposal& proposal) {
         return;
     proposal.proposalText = joinDocument(proposal);
     if (!proposal.isProposalOpen)
-        form.txtPathNm.setText(
-            proposal.screen.ports.dialogs.saveFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", ""}));
+        form.txtPathNm.setText(proposal.screen.ports.dialogs.saveFile(
+            {"Select Proposals Path", "xml", "xml File(s) (*.xml)", "", form.txtTitle.text()}));
     CreateXMLFIle(proposal);
 }
 

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 
 #include "desktop/Desk.h"
@@ -60,6 +61,54 @@ private slots:
         agree();
         QVERIFY(session.window.entry("mnuSave")->isEnabled());
         QVERIFY(session.window.entry("mnuDocCheckList")->isEnabled());
+    }
+
+    void theFirstWindowFitsTheScreenWithItsFrame_data() {
+        QTest::addColumn<QRect>("available");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("1024 x 768") << QRect(0, 0, 1024, 768) << QSize(1014, 724);
+        QTest::newRow("1366 x 768 with a bar above") << QRect(0, 28, 1366, 740) << QSize(1180, 696);
+        QTest::newRow("1920 x 1080") << QRect(0, 0, 1920, 1080) << QSize(1180, 820);
+    }
+    void theFirstWindowFitsTheScreenWithItsFrame() {
+        QFETCH(QRect, available);
+        QFETCH(QSize, size);
+        const QMargins frame(5, 38, 5, 6);
+        for (const QPoint corner : {QPoint(0, 0), QPoint(900, 500), QPoint(-50, -50)}) {
+            const QRect place = desktop::framedWithin(available, frame, {corner, QSize(1180, 820)});
+            QCOMPARE(place.size(), size);
+            QVERIFY(available.contains(place.marginsAdded(frame)));
+        }
+        const QRect fitting(available.topLeft() + QPoint(60, 60), QSize(400, 300));
+        QCOMPARE(desktop::framedWithin(available, frame, fitting), fitting);
+    }
+
+    void theRealWindowStandsInsideTheScreenOnceItHasItsFrame() {
+        TestPorts machine;
+        Proposal proposal{machine};
+        mdiInterface shell{proposal};
+        desktop::MainWindow window{proposal, shell};
+        window.move(window.screen()->availableGeometry().topLeft() + QPoint(40, 300));
+        window.show();
+        QTRY_VERIFY(window.screen()->availableGeometry().contains(window.frameGeometry()));
+        QTest::qWait(1200);
+        QVERIFY(window.screen()->availableGeometry().contains(window.frameGeometry()));
+    }
+
+    void aWindowThatWasGivenAnotherSizeKeepsIt() {
+        Session session({1500, 1300});
+        QTest::qWait(1200);
+        QCOMPARE(session.window.size(), QSize(1500, 1300));
+    }
+
+    void theProgramHasAnIconInEverySize() {
+        Session session;
+        for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
+            QVERIFY(session.window.windowIcon().availableSizes().contains(QSize(side, side)));
+            const QImage icon = session.window.windowIcon().pixmap(side, side).toImage();
+            QVERIFY(icon.pixelColor(0, 0).alpha() < 128);
+            QCOMPARE(icon.pixelColor(side / 2, side / 10).name(), QString("#5b4524"));
+        }
     }
 
     void theMenuIsReachedByItsMnemonics() {

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QTest>
 #include <QTimer>
 #include <filesystem>
@@ -121,6 +122,73 @@ private slots:
         });
         QCOMPARE(dialogs.saveFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", ""}),
                  (folder / "प्रस्ताव 1.xml").string());
+    }
+
+    void aFileDialogBeginsInTheFolderOfTheFileChosenLast() {
+        QtProgram program;
+        QtDialogs dialogs(program);
+        const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        std::filesystem::create_directories(fromQt(documents));
+        const QString folder = toQt(std::filesystem::current_path().string()) + "/chosen last";
+        std::filesystem::create_directories(fromQt(folder));
+        const FileDialog save{"Select Proposals Path", "xml", "xml File(s) (*.xml)", ""};
+        const FileDialog open{"Select Proposals Path", "xml", "xml File(s) (*.xml)", "*.xml"};
+        const auto beginsIn = [&](const FileDialog& dialog, const QString& wanted, bool saves, bool accepts) {
+            QString begun;
+            whenOpen<QFileDialog>([&](QFileDialog& chooser) {
+                begun = chooser.directory().absolutePath();
+                if (!accepts)
+                    return chooser.reject();
+                chooser.setDirectory(folder);
+                auto* name = chooser.findChild<QLineEdit*>("fileNameEdit");
+                name->setText("plot.xml");
+                QTest::keyClick(name, Qt::Key_Return);
+            });
+            saves ? dialogs.saveFile(dialog) : dialogs.openFile(dialog);
+            QCOMPARE(begun, wanted);
+        };
+        beginsIn(open, documents, false, false);
+        beginsIn(save, documents, true, true);
+        beginsIn(open, folder, false, false);
+        beginsIn(save, folder, true, false);
+    }
+
+    void aFirstSaveProposesTheTitleAsTheName() {
+        QtProgram program;
+        QtDialogs dialogs(program);
+        QString shown;
+        whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+            shown = dialog.findChild<QLineEdit*>("fileNameEdit")->text();
+            dialog.reject();
+        });
+        const std::string path =
+            dialogs.saveFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", "", "Plot 12/3: Garden?"});
+        QCOMPARE(path, ""s);
+        QVERIFY2(shown == "Plot 12 3 Garden" || shown == "Plot 12 3 Garden.xml", qPrintable(shown));
+    }
+
+    void aTitleBecomesAFileNameThatEverySystemTakes_data() {
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("plain") << "House at Khandri"
+                               << "House at Khandri";
+        QTest::newRow("unsafe characters") << " a/b\\c:*?\"<>|d "
+                                           << "a b c d";
+        QTest::newRow("dots at the ends") << "..hidden. ."
+                                          << "hidden";
+        QTest::newRow("line ends") << "two\r\nlines\t"
+                                   << "two lines";
+        QTest::newRow("nothing") << ""
+                                 << "";
+        QTest::newRow("nothing safe") << "///"
+                                      << "";
+        QTest::newRow("Devanagari") << QString::fromUtf8("घर 12") << QString::fromUtf8("घर 12");
+        QTest::newRow("long") << QString(500, 'x') << QString(80, 'x');
+    }
+    void aTitleBecomesAFileNameThatEverySystemTakes() {
+        QFETCH(QString, title);
+        QFETCH(QString, name);
+        QCOMPARE(safeFileName(title), name);
     }
 
     void theProgramKnowsItself() {
