@@ -25,7 +25,7 @@ struct FileDialog {
     std::string title;
     std::string defaultExtension;
     std::string filter;
-    std::string fileName;  ///< what the system puts into the name field; comes back when the user cancels
+    std::string fileName;        ///< what the system puts into the name field; comes back when the user cancels
     std::string proposedName{};  ///< name to offer where the system leaves the field empty, without an extension
 };
 
