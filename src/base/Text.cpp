@@ -121,6 +121,20 @@ std::u32string codePoints(std::string_view text) {
     return result;
 }
 
+std::size_t codePointCount(std::string_view text) {
+    std::size_t count = 0;
+    for (; !text.empty(); ++count)
+        takeCodePoint(text);
+    return count;
+}
+
+std::size_t sizeOfFirst(std::string_view text, std::size_t count) {
+    std::string_view rest = text;
+    for (; count > 0 && !rest.empty(); --count)
+        takeCodePoint(rest);
+    return text.size() - rest.size();
+}
+
 void appendUtf8(std::string& text, char32_t codePoint) {
     if (codePoint >= escapedByteBase + 0x80 && codePoint <= escapedByteBase + 0xFF) {
         text += static_cast<char>(codePoint - escapedByteBase);

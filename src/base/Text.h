@@ -27,6 +27,11 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 /// so that appendUtf8 gives the same byte back.
 std::u32string codePoints(std::string_view text);
 
+/// Number of code points, as codePoints decodes them.
+std::size_t codePointCount(std::string_view text);
+/// Number of bytes of the first `count` code points; of the whole text when it has fewer.
+std::size_t sizeOfFirst(std::string_view text, std::size_t count);
+
 /// Other surrogates, and what is no code point, are appended as U+FFFD.
 void appendUtf8(std::string& text, char32_t codePoint);
 

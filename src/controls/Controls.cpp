@@ -24,18 +24,26 @@ void TextBox::setText(std::string_view text) {
 }
 
 void TextBox::restoreText(std::string_view text) {
-    content = text;
-    touched();
+    replace(std::string(text));
 }
 
 void TextBox::edit(std::string text) {
-    content = std::move(text);
-    touched();
+    replace(std::move(text));
     runReaction(change);
 }
 
-void TextBox::append(char32_t character) {
-    appendUtf8(content, character);
+void TextBox::replace(std::string text) {
+    const std::size_t characters = codePointCount(std::string_view(content).substr(0, caretPlace));
+    content = std::move(text);
+    caretPlace = sizeOfFirst(content, characters);
+    touched();
+}
+
+void TextBox::type(char32_t character) {
+    std::string typed;
+    appendUtf8(typed, character);
+    content.insert(caretPlace, typed);
+    caretPlace += typed.size();
     touched();
     runReaction(change);
 }

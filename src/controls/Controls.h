@@ -29,8 +29,12 @@ public:
     void restoreText(std::string_view text);
     /// The user: the content becomes `text` and `change` runs, also for the same text.
     void edit(std::string text);
-    /// The user: one more character at the end.
-    void append(char32_t character);
+    /// The user: one more character at the caret, which moves on behind it before `change` runs.
+    void type(char32_t character);
+    /// Where the user types: a number of bytes from the left. Whoever puts another text in leaves the caret behind as
+    /// many characters as before, or at the end of a text that is shorter.
+    std::size_t caret() const { return caretPlace; }
+    void moveCaretToEnd() { caretPlace = content.size(); }
     bool fire(std::string_view event) override;
 
     std::function<void()> change;
@@ -40,7 +44,10 @@ public:
     bool rightAligned = false;  ///< a column of numbers reads from its last digit
 
 private:
+    void replace(std::string text);
+
     std::string content;
+    std::size_t caretPlace = 0;
 };
 
 /// A control that carries its own words.

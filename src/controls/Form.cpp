@@ -58,10 +58,16 @@ void Form::show() {
     bringToFront();
 }
 
+void Form::showModal() {
+    desk.openModal(*this);
+    show();
+}
+
 void Form::hide() {
     if (!shown)
         return;
     shown = false;
+    desk.closeModal(*this);
     desk.leaveForm(*this);
     desk.formTouched(*this);
 }

@@ -63,6 +63,9 @@ public:
     bool visible() const { return shown; }
     /// Makes the form visible, in front of the others, and the active one.
     void show();
+    /// The same, and until the form is hidden or unloaded the user reaches neither the menu nor another form, but for
+    /// one that this form shows modal in its turn. Returns at once.
+    void showModal();
     void hide();
     /// Brings a visible form to the front; a hidden one stays hidden and is merely the next to show there.
     void bringToFront();

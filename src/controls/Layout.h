@@ -43,8 +43,8 @@ struct Layout {
     std::string_view tabs{};
     std::span<const LayoutPage> pages{};
     std::string_view buttons{};  ///< names of the controls in the row below the pages
-    bool modal = false;
-    int firstTabNumber = 1;  ///< tabs are captioned by numbers that run on from this one
+    bool centred = false;        ///< the form stands in the middle of the desk
+    int firstTabNumber = 1;      ///< tabs are captioned by numbers that run on from this one
 };
 
 }  // namespace plandesk

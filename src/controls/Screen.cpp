@@ -35,7 +35,7 @@ void Screen::event(const std::function<void()>& reaction) {
 }
 
 void Screen::setFocus(Control& control) {
-    if (!holds(control.form()))
+    if (!holds(control.form()) || !inReach(control.form()))
         return;
     moveToFront(control.form());
     changeFocus(&control);
@@ -96,6 +96,8 @@ void Screen::react(const std::function<void()>& reaction) {
 }
 
 Form* Screen::frontForm() const {
+    if (Form* modal = modalForm())
+        return modal;
     const auto front = std::find_if(stack.rbegin(), stack.rend(), [](const Form* form) { return form->visible(); });
     return front == stack.rend() ? nullptr : *front;
 }
@@ -118,6 +120,7 @@ void Screen::unload(std::unique_ptr<Form> form) {
     if (!form)
         return;
     const bool hadFocus = focus && &focus->form() == form.get();
+    closeModal(*form);
     forget(*form);
     if (observer && hadFocus)
         observer->focusChanged(nullptr);
@@ -139,6 +142,7 @@ void Screen::forget(const Form& form) {
         focusArrived = false;
     }
     std::erase(stack, &form);
+    std::erase(modals, &form);
 }
 
 void Screen::leaveForm(const Form& form) {
@@ -156,8 +160,22 @@ void Screen::moveToFront(Form& form) {
 
 void Screen::raise(Form& form) {
     moveToFront(form);
-    if (form.visible() && focus && &focus->form() != &form)
+    if (form.visible() && inReach(form) && focus && &focus->form() != &form)
         changeFocus(nullptr);
+}
+
+void Screen::openModal(Form& form) {
+    std::erase(modals, &form);
+    modals.push_back(&form);
+    mainWindowTouched();
+}
+
+void Screen::closeModal(const Form& form) {
+    if (std::erase(modals, &form) == 0)
+        return;
+    mainWindowTouched();
+    if (Form* front = frontForm())
+        formTouched(*front);
 }
 
 void Screen::formTouched(Form& form) {

@@ -42,7 +42,8 @@ public:
 
     Control* focused() const { return focus; }
     /// Program code moves the focus: lost focus and got focus run, each an event of its own, and no leave check. A lost
-    /// focus that gives the focus back or on ends the move there. Does nothing for a form that was unloaded.
+    /// focus that gives the focus back or on ends the move there. Does nothing for a form that was unloaded or is out
+    /// of reach behind a modal one.
     void setFocus(Control& control);
     /// The user moves the focus. Within one form the old control's leave check may hold it: false then, and nothing
     /// else happens. To another form no leave check runs.
@@ -52,10 +53,14 @@ public:
     /// A menu takes the focus: lost focus without a leave check.
     void dropFocus();
 
-    /// The visible form in front of all others; null when none is visible.
+    /// The visible form in front of all others, a modal one before all; null when none is visible.
     Form* frontForm() const;
     /// The form that keys go to: that of the focus, else the front one.
     Form* activeForm() const;
+    /// The form that was shown modal last and is still open; null when there is none.
+    Form* modalForm() const { return modals.empty() ? nullptr : modals.back(); }
+    /// Whether the user can act on the form: nothing but the modal form can be reached while there is one.
+    bool inReach(const Form& form) const { return modals.empty() || modals.back() == &form; }
 
     /// The main window's own caption.
     const std::string& caption() const { return title; }
@@ -82,11 +87,14 @@ private:
     void forget(const Form& form);
     void leaveForm(const Form& form);
     void moveToFront(Form& form);
+    void openModal(Form& form);
+    void closeModal(const Form& form);
     void raise(Form& form);
     void formTouched(Form& form);
     void controlTouched(Control& control);
 
-    std::vector<Form*> stack;  ///< all forms, the front one last
+    std::vector<Form*> stack;   ///< all forms, the front one last
+    std::vector<Form*> modals;  ///< the open modal forms, the one shown last at the end
     Control* focus = nullptr;
     bool focusArrived = false;  ///< the focused control has had its got-focus reaction
     int focusMoves = 0;         ///< moves of the focus under way, each in a reaction to the one before

@@ -16,9 +16,13 @@ namespace {
 
 constexpr int backspace = 8;
 
+bool inReach(const Form& form) {
+    return form.screen().inReach(form);
+}
+
 /// One event on a control that must be there for the user; `act` runs once the focus is on it.
 bool onFocused(Control& control, const std::function<void()>& act) {
-    const bool there = control.takesFocus();
+    const bool there = control.takesFocus() && inReach(control.form());
     if (there)
         control.form().screen().event([&] {
             // A reaction to the focus may have closed the control.
@@ -33,9 +37,11 @@ bool editable(const TextBox& box) {
 }
 
 /// Types key by key, each key an event of its own; the first key that the filters let through replaces the content when
-/// `replace` is set. Keys that come after a reaction has moved the focus away or closed the box go nowhere.
+/// `replace` is set, and otherwise goes behind it. Keys that come after a reaction has moved the focus away or closed
+/// the box go nowhere.
 void typeKeys(TextBox& box, std::string_view text, bool replace) {
     bool replacing = replace;
+    box.moveCaretToEnd();
     for (const char32_t key : codePoints(text)) {
         if (!box.focused() || !editable(box))
             return;
@@ -45,7 +51,7 @@ void typeKeys(TextBox& box, std::string_view text, bool replace) {
                 return;
             if (std::exchange(replacing, false))
                 box.restoreText("");
-            box.append(static_cast<char32_t>(passed));
+            box.type(static_cast<char32_t>(passed));
         });
     }
 }
@@ -155,6 +161,8 @@ bool press(Control& control, std::string_view key) {
 }
 
 bool pressForm(Form& form, std::string_view key) {
+    if (!inReach(form))
+        return false;
     if (Control* control = form.activeControl(); control && control->takesFocus())
         return press(*control, key);
     form.screen().event([&] { keyDown(form, nullptr, key); });
@@ -165,7 +173,7 @@ bool click(Control& control) {
     const ControlKind kind = control.kind();
     if (kind != ControlKind::Label && kind != ControlKind::Image && kind != ControlKind::Frame)
         return onFocused(control, [&] { activate(control); });
-    const bool there = control.visible() && control.enabled();
+    const bool there = control.visible() && control.enabled() && inReach(control.form());
     if (there)
         control.form().screen().event([&] { activate(control); });
     return there;
@@ -191,6 +199,20 @@ bool focus(Control& control) {
     bool arrived = false;
     onFocused(control, [&] { arrived = true; });
     return arrived;
+}
+
+bool close(Form& form) {
+    const bool there = form.visible() && inReach(form);
+    if (there)
+        form.screen().event([&] { form.closeBox(); });
+    return there;
+}
+
+bool bringToFront(Form& form) {
+    const bool there = form.visible() && inReach(form);
+    if (there && !form.front())
+        form.screen().event([&] { form.bringToFront(); });
+    return there;
 }
 
 }  // namespace plandesk::user

@@ -6,7 +6,8 @@
 
 // The user's hands: what a key or a click does to a control, with the focus rules and key filters. The window and the
 // script driver both work through these; each call is one event, whose unhandled error ends in one message box.
-// The result is false when the control is not there for the user: hidden, disabled or locked. Nothing happens then.
+// The result is false when the control is not there for the user: hidden, disabled, locked, or on a form that a modal
+// one keeps out of reach. Nothing happens then.
 
 namespace plandesk {
 
@@ -20,7 +21,8 @@ class TextBox;
 
 namespace user {
 
-/// Types over what the box holds, key by key through the filters. With no key let through the content stays.
+/// Types over what the box holds, key by key through the filters, each at the caret: where a reaction puts in another
+/// text, the next key goes behind as many characters as before. With no key let through the content stays.
 bool type(TextBox& box, std::string_view text);
 /// Types at the end of what the box holds.
 bool append(TextBox& box, std::string_view text);
@@ -32,7 +34,7 @@ bool edit(TextBox& box, std::string_view text);
 int filteredKey(const TextBox& box, int key);
 
 /// One key with that control focused: "Enter", "Tab", "Shift+Tab", "Esc", "Space", "Backspace", "F2", "F3" or one
-/// character.
+/// character, which goes to the end of what a box holds.
 bool press(Control& control, std::string_view key);
 /// The same with whatever control of the form has the focus.
 bool pressForm(Form& form, std::string_view key);
@@ -47,6 +49,11 @@ bool showTab(TabStrip& strip, int tab);
 bool leave(Control& control);
 /// Moves the focus to the control; false also when a leave check held it elsewhere.
 bool focus(Control& control);
+
+/// Presses the close box of the form; false also for one that is not shown.
+bool close(Form& form);
+/// Clicks the form where nothing stands, which brings it to the front.
+bool bringToFront(Form& form);
 
 }  // namespace user
 }  // namespace plandesk

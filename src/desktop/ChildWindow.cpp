@@ -8,6 +8,7 @@
 
 #include "controls/Form.h"
 #include "controls/Screen.h"
+#include "controls/User.h"
 #include "desktop/FormView.h"
 #include "desktop/QtText.h"
 #include "desktop/ScreenView.h"
@@ -66,7 +67,7 @@ void ChildWindow::fit() {
     const QSize around(2 * frameWidth(), 2 * frameWidth() + bar->sizeHint().height());
     const QSize room = parentWidget()->size();
     resize(contents->naturalSize(room - around) + around);
-    if (form && form->layout().modal && !moved)
+    if (form && form->layout().centred && !moved)
         move((room.width() - width()) / 2, (room.height() - height()) / 2);
 }
 
@@ -83,6 +84,9 @@ void ChildWindow::resizeEvent(QResizeEvent* /*event*/) {
 
 bool ChildWindow::eventFilter(QObject* watched, QEvent* event) {
     const auto place = [event] { return static_cast<QMouseEvent*>(event)->globalPosition().toPoint(); };
+    const bool mouse = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove;
+    if (mouse && form && !form->screen().inReach(*form))
+        return true;
     if (event->type() == QEvent::MouseButtonPress) {
         grip = place() - pos();
         bringToFront();
@@ -98,12 +102,12 @@ bool ChildWindow::eventFilter(QObject* watched, QEvent* event) {
 
 void ChildWindow::bringToFront() {
     if (form && !form->front())
-        screen.act(Qt::MouseFocusReason, [this] { form->screen().event([this] { form->bringToFront(); }); });
+        screen.act(Qt::MouseFocusReason, [this] { user::bringToFront(*form); });
 }
 
 void ChildWindow::closeForm() {
     if (form)
-        screen.act(Qt::OtherFocusReason, [this] { form->screen().event([this] { form->closeBox(); }); });
+        screen.act(Qt::OtherFocusReason, [this] { user::close(*form); });
 }
 
 }  // namespace plandesk::desktop

@@ -206,7 +206,7 @@ void FormView::resizeEvent(QResizeEvent* /*event*/) {
 
 void FormView::mousePressEvent(QMouseEvent* /*event*/) {
     if (form && !form->front())
-        screen.act(Qt::MouseFocusReason, [this] { form->screen().event([this] { form->bringToFront(); }); });
+        screen.act(Qt::MouseFocusReason, [this] { user::bringToFront(*form); });
 }
 
 bool FormView::focusNextPrevChild(bool /*next*/) {

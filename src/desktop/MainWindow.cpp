@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 
+#include "controls/User.h"
 #include "desktop/QtText.h"
 #include "shell/mdiInterface.h"
 
@@ -136,10 +137,8 @@ void MainWindow::showState() {
 
 void MainWindow::closeFrontForm() {
     screenView.act(Qt::OtherFocusReason, [this] {
-        proposal.screen.event([this] {
-            if (Form* front = proposal.screen.frontForm())
-                front->closeBox();
-        });
+        if (Form* front = proposal.screen.frontForm())
+            user::close(*front);
     });
 }
 

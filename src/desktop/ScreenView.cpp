@@ -71,6 +71,10 @@ void ScreenView::showForms() {
     for (Form* form : std::exchange(raised, {}))
         if (ChildWindow* window = windowOf(*form))
             window->raise();
+    // A form that code showed meanwhile stands behind the modal one.
+    if (const Form* modal = screen.modalForm())
+        if (ChildWindow* window = windowOf(*modal))
+            window->raise();
     for (const auto& [form, window] : windows)
         window->colourBar(form == screen.frontForm());
 }

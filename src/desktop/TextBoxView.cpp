@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "base/Text.h"
 #include "controls/Controls.h"
 #include "controls/Form.h"
 #include "controls/User.h"
@@ -21,6 +22,13 @@ constexpr int numberWidth = 14;
 constexpr int textWidth = 42;
 constexpr int leastTextWidth = 8;
 constexpr int linesShown = 4;
+
+/// Place in `text` behind as many characters as `before` has, some of which take two units; its end when it is shorter.
+int samePlace(const QString& before, const QString& text) {
+    const std::string bytes = fromQt(text);
+    const std::size_t size = sizeOfFirst(bytes, codePointCount(fromQt(before)));
+    return static_cast<int>(toQt(std::string_view(bytes).substr(0, size)).size());
+}
 
 class TextBoxView : public ControlView {
 public:
@@ -69,9 +77,10 @@ private:
     void syncContent() override {
         line.setReadOnly(box().locked);
         if (const QString text = toQt(box().text()); line.text() != text) {
-            const int caret = line.hasFocus() ? line.cursorPosition() : 0;
+            const int caret = box().focused() ? line.cursorPosition() : 0;
+            const QString before = line.text().left(caret);
             line.setText(text);
-            line.setCursorPosition(caret);
+            line.setCursorPosition(samePlace(before, text));
         }
     }
 

@@ -26,6 +26,7 @@ struct Door {
     std::string_view caption{};                  ///< empty: the form keeps its own
     void (*prepare)(Form& form) = [](Form&) {};  ///< runs before the form is shown
     bool choosesFirstExtract = true;
+    bool modal = false;
 };
 
 constexpr std::array doors = std::to_array<Door>({
@@ -37,7 +38,10 @@ constexpr std::array doors = std::to_array<Door>({
      .needs = {&Proposal::plotPrcDetailsXML, "txtNoOfPrc",
                "Please Enter Relationship Details for Property Register Card !"},
      .caption = "Scrutiny Of PRC Extract"},
-    {.form = "frmNaOrder", .prepare = [](Form& form) { form.run("cmbAreaForNA_Click"); }, .choosesFirstExtract = false},
+    {.form = "frmNaOrder",
+     .prepare = [](Form& form) { form.run("cmbAreaForNA_Click"); },
+     .choosesFirstExtract = false,
+     .modal = true},
     {.form = "frmScrutinyULC",
      .prepare =
          [](Form& form) {
@@ -76,7 +80,10 @@ void openLandRecord(Proposal& proposal, int icon) {
             form->setCaption(door.caption);
         door.prepare(*form);
     }
-    proposal.commands.open(door.form);
+    if (form && door.modal)
+        form->showModal();
+    else
+        proposal.commands.open(door.form);
     if (form && door.choosesFirstExtract)
         chooseFirstExtract(*form);
 }

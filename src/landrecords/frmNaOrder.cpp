@@ -29,7 +29,7 @@ constexpr Layout sheet{
     .questionWidth = 34,
     .pages = pages,
     .buttons = "cmdSave cmdReferesh cmdClose Command1",
-    .modal = true,
+    .centred = true,
 };
 
 }  // namespace

@@ -19,7 +19,7 @@ constexpr LayoutRow rows[] = {
 };
 constexpr LayoutGroup groups[] = {{"", rows}};
 constexpr LayoutPage pages[] = {{groups}};
-constexpr Layout sheet{.pages = pages, .buttons = "cmdOK cmdSysInfo", .modal = true};
+constexpr Layout sheet{.pages = pages, .buttons = "cmdOK cmdSysInfo", .centred = true};
 
 }  // namespace
 

@@ -139,7 +139,8 @@ void mdiInterface::loadRoutine() {
 
 bool mdiInterface::available(std::string_view name) const {
     const MenuEntry* entry = findMenuEntry(name);
-    return entry && !closed.contains(std::string(name)) && (entry->form.empty() || proposal.forms.known(entry->form)) &&
+    return entry && !proposal.screen.modalForm() && !closed.contains(std::string(name)) &&
+           (entry->form.empty() || proposal.forms.known(entry->form)) &&
            (entry->parent.empty() || available(entry->parent));
 }
 
@@ -173,8 +174,11 @@ bool mdiInterface::run(std::string_view procedure) {
     return true;
 }
 
-void mdiInterface::closeBox() {
+bool mdiInterface::closeBox() {
+    if (proposal.screen.modalForm())
+        return false;
     proposal.screen.event([this] { mnuExit_Click(); });
+    return true;
 }
 
 void mdiInterface::resized() {

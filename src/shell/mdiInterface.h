@@ -21,13 +21,15 @@ public:
     /// Makes the forms known, fills in the proposal's commands and runs the load routine.
     explicit mdiInterface(Proposal& proposal);
 
-    /// Whether the entry, and the submenu it stands in, can be pressed. False for a name that is no entry.
+    /// Whether the entry, and the submenu it stands in, can be pressed. False for a name that is no entry, and for all
+    /// while a modal form is open.
     bool available(std::string_view name) const;
     /// The user presses the entry: the focused control loses the focus without a leave check, then the command runs as
     /// one event. False for an entry that is not available; nothing happens then.
     bool press(std::string_view entry);
-    /// The user presses the close box: the same question as Exit. The window stays open unless the program ended.
-    void closeBox();
+    /// The user presses the close box: the same question as Exit. The window stays open unless the program ended. False
+    /// while a modal form is open; nothing happens then.
+    bool closeBox();
     /// The window changed its size: the next tick of Timer2 paints the picture once.
     void resized();
 

@@ -127,15 +127,10 @@ void close(Session& session, const Words& words) {
     if (!mainWindow && !session.proposal.forms.known(name))
         throw ScriptError("unknown form " + quote(name));
     userAct(session, words[0], [&] {
-        if (mainWindow) {
-            session.shell.closeBox();
-            return true;
-        }
+        if (mainWindow)
+            return session.shell.closeBox();
         Form* form = session.proposal.forms.loaded(name);
-        if (!form || !form->visible())
-            return false;
-        session.proposal.screen.event([form] { form->closeBox(); });
-        return true;
+        return form && user::close(*form);
     });
 }
 

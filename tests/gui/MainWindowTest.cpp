@@ -5,11 +5,15 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
+#include <QToolButton>
 
+#include "desktop/ChildWindow.h"
 #include "desktop/Desk.h"
 #include "desktop/QtText.h"
+#include "fees/frmDocCheckList.h"
 #include "gui/Registry.h"
 #include "gui/Session.h"
+#include "landrecords/frmNaOrder.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
 
@@ -132,6 +136,42 @@ private slots:
         QTest::keyClick(&session.window, Qt::Key_F4, Qt::ControlModifier);
         session.settle();
         QVERIFY(session.form<frmAnnexureA>().front());
+    }
+
+    void behindTheNaOrderNothingIsReached() {
+        Session session;
+        session.press("mnuNew");
+        session.press("mnuMandatoryDocument");
+        auto& checklist = session.form<frmDocCheckList>();
+        QTest::mouseClick(&session.widget(checklist.Image1[2]), Qt::LeftButton);
+        session.settle();
+        auto& order = session.form<frmNaOrder>();
+        QVERIFY(order.visible());
+        for (const MenuEntry& entry : mainMenu())
+            QVERIFY2(!session.window.entry(entry.name)->isEnabled(), std::string(entry.name).c_str());
+        QTest::mouseClick(&session.widget(checklist.rows[0].pageFrom), Qt::LeftButton);
+        QTest::mouseClick(&session.widget(checklist.cmdSave), Qt::LeftButton);
+        session.settle();
+        QVERIFY(order.front());
+        QVERIFY(!checklist.rows[0].pageFrom.focused());
+        desktop::ChildWindow& behind = *session.window.forms().windowOf(checklist);
+        const QPoint place = behind.pos();
+        QWidget& bar = *behind.findChild<QLabel*>()->parentWidget();
+        QTest::mousePress(&bar, Qt::LeftButton, {}, {20, 5});
+        QTest::mouseMove(&bar, {60, 45});
+        QTest::mouseRelease(&bar, Qt::LeftButton, {}, {60, 45});
+        QTest::mouseClick(behind.findChild<QToolButton*>("closeBox"), Qt::LeftButton);
+        session.settle();
+        QCOMPARE(behind.pos(), place);
+        QVERIFY(checklist.visible());
+        QVERIFY(!session.window.close());
+        QVERIFY(session.dialogs.messages.empty());
+        QTest::keyClicks(&session.widget(order.txtNaOrderNo), "12");
+        QCOMPARE(order.txtNaOrderNo.text(), "12"s);
+        QTest::mouseClick(&session.widget(order.cmdSave), Qt::LeftButton);
+        session.settle();
+        QVERIFY(checklist.front());
+        QVERIFY(session.window.entry("mnuOpen")->isEnabled());
     }
 
     void theCaptionIsTheSystemsCaption_data() {

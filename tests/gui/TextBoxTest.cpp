@@ -4,6 +4,9 @@
 #include <QPlainTextEdit>
 #include <string>
 
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "controls/User.h"
 #include "gui/Registry.h"
 #include "gui/SampleForm.h"
 
@@ -193,6 +196,43 @@ private slots:
         QCOMPARE(title.text(), "AB!"s);
         QCOMPARE(line.text(), QString("AB!"));
         QCOMPARE(line.cursorPosition(), 2);
+    }
+
+    void aScriptOfKeysGivesTheSameTextHereAndInTheDriver_data() {
+        QTest::addColumn<std::string>("keys");
+        for (const char* keys : {"125", "12.5", "0.07", "1000000", "12x34", ".5", "00", "1.2.3", "अआ"})
+            QTest::newRow(keys) << std::string(keys);
+    }
+    void aScriptOfKeysGivesTheSameTextHereAndInTheDriver() {
+        QFETCH(std::string, keys);
+        const auto rewrites = [](TextBox& box) {
+            box.change = [&box] {
+                if (box.text().find('x') == std::string::npos)
+                    box.setText(formatAmount(box.text()));
+                else
+                    box.setText("");
+            };
+        };
+        Stage inWindow;
+        TextBox& seen = inWindow.form().title;
+        rewrites(seen);
+        inWindow.view.act(Qt::TabFocusReason, [&] { seen.setFocus(); });
+        for (const char32_t key : codePoints(keys))
+            QTest::sendKeyEvent(QTest::Click, &inWindow.widget(seen), Qt::Key_unknown,
+                                QString(QChar(static_cast<char16_t>(key))), Qt::NoModifier);
+        Stage scripted;
+        rewrites(scripted.form().title);
+        user::type(scripted.form().title, keys);
+        QCOMPARE(seen.text(), scripted.form().title.text());
+    }
+
+    void anAmountIsTypedBeforeItsDecimals() {
+        Stage stage;
+        TextBox& amount = stage.form().title;
+        amount.change = [&] { amount.setText(formatAmount(amount.text())); };
+        stage.view.act(Qt::TabFocusReason, [&] { amount.setFocus(); });
+        QTest::keyClicks(&stage.widget(amount), "125");
+        QCOMPARE(amount.text(), "125.00"s);
     }
 
     void textSetByCodeIsShown() {

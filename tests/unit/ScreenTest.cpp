@@ -393,5 +393,56 @@ TEST_F(ScreenTest, ObserverHearsOfFocusAndStacking) {
     screen.observer = nullptr;
 }
 
+// Modal forms
+
+TEST_F(ScreenTest, AModalFormIsInFrontAndAloneInReachUntilItIsHidden) {
+    form.show();
+    EXPECT_EQ(screen.modalForm(), nullptr);
+    other.showModal();
+    EXPECT_TRUE(other.visible());
+    EXPECT_EQ(screen.modalForm(), &other);
+    EXPECT_TRUE(screen.inReach(other));
+    EXPECT_FALSE(screen.inReach(form));
+    form.bringToFront();
+    EXPECT_TRUE(other.front());
+    other.hide();
+    EXPECT_EQ(screen.modalForm(), nullptr);
+    EXPECT_TRUE(screen.inReach(form));
+    EXPECT_TRUE(form.front());
+}
+
+TEST_F(ScreenTest, AFormShownModalTakesTheFocusFromTheOthersAndCodeDoesNotGiveItBack) {
+    form.show();
+    screen.moveFocus(form.txtFirst);
+    other.showModal();
+    EXPECT_EQ(screen.focused(), nullptr);
+    EXPECT_EQ(log.back(), "txtFirst LostFocus");
+    form.txtFirst.setFocus();
+    EXPECT_EQ(screen.focused(), nullptr);
+    other.txtFirst.setFocus();
+    form.show();
+    EXPECT_TRUE(other.txtFirst.focused());
+}
+
+TEST_F(ScreenTest, AModalFormMayShowAnotherWhichGivesTheReachBackToIt) {
+    test::SampleForm third{screen, "frmThird"};
+    other.showModal();
+    third.showModal();
+    EXPECT_FALSE(screen.inReach(other));
+    EXPECT_TRUE(third.front());
+    third.hide();
+    EXPECT_EQ(screen.modalForm(), &other);
+    EXPECT_TRUE(other.front());
+}
+
+TEST_F(ScreenTest, AModalFormThatIsUnloadedGivesTheReachBack) {
+    auto modal = std::make_unique<test::SampleForm>(screen, "frmModal");
+    form.show();
+    modal->showModal();
+    screen.unload(std::move(modal));
+    EXPECT_EQ(screen.modalForm(), nullptr);
+    EXPECT_TRUE(screen.inReach(form));
+}
+
 }  // namespace
 }  // namespace plandesk

@@ -73,6 +73,33 @@ TEST_F(UserTest, TypingNothingKeepsTheContent) {
     EXPECT_TRUE(form.txtFirst.focused());
 }
 
+TEST_F(UserTest, AReactionThatRewritesTheTextLeavesTheCaretAtItsPlaceFromTheLeft) {
+    form.txtFirst.change = [&] {
+        if (const std::string& text = form.txtFirst.text(); !text.ends_with(".00"))
+            form.txtFirst.setText(text.substr(0, text.find('.')) + ".00");
+    };
+    user::type(form.txtFirst, "125");
+    EXPECT_EQ(form.txtFirst.text(), "125.00");
+    EXPECT_EQ(form.txtFirst.caret(), 3U);
+    user::append(form.txtFirst, "7");
+    EXPECT_EQ(form.txtFirst.text(), "125.00");
+}
+
+TEST_F(UserTest, TheCaretIsCountedInCharactersAndStandsAtTheEndOfAShorterText) {
+    form.txtFirst.change = [&] {
+        if (form.txtFirst.text() == "ab")
+            form.txtFirst.setText("\u0905\u0906\u0907");
+    };
+    user::type(form.txtFirst, "abc");
+    EXPECT_EQ(form.txtFirst.text(), "\u0905\u0906c\u0907");
+    form.txtFirst.change = [&] {
+        if (form.txtFirst.text() == "xyz")
+            form.txtFirst.setText("1");
+    };
+    user::type(form.txtFirst, "xyz2");
+    EXPECT_EQ(form.txtFirst.text(), "12");
+}
+
 TEST_F(UserTest, AppendTypesAtTheEnd) {
     form.txtFirst.setText("Plot");
     user::append(form.txtFirst, " 7");
@@ -497,6 +524,33 @@ TEST_F(UserTest, FocusTellsWhetherItArrived) {
     EXPECT_FALSE(user::focus(form.lblLink));
     form.cmdSave.setEnabled(false);
     EXPECT_FALSE(user::focus(form.cmdSave));
+}
+
+TEST_F(UserTest, NoHandReachesAFormBehindAModalOne) {
+    test::SampleForm modal{screen, "frmModal"};
+    form.show();
+    form.txtFirst.setText("kept");
+    modal.showModal();
+    form.log.clear();
+    EXPECT_FALSE(user::type(form.txtFirst, "x"));
+    EXPECT_FALSE(user::append(form.txtFirst, "x"));
+    EXPECT_FALSE(user::clear(form.txtFirst));
+    EXPECT_FALSE(user::press(form.txtFirst, "x"));
+    EXPECT_FALSE(user::pressForm(form, "F2"));
+    EXPECT_FALSE(user::click(form.cmdSave));
+    EXPECT_FALSE(user::click(form.lblLink));
+    EXPECT_FALSE(user::pick(form.cboZone, 0));
+    EXPECT_FALSE(user::pickDate(form.DTPicker1, {2026, 1, 31}));
+    EXPECT_FALSE(user::showTab(form.strip, 1));
+    EXPECT_FALSE(user::focus(form.txtFirst));
+    EXPECT_FALSE(user::bringToFront(form));
+    EXPECT_FALSE(user::close(form));
+    EXPECT_EQ(form.log, Log{});
+    EXPECT_EQ(form.txtFirst.text(), "kept");
+    EXPECT_TRUE(user::type(modal.txtFirst, "typed"));
+    EXPECT_TRUE(user::close(modal));
+    EXPECT_TRUE(user::type(form.txtFirst, "x"));
+    EXPECT_FALSE(user::close(modal));
 }
 
 TEST_F(UserTest, NothingReachesAFormAfterTheEndOfTheProgram) {

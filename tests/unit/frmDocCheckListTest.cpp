@@ -560,7 +560,7 @@ TEST_F(frmDocCheckListTest, ThirdIconOpensTheNaOrderWithoutATest) {
     EXPECT_FALSE(proposal.is712Current);
     EXPECT_EQ(form.caption(), "NA");
     EXPECT_EQ(form.calls, Calls{"click"});
-    EXPECT_EQ(opened, std::vector<std::string>{"frmNaOrder"});
+    EXPECT_EQ(proposal.screen.modalForm(), &form);
     expectNoMessage();
 }
 

@@ -51,7 +51,7 @@ TEST_F(NaOrder, OpeningItFromTheChecklistChoosesTheItemThatItsTextNames) {
     EXPECT_EQ(form.cmbAreaForNA.listIndex(), 3);
     EXPECT_EQ(shown(), std::pair(true, false));
     EXPECT_FALSE(proposal.is712Current);
-    EXPECT_TRUE(form.layout().modal);
+    EXPECT_TRUE(form.layout().centred);
 }
 
 TEST_F(NaOrder, ATextThatTheListDoesNotHaveChangesNothing) {

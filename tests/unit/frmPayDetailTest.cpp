@@ -269,13 +269,16 @@ TEST_F(frmPayDetailTest, LeavingAnEmptyBoxKeepsItEmpty) {
     EXPECT_EQ(fees().txtCompoundFees.text(), "");
 }
 
-TEST_F(frmPayDetailTest, AmountIsFormattedAtEachChangeSoThatTypedFiguresGoBehindTheDecimals) {
+TEST_F(frmPayDetailTest, AmountIsFormattedAtEachChangeAndTypedFiguresGoBeforeTheDecimals) {
     for (const RowNames& names : rowNames) {
         TextBox& amount = box(names.amount);
         amount.setText("12.5");
         EXPECT_EQ(amount.text(), "12.50") << names.amount;
         user::type(amount, "17");
-        EXPECT_EQ(amount.text(), "1.01") << names.amount;
+        EXPECT_EQ(amount.text(), "17.00") << names.amount;
+        // A point of the user's own is the second one, with which the text is no number any more.
+        user::type(amount, "12.5");
+        EXPECT_EQ(amount.text(), "12.5.00") << names.amount;
     }
 }
 
