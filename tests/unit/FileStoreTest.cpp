@@ -1,93 +1,35 @@
 #include "controls/FileStore.h"
 
-#include <algorithm>
 #include <chrono>
-#include <csignal>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <thread>
 
-#include <fcntl.h>
-#include <gtest/gtest.h>
 #include <sys/file.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include "base/RuntimeError.h"
+#include "unit/FileStoreFixture.h"
 
 namespace plandesk {
 namespace {
 
+using test::Names;
 namespace fs = std::filesystem;
 
 constexpr int lastStep = static_cast<int>(FileStore::Step::FlushFolder);
 
-class FileStoreTest : public testing::Test {
+class FileStoreTest : public test::FileStoreFixture {
 protected:
-    FileStoreTest() {
-        std::string name = (fs::temp_directory_path() / "plandesk-files-XXXXXX").string();
-        folder = mkdtemp(name.data());
-        path = folder / "proposal.xml";
-    }
-    ~FileStoreTest() override { fs::remove_all(folder); }
-
-    static std::string contents(const fs::path& file) {
-        std::ifstream in(file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
-    }
-    static void put(const fs::path& file, std::string_view bytes) { std::ofstream(file, std::ios::binary) << bytes; }
-    static mode_t mode(const fs::path& file) {
-        struct stat found = {};
-        EXPECT_EQ(stat(file.c_str(), &found), 0);
-        return found.st_mode & 07777;
-    }
-    std::vector<std::string> names() const {
-        std::vector<std::string> found;
-        for (const auto& entry : fs::directory_iterator(folder))
-            found.push_back(entry.path().filename());
-        std::ranges::sort(found);
-        return found;
-    }
-    int failureOf(const fs::path& file, std::string_view bytes = "new") {
-        try {
-            files.writeWhole(file, bytes);
-        } catch (const RuntimeError& error) {
-            return error.number;
-        }
-        return 0;
-    }
-
-    /// Result of `action` in a process of its own.
-    template <class Action>
-    static int inChild(Action action) {
-        const pid_t child = fork();
-        if (child == 0)
-            _exit(action());
-        int status = -1;
-        waitpid(child, &status, 0);
-        return WEXITSTATUS(status);
-    }
-
-    /// The same without the rights of root, from whom nothing is protected.
+    /// Result of `action` without the rights of root, from whom nothing is protected.
     template <class Action>
     int asOrdinaryUser(Action action) {
+        if (geteuid() != 0)
+            return inChild(action);
         constexpr uid_t nobody = 65534;
-        if (geteuid() == 0) {
-            EXPECT_EQ(chown(folder.c_str(), nobody, nobody), 0);
-            EXPECT_EQ(chown(path.c_str(), nobody, nobody), 0);
-        }
-        return inChild([&] { return geteuid() == 0 && setuid(nobody) != 0 ? -1 : action(); });
+        EXPECT_EQ(chown(folder.c_str(), nobody, nobody), 0);
+        EXPECT_EQ(chown(path.c_str(), nobody, nobody), 0);
+        return as({nobody, {nobody}}, action);
     }
-
-    fs::path folder;
-    fs::path path;
-    FileStore files;
 };
-
-using Names = std::vector<std::string>;
 
 TEST_F(FileStoreTest, WritesAFileThatWasNotThere) {
     files.writeWhole(path, "<A/>\r\n");
