@@ -65,10 +65,11 @@ std::optional<ScratchFile> secondName(const fs::path& folder, const fs::path& pa
             return ScratchFile{ScratchName(name), std::move(file)};
         if (isNotOffered(errno) || errno == EMLINK || errno == EXDEV)
             return std::nullopt;
-        if (errno != EEXIST)
+        // A file that another program replaces at this moment is missing too.
+        if (errno != EEXIST && errno != ENOENT)
             failWith(errno);
     }
-    failWith(EEXIST);
+    return std::nullopt;
 }
 
 void removeLeftovers(const fs::path& folder) {

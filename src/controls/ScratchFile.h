@@ -37,7 +37,8 @@ struct ScratchFile {
 /// RuntimeError 61, 70, 75 or 76 when there can be none.
 ScratchFile createScratchFile(const std::filesystem::path& folder, mode_t mode);
 
-/// A second name in the folder for a file of the same folder. Nothing where the file system has no second names.
+/// A second name in the folder for a file of the same folder. Nothing where there can be none. RuntimeError 61, 75 or
+/// 76 when the folder takes none.
 std::optional<ScratchFile> secondName(const std::filesystem::path& folder, const std::filesystem::path& path);
 
 /// Removes what killed programs left in the folder. What cannot be removed now is tried again at the next call.

@@ -10,6 +10,7 @@
 #include <sys/xattr.h>
 
 #include "controls/AccessRights.h"
+#include "controls/ScratchFile.h"
 #include "unit/FileStoreFixture.h"
 #include "unit/SystemFaults.h"
 
@@ -222,6 +223,19 @@ TEST_F(FileStoreLacksTest, AFullDiskLeavesTheEarlierFile) {
 class TwoProgramsTest : public test::FileStoreFixture {
 protected:
     TwoProgramsTest() : FileStoreFixture(test::placeInMemory()) {}
+
+    /// A program that calls `action` until it is killed.
+    template <class Action>
+    static pid_t program(Action action) {
+        const pid_t child = fork();
+        while (child == 0)
+            action();
+        return child;
+    }
+    static void end(pid_t program) {
+        kill(program, SIGKILL);
+        waitpid(program, nullptr, 0);
+    }
 };
 
 TEST_F(TwoProgramsTest, TwoProgramsSaveThousandsOfTimesInOneFolder) {
@@ -245,6 +259,19 @@ TEST_F(TwoProgramsTest, TwoProgramsSaveThousandsOfTimesInOneFolder) {
         EXPECT_EQ(status, 0) << "failed saves: " << WEXITSTATUS(status);
     }
     EXPECT_EQ(contents(path), "whole");
+    EXPECT_EQ(names(), Names{"proposal.xml"});
+}
+
+TEST_F(TwoProgramsTest, ASaveSucceedsWhileOthersLookForLeftoversAllTheTime) {
+    constexpr int saves = 20000;
+    const auto look = [this] { removeLeftovers(folder); };
+    const pid_t others[] = {program(look), program(look)};
+    int failures = 0;
+    for (int save = 0; save < saves; ++save)
+        failures += failureOf(path, "whole") != 0 ? 1 : 0;
+    for (const pid_t other : others)
+        end(other);
+    EXPECT_EQ(failures, 0);
     EXPECT_EQ(names(), Names{"proposal.xml"});
 }
 
