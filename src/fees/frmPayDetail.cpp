@@ -221,7 +221,10 @@ void frmPayDetail::saveFirstList() {
 }
 
 void frmPayDetail::saveSecondList() {
-    // Never emptied: the document reads its first nine values, those of the first save.
+    // Never emptied, not even for a new proposal, and the document reads its first nine values: those of the first save
+    // stand for good, and later ones need not be kept.
+    if (!proposal.secondScrutinyFees.empty())
+        return;
     for (const FeeRow& row : secondListRows)
         for (const Box box : {row.area, row.rate, row.amount})
             proposal.secondScrutinyFees.append(separator).append((this->*box).text());

@@ -59,7 +59,7 @@ public:
     std::string drcIssueXML;
     std::string drcTransferXML;
     std::string drcUtilisationXML;
-    std::string secondScrutinyFees;  ///< grows at each save of the payment form
+    std::string secondScrutinyFees;  ///< of the first save of the payment form; never emptied
     std::string mandatoryDocList;    ///< checklist string of frmDocCheckList
     std::string conditionalDocList;  ///< checklist string of frmDocCheckList1
 

@@ -80,7 +80,6 @@ void saveFullProposal(benchmark::State& state) {
     world.ports.dialogs.answers.emplace_back("/a.xml");
     world.shell.run("mnuSaveAs_Click");
     for (auto _ : state) {
-        world.proposal.secondScrutinyFees.clear();  // it grows with each save
         world.shell.press("mnuSave");
     }
 }
@@ -95,7 +94,6 @@ void saveFullProposalToDisk(benchmark::State& state) {
     machine.shell.run("mnuSaveAs_Click");
     const std::string path = folder.path("a.xml");
     for (auto _ : state) {
-        machine.proposal.secondScrutinyFees.clear();
         machine.shell.press("mnuSave");
         disk.writeWhole(path, machine.ports.files.contents.at("/a.xml"));
     }
