@@ -1,6 +1,5 @@
 #include "document/SectionTables.h"
 
-#include <algorithm>
 #include <array>
 
 #include "base/Date.h"
@@ -27,33 +26,12 @@ void readProject(Form& form, std::string_view code) {
     annexure(form).cboProposProj.setListIndex(ReadComboValues(code, 1));
 }
 
-struct ProposalType {
-    std::string_view text;
-    int position;
-};
-
-constexpr std::array<ProposalType, 10> proposalTypes = {{
-    {"Resi+Comm", 1},
-    {"Residential", 0},
-    {"Industrial", 2},
-    {"Educational", 3},
-    {"Assembly/Public", 4},
-    {"Institutional", 5},
-    {"Merchantile/Commercial", 6},
-    {"Business", 7},
-    {"Utility/services", 8},
-    {"Storage", 9},
-}};
-
 void readProposalType(Form& form, std::string_view text) {
-    const std::string_view type = trim(text);
     // An empty type clears the case type read just before and leaves the type itself.
-    if (type.empty())
+    if (trim(text).empty())
         return annexure(form).cboCaseType.setListIndex(-1);
-    const auto found =
-        std::ranges::find_if(proposalTypes, [&](const ProposalType& t) { return equalsIgnoringCase(t.text, type); });
-    if (found != proposalTypes.end())
-        annexure(form).cboProposalTyp.setListIndex(found->position);
+    if (const int position = plotUsePosition(text); position >= 0)
+        annexure(form).cboProposalTyp.setListIndex(position);
 }
 
 void readSector(Form& form, std::string_view text) {

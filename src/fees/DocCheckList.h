@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "controls/Controls.h"
-#include "fees/StepLinks.h"
+#include "particulars/StepLinks.h"
 #include "proposal/DataForm.h"
 
 namespace plandesk {

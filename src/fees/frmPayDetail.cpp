@@ -16,28 +16,31 @@ namespace {
 
 using Box = TextBox frmPayDetail::*;
 
+/// When a change of the rate works the amount out anew.
+enum class RateCounts { AtOnce, WhenLeft };
+
 struct FeeRow {
     Box area;
     Box rate;
     Box amount;
+    RateCounts rateCounts = RateCounts::AtOnce;
 };
 
-/// The nine fee rows in the order in which the document lists them.
-constexpr std::array feeRows = std::to_array<FeeRow>({
-    {&frmPayDetail::txtArea, &frmPayDetail::txtRate, &frmPayDetail::txtTotal},
+// The fee rows in the order in which the document lists them: those whose values open the first list, and those that
+// make up the second.
+constexpr std::array firstListRows = std::to_array<FeeRow>({
+    {&frmPayDetail::txtArea, &frmPayDetail::txtRate, &frmPayDetail::txtTotal, RateCounts::WhenLeft},
     {&frmPayDetail::txtDevAreaC, &frmPayDetail::txtDevRateC, &frmPayDetail::txtDevAmtC},
     {&frmPayDetail::txtDevAreaI, &frmPayDetail::txtDevRateI, &frmPayDetail::txtDevAmtI},
     {&frmPayDetail::txtScrutinyRArea, &frmPayDetail::txtScrutinyRRate, &frmPayDetail::txtScrutinyRAmount},
     {&frmPayDetail::txtScrutinyCArea, &frmPayDetail::txtScrutinyCRate, &frmPayDetail::txtScrutinyCAmount},
     {&frmPayDetail::txtScrutinyIndArea, &frmPayDetail::txtScrutinyINDRate, &frmPayDetail::txtScrutinyINDAmount},
+});
+constexpr std::array secondListRows = std::to_array<FeeRow>({
     {&frmPayDetail::txtScrutinyRArea2, &frmPayDetail::txtScrutinyRRate2, &frmPayDetail::txtScrutinyRAmount2},
     {&frmPayDetail::txtScrutinyCArea2, &frmPayDetail::txtScrutinyCRate2, &frmPayDetail::txtScrutinyCAmount2},
     {&frmPayDetail::txtScrutinyIndArea2, &frmPayDetail::txtScrutinyINDRate2, &frmPayDetail::txtScrutinyINDAmount2},
 });
-
-/// Rows whose values open the first list; the others make up the second.
-constexpr std::span<const FeeRow> firstListRows(feeRows.data(), 6);
-constexpr std::span<const FeeRow> secondListRows(feeRows.data() + 6, 3);
 
 // The sum is taken in two steps, in this order.
 constexpr std::array<Box, 8> firstSum = {&frmPayDetail::txtCompoundFees,      &frmPayDetail::txtOther,
@@ -53,6 +56,36 @@ void formatMoney(TextBox& box) {
     box.setText(formatAmount(box.text()));
 }
 
+void wireFeeRow(frmPayDetail& form, const FeeRow& row) {
+    TextBox& area = form.*row.area;
+    TextBox& rate = form.*row.rate;
+    TextBox& amount = form.*row.amount;
+    for (TextBox* box : {&area, &rate, &amount}) {
+        box->keyPress = keyFilterDecimal;
+        box->rightAligned = true;
+    }
+    const auto multiply = [&] { checkRateBox(rate, area, amount, true); };
+    area.change = [&] { checkRateBox(area, rate, amount, true); };
+    area.lostFocus = [&] { formatMoney(area); };
+    amount.change = [&form, &amount] {
+        form.calcTotal();
+        formatMoney(amount);
+    };
+    switch (row.rateCounts) {
+    case RateCounts::AtOnce:
+        rate.change = multiply;
+        rate.lostFocus = [&] { formatMoney(rate); };
+        break;
+    case RateCounts::WhenLeft:
+        rate.lostFocus = [&rate, multiply] {
+            formatMoney(rate);
+            multiply();
+        };
+        amount.lostFocus = [&] { formatMoney(amount); };
+        break;
+    }
+}
+
 std::string sumText(const frmPayDetail& form, double start, std::span<const Box> boxes) {
     double sum = start;
     for (const Box box : boxes)
@@ -63,9 +96,11 @@ std::string sumText(const frmPayDetail& form, double start, std::span<const Box>
 }  // namespace
 
 frmPayDetail::frmPayDetail(Proposal& proposal)
-    : DataForm(proposal, formName, "Payment Detail"), links(*this, proposal) {
-    links.lblPayment.click = nullptr;  // one is here already
-    wireFeeRows();
+    : DataForm(proposal, formName, "Payment Detail"), links(*this, proposal, &StepLinks::lblPayment) {
+    for (const FeeRow& row : firstListRows)
+        wireFeeRow(*this, row);
+    for (const FeeRow& row : secondListRows)
+        wireFeeRow(*this, row);
     wireSingleFees();
     wirePayment();
     cmdSave.click = [this] { SaveData(); };
@@ -76,30 +111,6 @@ frmPayDetail::frmPayDetail(Proposal& proposal)
     procedure("SaveData", [this] { SaveData(); });
     procedure("validate", [this] { validate(); });
     procedure("calcTotal", [this] { calcTotal(); });
-}
-
-void frmPayDetail::wireFeeRows() {
-    for (const FeeRow& row : feeRows) {
-        TextBox& area = this->*row.area;
-        TextBox& rate = this->*row.rate;
-        TextBox& amount = this->*row.amount;
-        for (TextBox* box : {&area, &rate, &amount}) {
-            box->keyPress = keyFilterDecimal;
-            box->rightAligned = true;
-        }
-        area.change = [&] { checkRateBox(area, rate, amount, true); };
-        rate.change = [&] { checkRateBox(rate, area, amount, true); };
-        amount.change = [this, &amount] {
-            calcTotal();
-            formatMoney(amount);
-        };
-        area.lostFocus = [&] { formatMoney(area); };
-        rate.lostFocus = [&] { formatMoney(rate); };
-    }
-    // This one rate multiplies only when it is left.
-    txtRate.change = nullptr;
-    txtRate.lostFocus = [this] { txtRate_LostFocus(); };
-    txtTotal.lostFocus = [this] { formatMoney(txtTotal); };
 }
 
 void frmPayDetail::wireSingleFees() {
@@ -139,11 +150,6 @@ void frmPayDetail::showPaymentColors() {
     links.lblAnnexureB.setForeColor(blue);
     links.lblPayment.setForeColor(red);
     txtArea.setText(std::to_string(proposal.feeArea));
-}
-
-void frmPayDetail::txtRate_LostFocus() {
-    formatMoney(txtRate);
-    checkRateBox(txtRate, txtArea, txtTotal, true);
 }
 
 void frmPayDetail::calcTotal() {

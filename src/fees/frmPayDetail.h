@@ -3,7 +3,7 @@
 #include <string_view>
 
 #include "controls/Controls.h"
-#include "fees/StepLinks.h"
+#include "particulars/StepLinks.h"
 #include "proposal/DataForm.h"
 
 namespace plandesk {
@@ -88,10 +88,8 @@ public:
     Button cmdClose{*this, "cmdClose", "Close"};
 
 private:
-    void wireFeeRows();
     void wireSingleFees();
     void wirePayment();
-    void txtRate_LostFocus();
     void cmdPrint_Click();
     bool refuseSpecialCharacter(TextBox& box, std::string_view boxTitle);
     bool refuseEmpty(TextBox& box, std::string_view text);

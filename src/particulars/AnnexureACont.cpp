@@ -41,7 +41,8 @@ constexpr TextBox AnnexureACont::*longTexts[] = {
 
 }  // namespace
 
-AnnexureACont::AnnexureACont(Proposal& proposal) : DataForm(proposal, formName, "Particulars of Development") {
+AnnexureACont::AnnexureACont(Proposal& proposal)
+    : DataForm(proposal, formName, "Particulars of Development"), links(*this, proposal) {
     cmdNavPrev.toolTip = "Previous page";
     cmdNavNext.toolTip = "Next page";
     cmdClose.toolTip = closesProgramTip;
@@ -80,9 +81,6 @@ void AnnexureACont::wireButtons() {
     Command5.click = [this] { proposal.commands.open("rptAnnexture"); };
     Command9.click = [this] { hideParticulars(proposal); };
     cmdClose.click = [this] { closeAllForms(proposal); };
-    lblAnnextureA.click = [this] { showAnnexureFirstPage(proposal); };
-    lblAnnexureB.click = [this] { showSectionFourPage(proposal); };
-    lblPayment.click = [this] { proposal.commands.showPayment(); };
 }
 
 void AnnexureACont::load() {
@@ -96,9 +94,9 @@ void AnnexureACont::paintPageButtons() {
 }
 
 void AnnexureACont::paintLinks() {
-    lblPayment.setForeColor(red);
-    lblAnnexureB.setForeColor(blue);
-    lblAnnextureA.setForeColor(blue);
+    links.lblPayment.setForeColor(red);
+    links.lblAnnexureB.setForeColor(blue);
+    links.lblAnnextureA.setForeColor(blue);
 }
 
 void AnnexureACont::opt21bi_Click() {

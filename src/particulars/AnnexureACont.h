@@ -5,6 +5,7 @@
 
 #include "controls/Controls.h"
 #include "particulars/PageButtons.h"
+#include "particulars/StepLinks.h"
 #include "proposal/DataForm.h"
 
 namespace plandesk {
@@ -36,9 +37,7 @@ public:
     void paintPageButtons();
 
     // Head
-    Label lblAnnextureA{*this, "lblAnnextureA", "Sections I to III"};
-    Label lblAnnexureB{*this, "lblAnnexureB", "Sections IV and V"};
-    Label lblPayment{*this, "lblPayment", "Payment Detail"};
+    StepLinks links;
     Button cmdNavPrev{*this, "cmdNavPrev", "<<"};
     PageButtons cmdFormNo{*this};
     Button cmdNavNext{*this, "cmdNavNext", ">>"};

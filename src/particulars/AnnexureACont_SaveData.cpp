@@ -34,7 +34,7 @@ std::string answers(const YesNo& question, const YesNo& further) {
 }
 
 /// Rooms lit from a chowk: by the answer of Opt22 (no, yes, neither) and that of Opt23 after a yes, of Opt24 after a
-/// no. A yes without a yes of Opt23 lacks one "#": the approval system reads it this way.
+/// no. A yes without a yes of Opt23 lacks one "#".
 constexpr std::string_view chowkAnswers[3][3] = {
     {"0#2#0", "0#2#1", "0#2#2"},
     {"1#01#2", "1#1#2", "1#21#2"},

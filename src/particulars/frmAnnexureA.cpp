@@ -55,20 +55,6 @@ constexpr TextBox frmAnnexureA::*longTexts[] = {
     &frmAnnexureA::txtRmk2,          &frmAnnexureA::txtRmk3,
 };
 
-struct CaseTypeLook {
-    std::string_view caseType;
-    bool numbered;  ///< file and revision number are asked for
-    std::string_view revisionCaption;
-};
-
-constexpr std::array<CaseTypeLook, 5> caseTypeLooks = {{
-    {"New", false, ""},
-    {"Change of use", false, ""},
-    {"Revised", true, "Revision No."},
-    {"Resubmitted", true, "Resubmittion No."},
-    {"Revalidation", true, "Revalidation No."},
-}};
-
 }  // namespace
 
 frmAnnexureA::frmAnnexureA(Proposal& proposal) : DataForm(proposal, formName, "Particulars of Development") {
@@ -135,8 +121,9 @@ void frmAnnexureA::load() {
 
 void frmAnnexureA::setComboValues() {
     cboCaseType.clear();
-    cboCaseType.addItem("New");
-    cboCaseType.addItem("Revised");
+    for (const CaseType& type : caseTypes)
+        if (type.offered)
+            cboCaseType.addItem(type.text);
     cboProposProj.clear();
     for (const CodedText& project : projects)
         cboProposProj.addItem(project.text);
@@ -153,12 +140,13 @@ void frmAnnexureA::setComboValues() {
 }
 
 void frmAnnexureA::cboCaseType_Click() {
-    const auto look = std::ranges::find(caseTypeLooks, trim(cboCaseType.text()), &CaseTypeLook::caseType);
-    if (look == caseTypeLooks.end())
+    const auto type = std::ranges::find(caseTypes, trim(cboCaseType.text()), &CaseType::text);
+    if (type == caseTypes.end())
         return;
-    showFileAndRevision(look->numbered);
-    if (look->numbered)
-        lblRevNo.setCaption(look->revisionCaption);
+    const bool numbered = !type->revisionCaption.empty();
+    showFileAndRevision(numbered);
+    if (numbered)
+        lblRevNo.setCaption(type->revisionCaption);
 }
 
 void frmAnnexureA::showFileAndRevision(bool on) {

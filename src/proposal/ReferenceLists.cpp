@@ -17,19 +17,6 @@ constexpr std::array<CodedText, 5> olderProjects = {{
     {"DEVELOPMENT", "Development"},
 }};
 
-struct Position {
-    std::string_view code;
-    int position;
-};
-
-constexpr std::array<Position, 5> caseTypePositions = {{
-    {"NEW", 0},
-    {"CHG", 1},
-    {"REV", 1},  // shares the place of CHG: the list holds two items only
-    {"RES", 3},
-    {"RVA", 4},
-}};
-
 /// Code of the first row whose text is this one, in any case and without the blanks around the row's; else empty.
 std::string_view codeOf(std::span<const CodedText> rows, std::string_view text) {
     const auto row = std::ranges::find_if(
@@ -54,7 +41,7 @@ std::string_view zoneCaption(std::string_view code) {
 }
 
 std::string_view caseTypeCode(std::string_view text) {
-    const auto type = std::ranges::find(caseTypes, trim(text), &CodedText::text);
+    const auto type = std::ranges::find(caseTypes, trim(text), &CaseType::text);
     return type == caseTypes.end() ? "NEW" : type->code;
 }
 
@@ -63,14 +50,20 @@ std::string projectCode(std::string_view text) {
     return std::string(project == projects.end() ? text : project->code);
 }
 
+int plotUsePosition(std::string_view text) {
+    const auto use = std::ranges::find_if(
+        plotUses, [text](std::string_view known) { return equalsIgnoringCase(trim(known), trim(text)); });
+    return use == plotUses.end() ? -1 : static_cast<int>(use - plotUses.begin());
+}
+
 std::string_view GetProposedProj(std::string_view text) {
     return codeOf(olderProjects, text);
 }
 
 int ReadComboValues(std::string_view code, int kind) {
     if (kind == 0) {
-        const auto type = std::ranges::find(caseTypePositions, code, &Position::code);
-        return type == caseTypePositions.end() ? 0 : type->position;
+        const auto type = std::ranges::find(caseTypes, code, &CaseType::code);
+        return type == caseTypes.end() ? 0 : type->readPosition;
     }
     const auto project = std::ranges::find(projects, code, &CodedText::code);
     return kind != 1 || project == projects.end() ? 0 : static_cast<int>(project - projects.begin());

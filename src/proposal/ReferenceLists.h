@@ -34,17 +34,25 @@ inline constexpr std::array<CodedText, 8> zones = {{
     {"G1(Not Hills)", "G1"},
     {"G2(Green belt)", "G2"},
     {"I(Industrial)", "I"},
-    {"I1(Service Industrial Zone)", "G3"},  // the approval system files service industry among the G zones
+    {"I1(Service Industrial Zone)", "G3"},  // a code of the G zones, not an industrial one
 }};
 
-/// Case types. The list offers the first and the third only.
-inline constexpr std::array<CodedText, 5> caseTypes = {{
-    {"New", "NEW"},
-    {"Change of use", "CHG"},
-    {"Revised", "REV"},
-    {"Resubmitted", "RES"},
-    {"Revalidation", "RVA"},
-}};
+struct CaseType {
+    std::string_view text;
+    std::string_view code;
+    bool offered;      ///< in the list
+    int readPosition;  ///< position in the list that the code is read back to, also where the list has none
+    std::string_view
+        revisionCaption{};  ///< of the revision number; empty: neither file nor revision number is asked for
+};
+
+inline constexpr std::array caseTypes = std::to_array<CaseType>({
+    {"New", "NEW", true, 0},
+    {"Change of use", "CHG", false, 1},  // the position of "Revised"
+    {"Revised", "REV", true, 1, "Revision No."},
+    {"Resubmitted", "RES", false, 3, "Resubmittion No."},
+    {"Revalidation", "RVA", false, 4, "Revalidation No."},
+});
 
 /// Proposed projects in the order of their list.
 inline constexpr std::array<CodedText, 9> projects = {{
@@ -84,6 +92,8 @@ std::string_view caseTypeCode(std::string_view text);
 
 /// Code of the proposed project; an unknown text is its own code.
 std::string projectCode(std::string_view text);
+/// Position in its list of a major use, in any case and without the blanks around it; -1 for an unknown one.
+int plotUsePosition(std::string_view text);
 /// The older mapping from a project, in any case, to its code; empty for an unknown one.
 std::string_view GetProposedProj(std::string_view text);
 

@@ -26,6 +26,7 @@ protected:
                 form->show();
         };
         proposal.commands.saveProposal = [this] { ++savedProposals; };
+        proposal.commands.showPayment = [this] { showPayment(proposal); };
     }
 
     frmPayDetail& fees() { return proposal.forms.get<frmPayDetail>(); }

@@ -275,26 +275,26 @@ TEST_F(ParticularsPagesTest, TheLinksLeadToTheSectionsAndThePayment) {
     second().show();
     second().SectFourDet.setTab(3);
     first().goToTab(2);
-    user::click(second().lblAnnextureA);
+    user::click(second().links.lblAnnextureA);
     EXPECT_TRUE(first().front());
     EXPECT_EQ(first().PropTab.tab(), 0);
     EXPECT_FALSE(first().cmdPrevious.enabled());
     EXPECT_TRUE(first().cmdNext.enabled());
     second().show();
-    user::click(second().lblAnnexureB);
+    user::click(second().links.lblAnnexureB);
     EXPECT_TRUE(second().front());
     EXPECT_EQ(second().SectFourDet.tab(), 0);
-    user::click(second().lblPayment);
+    user::click(second().links.lblPayment);
     EXPECT_EQ(opened, std::vector<std::string>{"payment"});
 }
 
 TEST_F(ParticularsPagesTest, SectionFourPaintsItsLinks) {
-    for (Label* link : {&second().lblPayment, &second().lblAnnexureB, &second().lblAnnextureA})
+    for (Label* link : {&second().links.lblPayment, &second().links.lblAnnexureB, &second().links.lblAnnextureA})
         link->setForeColor(black);
     showSectionFourPage(proposal);
-    EXPECT_EQ(second().lblPayment.foreColor().text(), "FF0000");
-    EXPECT_EQ(second().lblAnnexureB.foreColor().text(), "0000FF");
-    EXPECT_EQ(second().lblAnnextureA.foreColor().text(), "0000FF");
+    EXPECT_EQ(second().links.lblPayment.foreColor().text(), "FF0000");
+    EXPECT_EQ(second().links.lblAnnexureB.foreColor().text(), "0000FF");
+    EXPECT_EQ(second().links.lblAnnextureA.foreColor().text(), "0000FF");
     EXPECT_TRUE(second().front());
 }
 

@@ -137,6 +137,14 @@ TEST(ReferenceLists, AStoredProjectCodeHasAListPosition) {
     EXPECT_EQ(ReadComboValues("SD", 2), 0);
 }
 
+TEST(ReferenceLists, AMajorUseIsFoundInAnyCaseAndWithoutItsBlanks) {
+    for (std::size_t i = 0; i < plotUses.size(); ++i)
+        EXPECT_EQ(plotUsePosition(plotUses[i]), static_cast<int>(i));
+    EXPECT_EQ(plotUsePosition(" RESI+comm"), 1);
+    EXPECT_EQ(plotUsePosition("Resi"), -1);
+    EXPECT_EQ(plotUsePosition(""), -1);
+}
+
 TEST(ReferenceLists, TheListTextsKeepTheirTrailingBlanks) {
     const std::vector<std::string_view> uses(plotUses.begin(), plotUses.end());
     EXPECT_EQ(uses, (std::vector<std::string_view>{"Residential", "Resi+Comm ", "Industrial", "Educational ",
