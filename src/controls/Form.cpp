@@ -98,15 +98,23 @@ Control* Form::findKey(std::string_view key) const {
     return sound ? find(key.substr(0, bracket), index) : nullptr;
 }
 
+void Form::appendNamed(std::vector<Control*>& order, std::string_view keys) const {
+    for (const std::string& key : split(keys, " "))
+        if (Control* control = findKey(key))
+            order.push_back(control);
+}
+
 std::vector<Control*> Form::tabOrder() const {
     std::vector<Control*> order;
-    const auto take = [&](std::string_view names) {
-        for (const std::string& key : split(names, " "))
-            if (Control* control = findKey(key))
-                order.push_back(control);
-    };
+    appendNamed(order, layout().head);
+    const std::vector<Control*> behind = tabOrderBehindHead();
+    order.insert(order.end(), behind.begin(), behind.end());
+    return order;
+}
+
+std::vector<Control*> Form::tabOrderBehindHead() const {
+    std::vector<Control*> order;
     const Layout& sheet = layout();
-    take(sheet.head);
     const auto* strip = dynamic_cast<const TabStrip*>(findKey(sheet.tabs));
     for (std::size_t page = 0; page < sheet.pages.size(); ++page) {
         if (strip && static_cast<int>(page) != strip->tab())
@@ -116,10 +124,10 @@ std::vector<Control*> Form::tabOrder() const {
             if (frame && !frame->visible())
                 continue;
             for (const LayoutRow& row : group.rows)
-                take(row.controls);
+                appendNamed(order, row.controls);
         }
     }
-    take(sheet.buttons);
+    appendNamed(order, sheet.buttons);
     return order;
 }
 

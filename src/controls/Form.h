@@ -86,6 +86,8 @@ public:
 
     /// The controls that Tab walks on the page now shown, in screen order, able to take the focus or not.
     std::vector<Control*> tabOrder() const;
+    /// The same without the row above the pages: the page now shown, then the row below.
+    std::vector<Control*> tabOrderBehindHead() const;
     /// The control that has, or last had, the focus on this form; null before the first.
     Control* activeControl() const { return active; }
 
@@ -102,6 +104,8 @@ protected:
 private:
     friend class Control;
     friend class Screen;
+
+    void appendNamed(std::vector<Control*>& order, std::string_view keys) const;
 
     Screen& desk;
     std::string formName;

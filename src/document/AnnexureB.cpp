@@ -2,11 +2,14 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
+#include "base/Text.h"
 #include "document/Answers.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/Element.h"
+#include "proposal/InPlace.h"
 #include "proposal/Proposal.h"
 #include "proposal/mdlProject.h"
 
@@ -84,6 +87,19 @@ constexpr std::array<Row, 56> rows = {{
     {"SectionRemark4", Sheet::Second, ValueForm::Text},
 }};
 
+struct Part {
+    Sheet sheet;
+    std::string_view control;
+};
+
+constexpr auto streetsAndTreesParts = inPlace<StreetsAndTrees, Part>({
+    {StreetsAndTrees::Abutting, {Sheet::First, "Opt77"}},
+    {StreetsAndTrees::StreetWidth, {Sheet::First, "txtFstStreetWidth"}},
+    {StreetsAndTrees::ExistingWidth, {Sheet::First, "txtFstExistingWidth"}},
+    {StreetsAndTrees::Trees, {Sheet::Second, "txtHowManyTrees"}},
+    {StreetsAndTrees::TreesAffected, {Sheet::Second, "txtNoOfTreesAffected"}},
+});
+
 std::string value(const Form& form, const Row& row) {
     if (row.form == ValueForm::YesNo)
         return answer(form, row.element);
@@ -99,10 +115,10 @@ void buildAnnexureB(Proposal& proposal) {
     std::string block = "<ANNEXUREB>";
     for (const Row& row : rows)
         appendElement(block, row.element, value(row.sheet == Sheet::First ? first : second, row));
-    appendElement(block, "Section9a3536",
-                  answer(first, "Opt77") + "#" + answer(first, "txtFstStreetWidth") + "#" +
-                      answer(first, "txtFstExistingWidth") + "#" + answer(second, "txtHowManyTrees") + "#" +
-                      answer(second, "txtNoOfTreesAffected"));
+    std::vector<std::string> parts;
+    for (const Part& part : streetsAndTreesParts)
+        parts.push_back(answer(part.sheet == Sheet::First ? first : second, part.control));
+    appendElement(block, streetsAndTrees, join(parts, "#"));
     proposal.annexureBXML = block + "</ANNEXUREB>";
 }
 

@@ -8,9 +8,12 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Controls.h"
+#include "document/AnnexureB.h"
 #include "document/Answers.h"
 #include "document/Pieces.h"
 #include "document/SectionTables.h"
+#include "fees/frmDocCheckList.h"
+#include "fees/frmDocCheckList1.h"
 #include "fees/frmPayDetail.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
@@ -25,6 +28,24 @@ constexpr std::size_t feesGroup = 6;
 
 constexpr std::size_t readGroups = 7;  // what lies behind is read by name or by other procedures
 constexpr std::size_t mostFields = 35;
+
+/// The rows of a checklist that the document's list fills, each from the entry of its own number.
+struct ChecklistRows {
+    DocCheckList& (*form)(Proposal& proposal);
+    int first;
+    int last;
+};
+
+constexpr ChecklistRows checklists[] = {
+    {[](Proposal& proposal) -> DocCheckList& { return proposal.forms.get<frmDocCheckList>(); }, 0, 8},
+    // The writer lists the rows of this form from 0 behind those of the other.
+    {[](Proposal& proposal) -> DocCheckList& { return proposal.forms.get<frmDocCheckList1>(); }, 9, 13},
+};
+
+/// The parts of one entry of the checklists.
+struct EntryPart {
+    enum : int { Enclosed, From, To };
+};
 
 /// The fields of a group; none when there is no such group.
 Pieces fieldsOf(const Pieces& groups, std::size_t number) {
@@ -149,37 +170,33 @@ void ReadXML::readChecklists(const Pieces& groups) {
             throw RuntimeError(ErrorNumber::InvalidProcedureCall);
         entries.remove_suffix(1);
     });
-    readChecklist("frmDocCheckList", 0, 8, entries);
-    // The conditional form's controls keep the numbers of the whole list.
-    readChecklist("frmDocCheckList1", 9, 13, entries);
+    for (const ChecklistRows& rows : checklists)
+        readChecklist(rows.form(proposal), rows.first, rows.last, entries);
 }
 
-void ReadXML::readChecklist(std::string_view form, int first, int last, std::string_view entries) {
-    Form& sheet = *proposal.forms.touch(form);
-    const auto page = [&sheet](int number) { return dynamic_cast<TextBox*>(sheet.find("txtDocPageNo", number)); };
-    for (int i = first; i <= last; ++i) {
+void ReadXML::readChecklist(DocCheckList& form, int first, int last, std::string_view entries) {
+    for (int number = first; number <= last; ++number) {
         std::optional<std::string_view> entry;
-        statement([&] { entry = piece(entries, "#", static_cast<std::size_t>(i)); });
-        auto* check = dynamic_cast<CheckBox*>(sheet.find("Check1", i));
-        statement([&] { check->setValue(0); });
-        statement([&] { page(2 * i)->setText(""); });
-        statement([&] { page(2 * i + 1)->setText(""); });
+        statement([&] { entry = piece(entries, "#", static_cast<std::size_t>(number)); });
+        DocumentRow& row = form.rows.at(static_cast<std::size_t>(number));
+        statement([&] { row.enclosed.setValue(0); });
+        statement([&] { row.pageFrom.setText(""); });
+        statement([&] { row.pageTo.setText(""); });
         if (!entry)
             continue;
         statement([&] {
-            if (toDouble(piece(*entry, "-", 0)) == 1)
-                check->setValue(1);
+            if (toDouble(piece(*entry, "-", EntryPart::Enclosed)) == 1)
+                row.enclosed.setValue(1);
         });
-        statement([&] {
-            if (const std::string_view from = piece(*entry, "-", 1); toDouble(from) != 0)
-                page(2 * i)->setText(from);
-        });
-        if (std::ranges::count(*entry, '-') < 2)
-            continue;
-        statement([&] {
-            if (const std::string_view to = piece(*entry, "-", 2); toDouble(to) != 0)
-                page(2 * i + 1)->setText(to);
-        });
+        const auto readPage = [&](std::size_t part, TextBox& page) {
+            statement([&] {
+                if (const std::string_view number = piece(*entry, "-", part); toDouble(number) != 0)
+                    page.setText(number);
+            });
+        };
+        readPage(EntryPart::From, row.pageFrom);
+        if (std::ranges::count(*entry, '-') >= EntryPart::To)  // no page to is no failure
+            readPage(EntryPart::To, row.pageTo);
     }
 }
 
@@ -237,7 +254,7 @@ void ReadXML::readAnnexureB() {
 void ReadXML::readNamed(XmlDocument::Node element, std::span<const Named> controls) {
     const std::string_view name = proposalDom.name(element);
     const std::string_view text = proposalDom.text(element);
-    if (name == "Section9a3536")
+    if (name == streetsAndTrees)
         readStreetsAndTrees(text);
     for (const Named& named : controls) {
         if (named.element.size() != name.size() || !equalsIgnoringCase(named.element, name))
@@ -256,19 +273,20 @@ void ReadXML::readNamed(XmlDocument::Node element, std::span<const Named> contro
 void ReadXML::readStreetsAndTrees(std::string_view text) {
     auto& first = proposal.forms.get<frmAnnexureA>();
     auto& second = proposal.forms.get<AnnexureACont>();
+    const auto read = [&](std::size_t part, TextBox& box) { statement([&] { box.setText(piece(text, "#", part)); }); };
     double abutting = 2;
-    statement([&] { abutting = toDouble(piece(text, "#", 0)); });
+    statement([&] { abutting = toDouble(piece(text, "#", StreetsAndTrees::Abutting)); });
     if (abutting == 1) {
         statement([&] { first.Opt77.yes.setValue(true); });
         statement([&] { first.Opt77.no.setValue(false); });
-        statement([&] { first.txtFstExistingWidth.setText(piece(text, "#", 2)); });
-        statement([&] { first.txtFstStreetWidth.setText(piece(text, "#", 1)); });
+        read(StreetsAndTrees::ExistingWidth, first.txtFstExistingWidth);
+        read(StreetsAndTrees::StreetWidth, first.txtFstStreetWidth);
     } else if (abutting == 0) {
         statement([&] { first.Opt77.no.setValue(true); });
         statement([&] { first.Opt77.yes.setValue(false); });
     }
-    statement([&] { second.txtHowManyTrees.setText(piece(text, "#", 3)); });
-    statement([&] { second.txtNoOfTreesAffected.setText(piece(text, "#", 4)); });
+    read(StreetsAndTrees::Trees, second.txtHowManyTrees);
+    read(StreetsAndTrees::TreesAffected, second.txtNoOfTreesAffected);
 }
 
 void ReadXML::requireRoot() const {

@@ -12,6 +12,7 @@
 namespace plandesk {
 
 class Control;
+class DocCheckList;
 class OptionButton;
 class Proposal;
 class RuntimeError;
@@ -61,7 +62,7 @@ private:
     /// In the order of the forms and of their controls.
     std::vector<Named> namedControls();
     void readChecklists(const Pieces& groups);
-    void readChecklist(std::string_view form, int first, int last, std::string_view entries);
+    void readChecklist(DocCheckList& form, int first, int last, std::string_view entries);
     void readFees(const Pieces& fields);
     void readAnnexureB();
     void readNamed(XmlDocument::Node element, std::span<const Named> controls);

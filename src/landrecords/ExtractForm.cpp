@@ -286,20 +286,17 @@ void ExtractForm::toggleSign() {
 }
 
 void ExtractForm::cmdSave_Click() {
-    if (family.is712) {
-        if (leadingNumber(txtNoOfExtranct.text()) == 0)
-            return;
+    if (kind.savesWithCountOnly && leadingNumber(txtNoOfExtranct.text()) == 0)
+        return;
+    if (kind.saveUnbindsOwners)
         dgdOwner.bind(nullptr);  // until an extract is chosen again
-        proposal.commands.buildExtractBlock();
-    } else {
+    if (kind.saveMakesPRCsTheSubject)
         proposal.is712Current = false;
-        proposal.commands.buildPRCBlock();
-    }
+    (proposal.commands.*kind.buildBlock)();
     buildOwnership(proposal);
     proposal.tables.rsOwnership712 = proposal.tables.rsOwnership;
-    if (!family.is712)
-        for (Grid* grid : {&dgdInfoOfExtract, &dgdOwner, &dgdPAH})
-            grid->refresh();
+    for (Grid* grid : {&dgdInfoOfExtract, &dgdOwner, &dgdPAH})
+        grid->refresh();
     hide();
 }
 

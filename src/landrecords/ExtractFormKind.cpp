@@ -73,6 +73,10 @@ constexpr ExtractFormKind form712 = {
     .saveCaption = "Save 7/12 Scrutiny Data",
     .resetCaption = "Reset 7/12 Information ",
     .droppedByReset = dropped712,
+    .buildBlock = &Commands::buildExtractBlock,
+    .savesWithCountOnly = true,
+    .saveUnbindsOwners = true,
+    .saveMakesPRCsTheSubject = false,
 };
 
 constexpr ExtractFormKind formPRC = {
@@ -83,6 +87,10 @@ constexpr ExtractFormKind formPRC = {
     .saveCaption = "Save PRC Scrutiny Information",
     .resetCaption = "Reset",
     .droppedByReset = droppedPRC,
+    .buildBlock = &Commands::buildPRCBlock,
+    .savesWithCountOnly = false,
+    .saveUnbindsOwners = false,
+    .saveMakesPRCsTheSubject = true,
 };
 
 constexpr ExtractWording wording712 = {

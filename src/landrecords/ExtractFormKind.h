@@ -3,6 +3,7 @@
 #include <span>
 #include <string_view>
 
+#include "proposal/Commands.h"
 #include "proposal/ExtractFamily.h"
 #include "proposal/Grid.h"
 
@@ -17,6 +18,10 @@ struct ExtractFormKind {
     std::string_view saveCaption;
     std::string_view resetCaption;
     std::span<const Tables::Member> droppedByReset;
+    Commands::Action Commands::*buildBlock;
+    bool savesWithCountOnly;       ///< without a count of extracts a save does nothing
+    bool saveUnbindsOwners;        ///< the owners' grid is empty after a save until an extract is chosen
+    bool saveMakesPRCsTheSubject;  ///< `is712Current` is cleared before the block is built
 };
 
 extern const ExtractFormKind form712;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "base/Text.h"
 #include "controls/Form.h"
 #include "proposal/Proposal.h"
 
@@ -32,10 +31,8 @@ void PageButtons::paint(const Proposal& proposal, int current) {
 }
 
 void focusFirstOfPage(const Form& form) {
-    const std::vector<Control*> order = form.tabOrder();
-    const auto head = static_cast<std::ptrdiff_t>(split(form.layout().head, " ").size());
-    const auto first =
-        std::find_if(order.begin() + head, order.end(), [](const Control* control) { return control->takesFocus(); });
+    const std::vector<Control*> order = form.tabOrderBehindHead();
+    const auto first = std::ranges::find_if(order, &Control::takesFocus);
     if (first != order.end())
         (*first)->setFocus();
 }
