@@ -26,7 +26,7 @@ enum class ErrorNumber {
 };
 
 /// A run-time error of the platform: a number and the customary description that the user reads.
-/// One that nobody handles ends the running event and is shown to the user in one box.
+/// One that nobody handles ends the running event and is shown to the user in one message.
 class RuntimeError : public std::exception {
 public:
     explicit RuntimeError(ErrorNumber number);

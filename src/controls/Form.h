@@ -52,8 +52,8 @@ public:
     virtual void enterPressed() {}
     /// F2, F3, Esc with the focus anywhere on the form; `key` is the name that the driver uses.
     virtual void functionKey(std::string_view /*key*/) {}
-    /// The close box: hides, so that the form keeps its values.
-    virtual void closeBox() { hide(); }
+    /// The close button of its frame: hides, so that the form keeps its values.
+    virtual void pressClose() { hide(); }
 
     const std::string& name() const { return formName; }
     const std::string& caption() const { return title; }

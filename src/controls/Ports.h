@@ -14,7 +14,7 @@ namespace plandesk {
 enum class Icon { None, Information, Question, Critical };
 
 struct Message {
-    std::string title;  ///< empty: the box has no title of its own, a window shows the program's name
+    std::string title;  ///< empty: the message has no title of its own, a window shows the program's name
     std::string text;
     Icon icon = Icon::None;
 
@@ -32,9 +32,9 @@ struct FileDialog {
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
-    /// Shows a box with an OK button and returns when it was closed.
+    /// Shows a message with an OK button and returns when it was closed.
     virtual void showMessage(const Message& message) = 0;
-    /// Shows a box with Yes and No; true for Yes.
+    /// Shows a question with Yes and No; true for Yes.
     virtual bool askYesNo(const Message& question) = 0;
     /// The chosen path, or what `dialog.fileName` held when the user cancelled.
     virtual std::string openFile(const FileDialog& dialog) = 0;

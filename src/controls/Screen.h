@@ -33,10 +33,10 @@ public:
     Ports ports;
     ScreenObserver* observer = nullptr;  ///< may be null
 
-    /// Shows a box through the dialogs.
+    /// Shows a message through the dialogs.
     void message(std::string_view text, std::string_view title, Icon icon = Icon::Information);
 
-    /// Runs one event of the user. An error that nobody handled ends the event and is shown in one box with its
+    /// Runs one event of the user. An error that nobody handled ends the event and is shown in one message with its
     /// description; the program goes on. Events may run inside each other.
     void event(const std::function<void()>& reaction);
 

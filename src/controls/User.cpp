@@ -204,7 +204,7 @@ bool focus(Control& control) {
 bool close(Form& form) {
     const bool there = form.visible() && inReach(form);
     if (there)
-        form.screen().event([&] { form.closeBox(); });
+        form.screen().event([&] { form.pressClose(); });
     return there;
 }
 

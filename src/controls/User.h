@@ -5,7 +5,7 @@
 #include "base/Date.h"
 
 // The user's hands: what a key or a click does to a control, with the focus rules and key filters. The window and the
-// script driver both work through these; each call is one event, whose unhandled error ends in one message box.
+// script driver both work through these; each call is one event, whose unhandled error ends in one message.
 // The result is false when the control is not there for the user: hidden, disabled, locked, or on a form that a modal
 // one keeps out of reach. Nothing happens then.
 
@@ -41,7 +41,7 @@ bool pressForm(Form& form, std::string_view key);
 
 /// Clicks a button, option, check box, label, image or frame.
 bool click(Control& control);
-/// RuntimeError 380 as a box for a position that the list does not have.
+/// RuntimeError 380 as a message for a position that the list does not have.
 bool pick(ComboBox& list, int position);
 bool pickDate(DatePicker& picker, Date date);
 bool showTab(TabStrip& strip, int tab);
@@ -50,7 +50,7 @@ bool leave(Control& control);
 /// Moves the focus to the control; false also when a leave check held it elsewhere.
 bool focus(Control& control);
 
-/// Presses the close box of the form; false also for one that is not shown.
+/// Presses the close button of the form; false also for one that is not shown.
 bool close(Form& form);
 /// Clicks the form where nothing stands, which brings it to the front.
 bool bringToFront(Form& form);

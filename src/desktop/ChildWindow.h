@@ -13,7 +13,7 @@ namespace plandesk::desktop {
 class FormView;
 class ScreenView;
 
-/// A form in its frame inside the main window: caption, close box, contents.
+/// A form in its frame inside the main window: caption, close button, contents.
 class ChildWindow : public QFrame {
 public:
     ChildWindow(Form& form, ScreenView& screen, QWidget& desk);

@@ -165,7 +165,7 @@ void MainWindow::fitScreen() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (!proposal.screen.ended())
-        screenView.act(Qt::OtherFocusReason, [this] { shell.closeBox(); });
+        screenView.act(Qt::OtherFocusReason, [this] { shell.pressClose(); });
     event->setAccepted(proposal.screen.ended());
 }
 

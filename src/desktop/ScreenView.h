@@ -16,7 +16,7 @@ class ChildWindow;
 class FormView;
 
 /// The forms of a screen as child windows of one widget. It hears of every change in the system and shows all of them
-/// together when the event that made them has ended, or when a message box opens within it.
+/// together when the event that made them has ended, or when a message opens within it.
 class ScreenView : public QObject, private ScreenObserver {
 public:
     /// `desk` is the room inside the main window; both outlive this.
@@ -24,7 +24,7 @@ public:
     ~ScreenView() override;
 
     /// Runs one act of the user on the system, then shows what came of it. Does nothing while another act is under way,
-    /// which is so as long as a message box or file dialog of it is open. `reason`: how the focus moves, if it does.
+    /// which is so as long as a message or file dialog of it is open. `reason`: how the focus moves, if it does.
     void act(Qt::FocusReason reason, const std::function<void()>& what);
     /// Shows all that changed since the last time.
     void refresh();

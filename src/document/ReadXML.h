@@ -19,7 +19,7 @@ class RuntimeError;
 
 /// Turns a proposal document back into filled forms. Sections are read by position, never by element name, and setting
 /// a control runs its reactions, so the order of the tables decides what survives. Nothing is validated: each statement
-/// that fails shows its own box, and reading goes on.
+/// that fails shows its own message, and reading goes on.
 class ReadXML {
 public:
     explicit ReadXML(Proposal& proposal) : proposal(proposal) {}
@@ -36,7 +36,7 @@ public:
     /// here and leaves a document without a root.
     void LoadDocument(const std::string& path);
 
-    /// Reads the sections, checklists and fees by position and ANNEXUREB by name. One critical box for each failing
+    /// Reads the sections, checklists and fees by position and ANNEXUREB by name. One critical message for each failing
     /// statement: the error's number, " : " and its description.
     void readSections();
 

@@ -165,7 +165,7 @@ bool waitsTooLong(const xmlParserCtxt& parser) {
 }
 
 bool parse(int file, XmlBuilder& builder) {
-    // The parser would tell of broken encodings on the program's error output; the boxes of the reader tell of them.
+    // The parser would tell of broken encodings on the program's error output; the messages of the reader tell of them.
     xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
     xmlSAXHandler sax = handlers();
     const std::unique_ptr<xmlParserCtxt, FreeParser> parser(

@@ -43,8 +43,8 @@ public:
     void load() override;
     const Layout& layout() const override;
 
-    /// Leaves the checklist string, hides the form and shows frmAnnexureA. A row that cannot stand is told in a box;
-    /// the string is then empty and this form is in front.
+    /// Leaves the checklist string, hides the form and shows frmAnnexureA. A row that cannot stand is told in a
+    /// message; the string is then empty and this form is in front.
     void cmdSave_Click();
     /// Opens the form behind icon 0 to 3. The first two ask for extracts that are related to plots.
     void Image1_Click(int index);

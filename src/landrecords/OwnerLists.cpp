@@ -35,14 +35,14 @@ OwnerLists::OwnerLists(Grid& owners, ComboBox& status, ComboBox& encumbrance, Co
     addItems(encumbrance, encumbrances);
     addItems(type, types);
     for (List& list : lists) {
-        list.box.click = [this, &list] { list.opened = list.opened || !placing; };
-        list.box.lostFocus = [this, &list] { leave(list); };
+        list.choices.click = [this, &list] { list.opened = list.opened || !placing; };
+        list.choices.lostFocus = [this, &list] { leave(list); };
     }
 }
 
 void OwnerLists::setVisible(bool on) {
     for (const List& list : lists)
-        list.box.setVisible(on);
+        list.choices.setVisible(on);
 }
 
 void OwnerLists::open(int column) {
@@ -51,13 +51,13 @@ void OwnerLists::open(int column) {
         return;
     place(*list);
     list->opened = true;
-    list->box.setFocus();
+    list->choices.setFocus();
 }
 
 void OwnerLists::cellChanged(bool placeOwn) {
     for (const List& list : lists) {
         if (list.column != owners.currentColumn())
-            list.box.setVisible(false);
+            list.choices.setVisible(false);
         else if (placeOwn && list.follows)
             place(list);
     }
@@ -69,26 +69,26 @@ void OwnerLists::place(const List& list) {
     placing = true;
     const std::string text = owners.cellText(owners.currentRow(), list.column);
     const bool anyCase = list.column == OwnerColumn::Encumbrances;  // what was read from a document is in upper case
-    for (int item = 0; item < list.box.listCount(); ++item) {
-        const std::string_view known = trim(list.box.item(item));
+    for (int item = 0; item < list.choices.listCount(); ++item) {
+        const std::string_view known = trim(list.choices.item(item));
         if (anyCase ? equalsIgnoringCase(known, trim(text)) : known == trim(text)) {
-            list.box.setListIndex(item);
+            list.choices.setListIndex(item);
             break;
         }
     }
-    owners.place(list.box, list.column);
+    owners.place(list.choices, list.column);
     placing = false;
 }
 
 void OwnerLists::leave(List& list) {
-    if (!std::exchange(list.opened, false) || list.box.listIndex() < 0)
+    if (!std::exchange(list.opened, false) || list.choices.listIndex() < 0)
         return;
     // The owner type alone is written without a look whether there is a row for it.
     if (list.column != OwnerColumn::OwnerType && owners.currentRow() < 0)
         return;
     if (!owners.table())
         throw RuntimeError(ErrorNumber::ObjectNotSet);
-    owners.table()->set(list.column, std::string(trim(list.box.text())));
+    owners.table()->set(list.column, std::string(trim(list.choices.text())));
     owners.table()->update();
     owners.refresh();
 }

@@ -28,7 +28,7 @@ public:
 
 private:
     struct List {
-        ComboBox& box;
+        ComboBox& choices;
         int column;
         bool follows;
         bool opened = false;  ///< by the user, so that leaving it writes to the cell

@@ -42,8 +42,8 @@ public:
     void SaveData();
     /// True always: the document writer asks it, and nothing beyond the first page is checked.
     bool validate() const { return true; }
-    /// Whether the first page is complete. The first of the fifteen tests that fails is told in a box; its field gets
-    /// the focus, on the first tab.
+    /// Whether the first page is complete. The first of the fifteen tests that fails is told in a message; its field
+    /// gets the focus, on the first tab.
     bool validateAnnexureFirstPage();
     /// Fills the lists of case types, projects and villages. RuntimeError 53 without a village file, 9 for a line of it
     /// with too few fields, 13 for a village number that is none.

@@ -21,13 +21,13 @@ void frmAnnexureA::Opt2Y_Click() {
     const bool actualIsLess = toDouble(txtActualArea.text()) < toDouble(txtPltArea.text());
     txtAreaAllowed.setText(actualIsLess ? txtActualArea.text() : txtPltArea.text());
     proposal.feeArea = toInteger16(txtAreaAllowed.text());
-    plandesk::closeBox(txtAreaAllowed);
+    closeBox(txtAreaAllowed);
 }
 
 void frmAnnexureA::Opt2N_Click() {
     txtAreaAllowed.setText("");
     proposal.feeArea = 0;
-    plandesk::closeBox(txtAreaAllowed);
+    closeBox(txtAreaAllowed);
 }
 
 bool frmAnnexureA::refuseLetters(TextBox& area) {

@@ -45,7 +45,7 @@ bool isEmpty(const Control& control) {
     return trim(dynamic_cast<const TextBox&>(control).text()).empty();
 }
 
-/// Whether the test passes. A failure is told in a box and gives its field the focus, on the first tab.
+/// Whether the test passes. A failure is told in a message and gives its field the focus, on the first tab.
 bool passes(const FirstPageTest& test, frmAnnexureA& form) {
     Control& field = *form.find(test.field);
     if (!isEmpty(field) || (!test.other.empty() && !isEmpty(*form.find(test.other))))

@@ -11,7 +11,7 @@ Form* Forms::touch(std::string_view name) {
     if (maker == makers.end())
         return nullptr;
     Form& form = *(live[maker->first] = maker->second(proposal));
-    // A load reaction is an event of its own: what fails in it is told in its box, and the form stands as far as it
+    // A load reaction is an event of its own: what fails in it is told in its message, and the form stands as far as it
     // came.
     proposal.screen.event([&form] { form.load(); });
     return &form;

@@ -26,15 +26,12 @@ std::size_t Recordset::checked(int column) const {
     return static_cast<std::size_t>(column);
 }
 
-Recordset::Row* Recordset::currentOrNull() {
-    if (view.added)
-        return view.added;
-    list();
-    return view.onDeleted || view.place >= view.rows.size() ? nullptr : view.rows[view.place];
+TableRow* Recordset::currentOrNull() {
+    return view.added() ? view.added() : listed().current();
 }
 
-Recordset::Row& Recordset::currentRow() {
-    Row* const row = currentOrNull();
+TableRow& Recordset::currentRow() {
+    TableRow* const row = currentOrNull();
     if (!row)
         throw RuntimeError(ErrorNumber::NoCurrentRecord);
     return *row;
@@ -51,7 +48,7 @@ const Value& Recordset::get(std::string_view column) {
 
 void Recordset::set(int column, Value value) {
     const std::size_t index = checked(column);
-    Row& row = currentRow();
+    TableRow& row = currentRow();
     Value converted = toKind(std::move(value), columnList[index].kind);
     if (column == keyColumn)
         setKey(row, converted);
@@ -63,7 +60,7 @@ void Recordset::set(std::string_view column, Value value) {
     set(columnIndex(columnList, column), std::move(value));
 }
 
-void Recordset::setKey(Row& row, const Value& value) {
+void Recordset::setKey(TableRow& row, const Value& value) {
     decltype(keys)::node_type entry;
     if (const auto* old = std::get_if<std::int32_t>(&row.values[static_cast<std::size_t>(keyColumn)]))
         entry = keys.extract(KeyEntry{*old, &row});
@@ -81,11 +78,10 @@ void Recordset::setKey(Row& row, const Value& value) {
 void Recordset::addNew() {
     admitAdded();
     if (!conditions.empty())
-        list();
-    const auto added = rows.emplace_hint(rows.end(), nextId, Row{nextId, std::vector<Value>(columnList.size())});
+        listed();
+    const auto added = rows.emplace_hint(rows.end(), nextId, TableRow{nextId, std::vector<Value>(columnList.size())});
     ++nextId;
-    goTo(view.rows.size());
-    view.added = &added->second;
+    view.add(added->second);
     admitAdded();
     ++changeCount;
 }
@@ -95,35 +91,18 @@ void Recordset::update() {
     admitAdded();
 }
 
-/// An added row whose view is not written out yet needs no admission: list() takes it up.
+/// An added row whose view is not written out yet needs no admission: the list takes it up.
 void Recordset::admitAdded() {
-    if (!view.added || !view.listed || !letsThrough(*view.added))
+    if (!view.added() || !view.listed() || !letsThrough(*view.added()))
         return;
-    view.rows.push_back(view.added);
-    ++view.count;
-    goTo(view.rows.size() - 1);
+    view.admit();
     ++changeCount;
 }
 
-/// Makes the row at the place current, or where it was deleted the next one that is still there.
-void Recordset::goTo(std::size_t place) {
-    view.place = place;
-    view.onDeleted = false;
-    view.added = nullptr;
-    while (view.place < view.rows.size() && !view.rows[view.place])
-        ++view.place;
-}
-
 void Recordset::deleteRow() {
-    list();
-    Row& row = currentRow();
-    if (view.added) {
-        view.added = nullptr;
-    } else {
-        view.rows[view.place] = nullptr;
-        --view.count;
-    }
-    view.onDeleted = true;
+    listed();
+    TableRow& row = currentRow();
+    view.remove();
     if (keyColumn >= 0)
         setKey(row, Value());
     rows.erase(row.id);
@@ -137,68 +116,53 @@ void Recordset::deleteVisible() {
 
 void Recordset::moveFirst() {
     admitAdded();
-    goTo(0);
+    view.goToFirst();
 }
 
 void Recordset::moveNext() {
-    list();
+    listed();
     admitAdded();
-    // The place of a hidden added row is behind the last one already, and that of a deleted row is now the next one's.
-    const bool staysAtPlace = view.added || view.onDeleted;
-    if (!staysAtPlace && view.place >= view.rows.size())
+    if (!view.goToNext())
         throw RuntimeError(ErrorNumber::NoCurrentRecord);
-    goTo(staysAtPlace ? view.place : view.place + 1);
 }
 
 bool Recordset::eof() {
-    if (recordCount() == 0)
-        return true;
-    if (view.added || view.onDeleted || !view.listed)
-        return false;
-    return view.place >= view.rows.size();
+    return recordCount() == 0 || (view.listed() && view.atEnd());
 }
 
 int Recordset::recordCount() {
-    if (conditions.empty() && !view.listed)
+    if (conditions.empty() && !view.listed())
         return rowCount();
-    list();
-    return static_cast<int>(view.count);
+    return listed().count();
 }
 
 int Recordset::absolutePosition() {
-    list();
-    if (view.added || !currentOrNull())
-        return 0;
-    tidy();
-    return static_cast<int>(view.place) + 1;
+    return listed().position();
 }
 
 void Recordset::setAbsolutePosition(int position) {
-    list();
+    listed();
     admitAdded();
-    tidy();
     if (position < 1 || position > recordCount())
         throw RuntimeError(ErrorNumber::NoCurrentRecord);
-    goTo(static_cast<std::size_t>(position) - 1);
+    view.goToPosition(position);
 }
 
 Bookmark Recordset::bookmark() {
     Bookmark bookmark;
-    if (const Row* row = currentOrNull())
+    if (const TableRow* row = currentOrNull())
         bookmark.row = row->id;
     return bookmark;
 }
 
 void Recordset::setBookmark(Bookmark bookmark) {
-    list();
+    listed();
     admitAdded();
     if (bookmark.row == 0)
-        return goTo(view.rows.size());
+        return view.goToEnd();
     const auto row = rows.find(bookmark.row);
-    const auto place = row == rows.end() ? view.rows.end() : std::ranges::find(view.rows, &row->second);
-    if (place == view.rows.end())
+    if (row == rows.end() || !view.goToRow(row->second))
         throw RuntimeError(ErrorNumber::NoCurrentRecord);
-    goTo(static_cast<std::size_t>(place - view.rows.begin()));
 }
 
 void Recordset::setFilter(std::string_view expression) {
@@ -214,34 +178,34 @@ void Recordset::setSort(std::string_view expression) {
 }
 
 void Recordset::resetView() {
-    view = View{.firstAdded = nextId};
+    view = RecordView(nextId);
     ++changeCount;
 }
 
-bool Recordset::letsThrough(const Row& row) const {
+bool Recordset::letsThrough(const TableRow& row) const {
     return std::ranges::all_of(conditions, [&row](const ColumnCondition& condition) {
         return condition.holds(row.values[static_cast<std::size_t>(condition.column)]);
     });
 }
 
 /// The rows whose key is in the condition's range, in table order.
-std::vector<Recordset::Row*> Recordset::rowsByKey(const ColumnCondition& condition) {
+std::vector<TableRow*> Recordset::rowsByKey(const ColumnCondition& condition) {
     using Key = std::numeric_limits<std::int32_t>;
     const double low = std::ceil(std::max<double>(condition.low, Key::min()));
     const double high = std::floor(std::min<double>(condition.high, Key::max()));
-    std::vector<Row*> found;
+    std::vector<TableRow*> found;
     if (low > high)
         return found;
     const auto end = keys.upper_bound(static_cast<std::int32_t>(high));
     for (auto entry = keys.lower_bound(static_cast<std::int32_t>(low)); entry != end; ++entry)
         found.push_back(entry->row);
-    std::ranges::sort(found, {}, &Row::id);
+    std::ranges::sort(found, {}, &TableRow::id);
     return found;
 }
 
 /// In table order.
-std::vector<Recordset::Row*> Recordset::rowsLetThrough() {
-    std::vector<Row*> found;
+std::vector<TableRow*> Recordset::rowsLetThrough() {
+    std::vector<TableRow*> found;
     const auto onKey = std::ranges::find(conditions, keyColumn, &ColumnCondition::column);
     if (onKey != conditions.end()) {
         found = rowsByKey(*onKey);
@@ -250,43 +214,22 @@ std::vector<Recordset::Row*> Recordset::rowsLetThrough() {
         for (auto& [id, row] : rows)
             found.push_back(&row);
     }
-    std::erase_if(found, [this](const Row* row) { return !letsThrough(*row); });
+    std::erase_if(found, [this](const TableRow* row) { return !letsThrough(*row); });
     return found;
 }
 
-void Recordset::list() {
-    if (view.listed)
-        return;
-    view.listed = true;
-    view.rows = rowsLetThrough();
-    view.count = view.rows.size();
-    if (order) {
-        const auto column = static_cast<std::size_t>(order->column);
-        const auto end = std::ranges::lower_bound(view.rows, view.firstAdded, {}, &Row::id);
-        std::stable_sort(view.rows.begin(), end, [column, down = order->descending](const Row* a, const Row* b) {
-            return down ? b->values[column] < a->values[column] : a->values[column] < b->values[column];
-        });
-    }
-    if (view.added)
-        goTo(view.rows.size() - 1);
-}
-
-/// Takes the gaps of deleted rows out of the list. The place of a deleted row becomes that of the row behind it.
-void Recordset::tidy() {
-    if (view.count == view.rows.size())
-        return;
-    const auto place = view.rows.begin() + static_cast<std::ptrdiff_t>(view.place);
-    view.place -= static_cast<std::size_t>(std::count(view.rows.begin(), place, nullptr));
-    std::erase(view.rows, nullptr);
+RecordView& Recordset::listed() {
+    if (!view.listed())
+        view.list(rowsLetThrough(), order);
+    return view;
 }
 
 const Value& Recordset::valueAt(int position, int column) {
     const std::size_t index = checked(column);
-    list();
-    tidy();
+    listed();
     if (position < 1 || position > recordCount())
         throw RuntimeError(ErrorNumber::NoCurrentRecord);
-    return view.rows[static_cast<std::size_t>(position) - 1]->values[index];
+    return view.at(position).values[index];
 }
 
 std::vector<std::span<const Value>> Recordset::allRows() const {

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "proposal/RecordView.h"
 #include "proposal/RowFilter.h"
 #include "proposal/Value.h"
 
@@ -102,13 +103,9 @@ public:
     std::uint64_t changes() const { return changeCount; }
 
 private:
-    struct Row {
-        std::uint64_t id;  // from 1, in the order of adding
-        std::vector<Value> values;
-    };
     struct KeyEntry {
         std::int32_t key;
-        Row* row;
+        TableRow* row;
     };
     struct KeyOrder {
         using is_transparent = void;
@@ -116,41 +113,27 @@ private:
         bool operator()(const KeyEntry& a, std::int32_t key) const { return a.key < key; }
         bool operator()(std::int32_t key, const KeyEntry& b) const { return key < b.key; }
     };
-    /// The list of visible rows and the place in it. It is written out at the first need, since most filters are
-    /// replaced before anybody looks. Until then only rows added since may differ from the moment it was set.
-    struct View {
-        std::uint64_t firstAdded = 1;  ///< rows from this id on were added after the view was set
-        bool listed = false;
-        std::vector<Row*> rows = {};  ///< null where a row was deleted, until the next tidy()
-        std::size_t count = 0;        ///< rows that are not null
-        std::size_t place = 0;        ///< of the current row; its size when behind the last
-        bool onDeleted = false;       ///< the row at the place was deleted
-        Row* added = nullptr;         ///< the current row when it was just added and is not listed
-    };
-
     std::size_t checked(int column) const;
-    Row& currentRow();
-    Row* currentOrNull();
-    bool letsThrough(const Row& row) const;
-    std::vector<Row*> rowsLetThrough();
-    std::vector<Row*> rowsByKey(const ColumnCondition& condition);
+    TableRow* currentOrNull();
+    TableRow& currentRow();
+    bool letsThrough(const TableRow& row) const;
+    std::vector<TableRow*> rowsLetThrough();
+    std::vector<TableRow*> rowsByKey(const ColumnCondition& condition);
     void resetView();
-    void list();
-    void tidy();
+    RecordView& listed();
     void admitAdded();
-    void goTo(std::size_t place);
-    void setKey(Row& row, const Value& value);
+    void setKey(TableRow& row, const Value& value);
 
     std::span<const Column> columnList;
     int keyColumn = -1;  // none
-    std::map<std::uint64_t, Row> rows;
+    std::map<std::uint64_t, TableRow> rows;
     std::uint64_t nextId = 1;
     std::set<KeyEntry, KeyOrder> keys;  // rows whose key is not null
     RowFilter conditions;
     std::string filterText;
     std::optional<SortOrder> order;
     std::string sortText;
-    View view;
+    RecordView view{nextId};
     std::uint64_t changeCount = 0;
 };
 

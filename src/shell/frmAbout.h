@@ -7,7 +7,7 @@
 
 namespace plandesk {
 
-/// The About box: title, version and two texts, as version.ini beside the program tells them.
+/// About: title, version and two texts, as version.ini beside the program tells them.
 class frmAbout : public Form {
 public:
     static constexpr std::string_view formName = "frmAbout";
@@ -15,7 +15,7 @@ public:
     explicit frmAbout(Proposal& proposal);
     void load() override;
     const Layout& layout() const override;
-    void closeBox() override { close(); }
+    void pressClose() override { close(); }
 
     /// Starts the machine's system information tool, or says that there is none.
     void StartSysInfo();

@@ -174,7 +174,7 @@ bool mdiInterface::run(std::string_view procedure) {
     return true;
 }
 
-bool mdiInterface::closeBox() {
+bool mdiInterface::pressClose() {
     if (proposal.screen.modalForm())
         return false;
     proposal.screen.event([this] { mnuExit_Click(); });

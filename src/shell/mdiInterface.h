@@ -27,9 +27,9 @@ public:
     /// The user presses the entry: the focused control loses the focus without a leave check, then the command runs as
     /// one event. False for an entry that is not available; nothing happens then.
     bool press(std::string_view entry);
-    /// The user presses the close box: the same question as Exit. The window stays open unless the program ended. False
-    /// while a modal form is open; nothing happens then.
-    bool closeBox();
+    /// The user presses the close button: the same question as Exit. The window stays open unless the program ended.
+    /// False while a modal form is open; nothing happens then.
+    bool pressClose();
     /// The window changed its size: the next tick of Timer2 paints the picture once.
     void resized();
 

@@ -128,7 +128,7 @@ void close(Session& session, const Words& words) {
         throw ScriptError("unknown form " + quote(name));
     userAct(session, words[0], [&] {
         if (mainWindow)
-            return session.shell.closeBox();
+            return session.shell.pressClose();
         Form* form = session.proposal.forms.loaded(name);
         return form && user::close(*form);
     });

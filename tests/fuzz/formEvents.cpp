@@ -153,7 +153,7 @@ void Session::onForm(Bytes& bytes) {
         proposal.screen.event([this] { form->show(); });
         break;
     case 1:
-        proposal.screen.event([this] { form->closeBox(); });
+        proposal.screen.event([this] { form->pressClose(); });
         break;
     default:
         proposal.screen.event([&] { proposal.forms.unload(name); });

@@ -107,7 +107,7 @@ TEST_F(FormTest, IsHiddenUntilShownAndKeepsItsValuesWhenHidden) {
     form.show();
     EXPECT_TRUE(form.visible());
     form.txtFirst.setText("kept");
-    form.closeBox();
+    form.pressClose();
     EXPECT_FALSE(form.visible());
     EXPECT_EQ(form.txtFirst.text(), "kept");
 }

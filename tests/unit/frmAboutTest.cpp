@@ -47,7 +47,7 @@ TEST_F(frmAboutTest, KeepsTheProgramsOwnWordsWithoutTheFileAndSaysNothing) {
 TEST_F(frmAboutTest, KeepsTheDefaultsOfLinesThatAreMissing) {
     writeVersionFile("Proposals\n");
     expectTexts({"About Proposals", "Proposals", "Version 1.0.0", "", ""});
-    about().closeBox();
+    about().pressClose();
     writeVersionFile("");
     expectTexts({"About Plandesk", "Plandesk", "Version 1.0.0", "", ""});
 }
@@ -78,7 +78,7 @@ TEST_F(frmAboutTest, ClosesByButtonAndByCloseBoxAndReadsTheFileAgain) {
     EXPECT_EQ(proposal.forms.loaded("frmAbout"), nullptr);
     writeVersionFile("Proposals\n");
     EXPECT_EQ(about().lblTitle.caption(), "Proposals");
-    about().closeBox();
+    about().pressClose();
     EXPECT_EQ(proposal.forms.loaded("frmAbout"), nullptr);
 }
 

@@ -85,7 +85,7 @@ TEST_F(frmHelpTest, HasAPlaceForItsText) {
 
 TEST_F(frmHelpTest, ClosingHidesIt) {
     help().show();
-    help().closeBox();
+    help().pressClose();
     EXPECT_FALSE(help().visible());
     EXPECT_NE(proposal.forms.loaded("frmHelp"), nullptr);
 }

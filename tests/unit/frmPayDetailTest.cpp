@@ -707,7 +707,7 @@ TEST_F(frmPayDetailTest, EnterMovesOnLikeTab) {
 TEST_F(frmPayDetailTest, ClosingTheFormHidesItAndKeepsItsValues) {
     fees().show();
     fees().txtOther.setText("3");
-    fees().closeBox();
+    fees().pressClose();
     EXPECT_FALSE(fees().visible());
     EXPECT_EQ(fees().txtOther.text(), "3");
 }

@@ -301,7 +301,7 @@ TEST(MdiInterface, exitAsksAndNoStays) {
     EXPECT_EQ(told[0].icon, Icon::Question);
     EXPECT_EQ(world.ports.program.ends, 0);
     world.ports.dialogs.answers.push_back("yes");
-    world.shell.closeBox();
+    world.shell.pressClose();
     EXPECT_EQ(world.ports.program.ends, 1);
     EXPECT_FALSE(world.shell.press("mnuNew"));
 }
