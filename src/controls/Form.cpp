@@ -114,18 +114,21 @@ std::vector<Control*> Form::tabOrder() const {
 
 std::vector<Control*> Form::tabOrderBehindHead() const {
     std::vector<Control*> order;
-    const Layout& sheet = layout();
-    const auto* strip = dynamic_cast<const TabStrip*>(findKey(sheet.tabs));
-    for (std::size_t page = 0; page < sheet.pages.size(); ++page) {
-        if (strip && static_cast<int>(page) != strip->tab())
-            continue;
-        for (const LayoutGroup& group : sheet.pages[page].groups) {
+    const auto appendGroups = [&](std::span<const LayoutGroup> groups) {
+        for (const LayoutGroup& group : groups) {
             const Control* frame = findKey(group.frame);
             if (frame && !frame->visible())
                 continue;
             for (const LayoutRow& row : group.rows)
                 appendNamed(order, row.controls);
         }
+    };
+    const Layout& sheet = layout();
+    appendGroups(sheet.top);
+    const auto* strip = dynamic_cast<const TabStrip*>(findKey(sheet.tabs));
+    for (std::size_t page = 0; page < sheet.pages.size(); ++page) {
+        if (!strip || static_cast<int>(page) == strip->tab())
+            appendGroups(sheet.pages[page].groups);
     }
     appendNamed(order, sheet.buttons);
     return order;

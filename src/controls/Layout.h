@@ -18,7 +18,7 @@ struct LayoutRow {
     std::string_view unit{};   ///< "Sq. Mtrs" behind the controls, or empty
     std::string_view mark{};   ///< "*" mandatory, "#" one of a pair, or empty
     std::string_view label{};  ///< name of the label control whose live caption is the question, or empty
-    int lines = 0;             ///< rows of a grid that are to be seen at once; 0: as many as suit most grids
+    int lines = 0;             ///< rows of a grid or lines of a box to be seen at once; 0: as many as suit most
 };
 
 struct LayoutGroup {
@@ -38,13 +38,16 @@ struct LayoutPage {
 struct Layout {
     /// Width of the question column in average characters of the system font.
     int questionWidth = 56;
-    std::string_view head{};  ///< names of the controls in the row above the pages: links, page buttons
+    std::string_view head{};             ///< names of the controls in the row above the pages: links, page buttons
+    std::span<const LayoutGroup> top{};  ///< stands above the tabs, whichever of them is chosen
     /// Name of the tab strip that chooses the page; without one, all pages stand one below the other.
     std::string_view tabs{};
+    std::span<const std::string_view> tabCaptions{};  ///< empty: see `firstTabNumber`
     std::span<const LayoutPage> pages{};
     std::string_view buttons{};  ///< names of the controls in the row below the pages
     bool centred = false;        ///< the form stands in the middle of the desk
-    int firstTabNumber = 1;      ///< tabs are captioned by numbers that run on from this one
+    /// Tabs without captions of their own are called by their frame, or by numbers that run on from this one.
+    int firstTabNumber = 1;
 };
 
 }  // namespace plandesk

@@ -277,10 +277,12 @@ public:
     }
 
 private:
-    /// A tab of one frame is called as that; any other has a number.
     static QString tabText(const Form& form, int tab) {
         const Layout& layout = form.layout();
-        const auto groups = layout.pages[static_cast<std::size_t>(tab)].groups;
+        const auto page = static_cast<std::size_t>(tab);
+        if (page < layout.tabCaptions.size())
+            return toQt(trim(layout.tabCaptions[page]));
+        const auto groups = layout.pages[page].groups;
         const auto* frame = groups.size() == 1 ? dynamic_cast<Frame*>(form.findKey(groups.front().frame)) : nullptr;
         return frame ? toQt(frame->caption()) : QString::number(layout.firstTabNumber + tab);
     }

@@ -24,6 +24,8 @@ FormView::FormView(Form& form, ScreenView& screen, QWidget& parent) : QWidget(&p
     setAutoFillBackground(true);
     const Layout& layout = form.layout();
     head = makeViews(layout.head);
+    if (!layout.top.empty())
+        topRows = new PageView(*this, {layout.top.begin(), layout.top.end()}, layout.questionWidth, maker);
     tabs = makeView(layout.tabs, *this);
     if (tabs)
         tabs->name({});
@@ -155,7 +157,13 @@ int FormView::placeViews(const Views& views, int width, int top) const {
 }
 
 void FormView::arrange() {
+    const int pageWidth = width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     int top = placeViews(head, width(), 0);
+    if (topRows) {
+        topRows->move(0, top);
+        topRows->arrange(pageWidth, 0);
+        top += topRows->height();
+    }
     if (tabs && tabs->shownByCode()) {
         const QSize size = tabs->widget().sizeHint();
         tabs->widget().setGeometry(QRect({2 * gap(), top}, size));
@@ -167,7 +175,7 @@ void FormView::arrange() {
     const int pageHeight = std::max(0, height() - buttonsHeight - top);
     page.area->setGeometry(0, top, width(), pageHeight);
     page.area->verticalScrollBar()->setSingleStep(fontMetrics().height() * 2);
-    page.view->arrange(width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent), pageHeight);
+    page.view->arrange(pageWidth, pageHeight);
     QCoreApplication::removePostedEvents(this, QEvent::LayoutRequest);
 }
 
@@ -176,12 +184,19 @@ QSize FormView::naturalSize(QSize limit) {
     const bool belongsToProposal = !head.empty();
     const int leastCharacters = belongsToProposal ? 136 : 60;
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const int wanted = std::max(pages[current].view->naturalWidth() + scrollBar, leastCharacters * gap());
+    const int rowsWidth = std::max(pages[current].view->naturalWidth(), topRows ? topRows->naturalWidth() : 0);
+    const int wanted = std::max(rowsWidth + scrollBar, leastCharacters * gap());
     const int newWidth = std::min(std::max(wanted, width()), limit.width());
     if (belongsToProposal)
         return {newWidth, limit.height()};
     pages[current].view->arrange(newWidth - scrollBar, 0);
-    const int around = placeViews(head, newWidth, 0) + placeViews(buttons, newWidth, 0);
+    int around = placeViews(head, newWidth, 0) + placeViews(buttons, newWidth, 0);
+    if (tabs)
+        around += tabs->widget().sizeHint().height();
+    if (topRows) {
+        topRows->arrange(newWidth - scrollBar, 0);
+        around += topRows->height();
+    }
     const QSize natural(newWidth, std::min(around + pages[current].view->height(), limit.height()));
     arrange();  // in the size that it has until it gets another
     return natural;

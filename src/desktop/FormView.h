@@ -14,7 +14,7 @@ namespace plandesk::desktop {
 class PageView;
 class ScreenView;
 
-/// A form as its layout tells: a row of links and page buttons, the pages, a row of buttons. A page is drawn when it is
+/// A form as its layout tells: a row of links and page buttons, what stands above the tabs, the pages, a row of buttons. A page is drawn when it is
 /// shown for the first time.
 class FormView : public QWidget {
 public:
@@ -66,6 +66,7 @@ private:
     const ViewMaker maker = [this](std::string_view key, QWidget& parent) { return makeView(key, parent); };
     std::unordered_map<const Control*, ControlView*> drawn;
     Views head;
+    PageView* topRows = nullptr;  ///< null when the form has none
     ControlView* tabs = nullptr;
     Views buttons;
     std::vector<Page> pages;

@@ -21,7 +21,7 @@ namespace {
 constexpr int numberWidth = 14;
 constexpr int textWidth = 42;
 constexpr int leastTextWidth = 8;
-constexpr int linesShown = 4;
+constexpr int linesOfRemarks = 4;
 
 /// Place in `text` behind as many characters as `before` has, some of which take two units; its end when it is shorter.
 int samePlace(const QString& before, const QString& text) {
@@ -94,6 +94,7 @@ public:
         edit.edited = [this](const QString& text) { hand(fromQt(text)); };
     }
 
+    void showLines(int lines) override { linesShown = lines > 0 ? lines : linesOfRemarks; }
     int naturalWidth(bool /*alone*/) const override { return textWidth * characterWidth(); }
     QSize sizeFor(int available, bool alone) override {
         const int height = (linesShown + 1) * edit.fontMetrics().lineSpacing();
@@ -111,6 +112,7 @@ private:
     }
 
     MultiLineEdit& edit;
+    int linesShown = linesOfRemarks;
 };
 
 }  // namespace

@@ -19,17 +19,20 @@ inline std::vector<std::string> layoutNames(const Form& form) {
             names.push_back(std::move(key));
     };
     const Layout& sheet = form.layout();
-    take(sheet.head);
-    take(sheet.tabs);
-    for (const LayoutPage& page : sheet.pages) {
-        for (const LayoutGroup& group : page.groups) {
+    const auto takeGroups = [&take](std::span<const LayoutGroup> groups) {
+        for (const LayoutGroup& group : groups) {
             take(group.frame);
             for (const LayoutRow& row : group.rows) {
                 take(row.label);
                 take(row.controls);
             }
         }
-    }
+    };
+    take(sheet.head);
+    takeGroups(sheet.top);
+    take(sheet.tabs);
+    for (const LayoutPage& page : sheet.pages)
+        takeGroups(page.groups);
     take(sheet.buttons);
     return names;
 }
