@@ -14,8 +14,8 @@ namespace plandesk::desktop {
 class PageView;
 class ScreenView;
 
-/// A form as its layout tells: a row of links and page buttons, what stands above the tabs, the pages, a row of buttons. A page is drawn when it is
-/// shown for the first time.
+/// A form as its layout tells: a row of links and page buttons, what stands above the tabs, the pages, a row of
+/// buttons. A page is drawn when it is shown for the first time.
 class FormView : public QWidget {
 public:
     FormView(Form& form, ScreenView& screen, QWidget& parent);

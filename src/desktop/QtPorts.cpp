@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <array>
 
+#include "desktop/LongMessage.h"
 #include "desktop/QtText.h"
 
 namespace plandesk::desktop {
@@ -62,6 +63,7 @@ QString QtDialogs::titleOf(const Message& message) const {
 void QtDialogs::showMessage(const Message& message) {
     QMessageBox box(iconOf(message.icon), titleOf(message), toQt(message.text), QMessageBox::Ok, parent);
     prepare(box);
+    scrollLongText(box);
     box.exec();
 }
 

@@ -63,6 +63,18 @@ public:
     std::string mandatoryDocList;    ///< checklist string of frmDocCheckList
     std::string conditionalDocList;  ///< checklist string of frmDocCheckList1
 
+    // What the continuation of a transfer deed held when it was last closed.
+    std::string drcFolioNumber1;
+    std::string drcFolioNumber2;
+    std::string drcFolioNumber3;
+    std::string drcFolioNumber4;
+    std::string drcFolioNumber5;
+    std::string drcLoggedBy;
+    std::string drcFullAddress;
+    std::string drcNameAddress;
+    std::string drcVideReceiptNo;
+    std::string drcReceiptDate;
+
     // Remarks of the land records as last read from a document.
     std::string remark712;
     std::string remarkPRC;

@@ -10,6 +10,10 @@
 #include "document/LandRecordBlocks.h"
 #include "document/ReadXML.h"
 #include "document/SaveProposal.h"
+#include "drc/frmDRCTransfer.h"
+#include "drc/frmDRCTransferCont.h"
+#include "drc/frmDRCUtilisationForm.h"
+#include "drc/frmIssuOfDRc.h"
 #include "fees/frmDocCheckList.h"
 #include "fees/frmDocCheckList1.h"
 #include "fees/frmPayDetail.h"
@@ -83,6 +87,10 @@ void mdiInterface::declareForms() {
     forms.declare<frmMain712>();
     forms.declare<frmPRCEXT>();
     forms.declare<frmNaOrder>();
+    forms.declare<frmIssuOfDRc>();
+    forms.declare<frmDRCTransfer>();
+    forms.declare<frmDRCTransferCont>();
+    forms.declare<frmDRCUtilisationForm>();
     forms.declare<frmAbout>();
     forms.declare<frmHelp>();
 }

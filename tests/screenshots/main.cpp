@@ -70,8 +70,9 @@ void takeAll(const std::filesystem::path& folder, const std::string& suffix) {
     Camera camera(session, folder, suffix);
     camera.take("mdiInterface");
     session.press("mnuNew");
-    for (const std::string_view name : {"frmAnnexureA", "AnnexureACont", "frmPayDetail", "frmDocCheckList",
-                                        "frmDocCheckList1", "frmHelp", "frmAbout"})
+    for (const std::string_view name :
+         {"frmAnnexureA", "AnnexureACont", "frmPayDetail", "frmDocCheckList", "frmDocCheckList1", "frmHelp", "frmAbout",
+          "frmIssuOfDRc", "frmDRCTransfer", "frmDRCTransferCont", "frmDRCUtilisationForm"})
         if (Form* form = session.proposal.forms.touch(name))
             camera.takePages(*form);
 }
