@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <new>
 #include <utility>
 
 namespace plandesk {
@@ -46,5 +47,17 @@ const char* describe(ErrorNumber number) {
 RuntimeError::RuntimeError(ErrorNumber number) : RuntimeError(static_cast<int>(number), describe(number)) {}
 
 RuntimeError::RuntimeError(int number, std::string description) : number(number), description(std::move(description)) {}
+
+std::string failureText() {
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        return "Out of memory";
+    } catch (const std::exception& error) {
+        return error.what();
+    } catch (...) {
+        return "Internal error";
+    }
+}
 
 }  // namespace plandesk

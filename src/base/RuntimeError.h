@@ -38,4 +38,7 @@ public:
     std::string description;
 };
 
+/// What the user reads of the exception that is being handled, of whatever type; to be called within a catch alone.
+std::string failureText();
+
 }  // namespace plandesk

@@ -32,6 +32,8 @@ struct FileDialog {
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
+    /// An event of the user begins; the messages until the next one are all of it.
+    virtual void eventBegins() {}
     /// Shows a message with an OK button and returns when it was closed.
     virtual void showMessage(const Message& message) = 0;
     /// Shows a question with Yes and No; true for Yes.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Counted.h"
 #include "controls/Control.h"
 #include "controls/Form.h"
 
@@ -24,14 +25,26 @@ void Screen::message(std::string_view text, std::string_view title, Icon icon) {
 void Screen::event(const std::function<void()>& reaction) {
     if (over)
         return;
-    ++depth;
-    try {
-        reaction();
-    } catch (const std::exception& error) {
-        message(error.what(), "", Icon::Critical);
+    if (depth == 0)
+        ports.dialogs.eventBegins();
+    {
+        const Counted running(depth);
+        try {
+            reaction();
+        } catch (...) {
+            tellFailure();
+        }
     }
-    if (--depth == 0)
+    if (depth == 0)
         unloaded.clear();
+}
+
+void Screen::tellFailure() noexcept {
+    try {
+        message(failureText(), "", Icon::Critical);
+    } catch (...) {
+        // The box itself could not be shown; there is no other way to tell the user.
+    }
 }
 
 void Screen::setFocus(Control& control) {
@@ -71,7 +84,15 @@ void Screen::changeFocus(Control* to) {
     // Two reactions that take the focus from each other would never end.
     if (focusMoves == deepestFocusMove)
         throw RuntimeError(28, "Out of stack space");
-    ++focusMoves;
+    {
+        const Counted move(focusMoves);
+        runFocusMove(old, to);
+    }
+    if (observer)
+        observer->focusChanged(focus);
+}
+
+void Screen::runFocusMove(Control* old, Control* to) {
     const bool oldHadFocus = focusArrived;
     focus = to;
     focusArrived = false;
@@ -85,9 +106,6 @@ void Screen::changeFocus(Control* to) {
         focusArrived = true;
         react(to->gotFocus);
     }
-    --focusMoves;
-    if (observer)
-        observer->focusChanged(focus);
 }
 
 void Screen::react(const std::function<void()>& reaction) {

@@ -36,9 +36,11 @@ public:
     /// Shows a message through the dialogs.
     void message(std::string_view text, std::string_view title, Icon icon = Icon::Information);
 
-    /// Runs one event of the user. An error that nobody handled ends the event and is shown in one message with its
-    /// description; the program goes on. Events may run inside each other.
+    /// Runs one event of the user. An error that nobody handled, of whatever type, ends the event and is shown in one
+    /// message with its description; the program goes on. Events may run inside each other.
     void event(const std::function<void()>& reaction);
+    /// Shows what is being handled in one box, as an event that failed does; to be called within a catch alone.
+    void tellFailure() noexcept;
 
     Control* focused() const { return focus; }
     /// Program code moves the focus: lost focus and got focus run, each an event of its own, and no leave check. A lost
@@ -81,6 +83,7 @@ private:
     friend class Form;
     friend class Control;
     void changeFocus(Control* to);
+    void runFocusMove(Control* old, Control* to);
     void react(const std::function<void()>& reaction);
     static bool mayLeave(Control& control);
     bool holds(const Form& form) const;

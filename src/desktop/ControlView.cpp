@@ -39,8 +39,11 @@ void ControlView::watch(QWidget& part) {
 }
 
 void ControlView::sync() {
-    if (!subject)
-        return;
+    if (subject)
+        screen.guarded([this] { showState(); });
+}
+
+void ControlView::showState() {
     const QSignalBlocker quiet(picture);
     picture.setEnabled(subject->enabled());
     // A row that was hidden as a whole has put its widgets away, so that they would not ask for a new arrangement.
@@ -92,8 +95,10 @@ void ControlView::act(const std::function<void()>& what, Qt::FocusReason reason)
 }
 
 bool ControlView::eventFilter(QObject* watched, QEvent* event) {
-    if (!subject)
-        return false;
+    return subject && screen.guarded([&] { return filterEvent(watched, event); });
+}
+
+bool ControlView::filterEvent(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:

@@ -28,7 +28,7 @@ public:
     Control* control() const { return subject; }
     void detach() { subject = nullptr; }
 
-    /// Shows what the control holds now.
+    /// Shows what the control holds now. Lets no exception out.
     void sync();
     /// Whether code shows the control, wherever it stands.
     bool shownByCode() const { return subject && subject->visible(); }
@@ -54,9 +54,12 @@ public:
     /// The part of it that takes the keyboard now.
     virtual QWidget& keyboardPart() { return picture; }
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Hands on to filterEvent, and lets no exception out into the toolkit.
+    bool eventFilter(QObject* watched, QEvent* event) final;
 
 protected:
+    /// True when the widget is not to see the event. Called while the control is there alone.
+    virtual bool filterEvent(QObject* watched, QEvent* event);
     virtual void syncContent() {}
     virtual QPalette::ColorRole backRole() const { return QPalette::Window; }
     virtual Colour foreColor() const { return black; }
@@ -78,6 +81,7 @@ private:
         bool operator==(const Colours&) const = default;
     };
     void watch(QWidget& part);
+    void showState();
     void syncColours();
     bool mousePressed();
     void focusArrived(Qt::FocusReason reason);

@@ -159,12 +159,12 @@ public:
         });
     }
 
-    bool eventFilter(QObject* watched, QEvent* event) override {
+    bool filterEvent(QObject* watched, QEvent* event) override {
         // A click chooses day, month or year, so that what is typed next takes its place.
         if (event->type() == QEvent::MouseButtonRelease)
             QMetaObject::invokeMethod(
                 this, [this] { edit.setSelectedSection(edit.currentSection()); }, Qt::QueuedConnection);
-        return ControlView::eventFilter(watched, event);
+        return ControlView::filterEvent(watched, event);
     }
 
 private:
@@ -191,13 +191,13 @@ public:
         }
     }
 
-    bool eventFilter(QObject* watched, QEvent* event) override {
+    bool filterEvent(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::MouseButtonRelease) {
             const auto& mouse = *static_cast<QMouseEvent*>(event);
             if (mouse.button() == Qt::LeftButton && label.rect().contains(mouse.pos()))
                 act([this] { user::click(*subject); });
         }
-        return ControlView::eventFilter(watched, event);
+        return ControlView::filterEvent(watched, event);
     }
     void name(const QString&) override {}
     QSize sizeFor(int available, bool /*alone*/) override {

@@ -38,13 +38,15 @@ FormView::FormView(Form& form, ScreenView& screen, QWidget& parent) : QWidget(&p
 FormView::~FormView() = default;
 
 ControlView* FormView::makeView(std::string_view key, QWidget& parent) {
-    Control* control = key.empty() ? nullptr : form->findKey(key);
-    if (!control)
-        return nullptr;
-    ControlView& view = makeControlView(*control, parent, screen, maker);
-    drawn[control] = &view;
-    view.sync();
-    return &view;
+    return screen.guarded([&]() -> ControlView* {
+        Control* control = key.empty() ? nullptr : form->findKey(key);
+        if (!control)
+            return nullptr;
+        ControlView& view = makeControlView(*control, parent, screen, maker);
+        drawn[control] = &view;
+        view.sync();
+        return &view;
+    });
 }
 
 FormView::Views FormView::makeViews(std::string_view keys) {
@@ -204,7 +206,7 @@ QSize FormView::naturalSize(QSize limit) {
 
 bool FormView::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::FontChange)
-        arrange();
+        screen.guarded([this] { arrange(); });
     // Here, because the toolkit would take Tab for itself before it counts as a key.
     if (event->type() == QEvent::KeyPress && form) {
         if (const std::string_view key = systemKeyName(*static_cast<QKeyEvent*>(event)); !key.empty()) {
@@ -216,7 +218,7 @@ bool FormView::event(QEvent* event) {
 }
 
 void FormView::resizeEvent(QResizeEvent* /*event*/) {
-    arrange();
+    screen.guarded([this] { arrange(); });
 }
 
 void FormView::mousePressEvent(QMouseEvent* /*event*/) {

@@ -5,10 +5,13 @@
 #include "base/Text.h"
 #include "desktop/ControlView.h"
 #include "desktop/QtText.h"
+#include "desktop/ScreenView.h"
 
 namespace plandesk::desktop {
 
-GridModel::GridModel(const ControlView& view) : view(view) {}
+// The tables ask at any time, in the midst of painting too: nothing but a guarded answer goes out.
+
+GridModel::GridModel(const ControlView& view, ScreenView& screen) : view(view), screen(screen) {}
 
 const Grid* GridModel::grid() const {
     return static_cast<const Grid*>(view.control());
@@ -31,24 +34,27 @@ void GridModel::look() {
 
 GridColumn GridModel::column(int column) const {
     const Grid* shown = grid();
-    return shown ? shown->column(column) : GridColumn{};
+    return shown ? screen.guarded([&] { return shown->column(column); }) : GridColumn{};
 }
 
 ColumnKind GridModel::kind(int column) const {
     const Grid* shown = grid();
-    return shown && column < shown->columnCount() ? shown->table()->columns()[static_cast<std::size_t>(column)].kind
-                                                  : ColumnKind::Text;
+    return shown && column >= 0 && column < shown->columnCount()
+               ? shown->table()->columns()[static_cast<std::size_t>(column)].kind
+               : ColumnKind::Text;
 }
 
 QModelIndex GridModel::current() const {
     const Grid* shown = grid();
     if (!shown)
         return {};
-    int place = shown->currentColumn();
-    if (shown->column(place).width == 0)
-        for (place = 0; place < columns && shown->column(place).width == 0;)
-            ++place;
-    return index(shown->currentRow(), place);
+    return screen.guarded([&] {
+        int place = shown->currentColumn();
+        if (shown->column(place).width == 0)
+            for (place = 0; place < columns && shown->column(place).width == 0;)
+                ++place;
+        return index(shown->currentRow(), place);
+    });
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {
@@ -68,11 +74,13 @@ QVariant GridModel::data(const QModelIndex& cell, int role) const {
     if (role == Qt::TextAlignmentRole)
         return alignment(cell.column());
     const Grid* shown = grid();
-    // A table may have lost rows since the last look.
-    const bool there = shown && cell.row() < shown->rowCount() && cell.column() < shown->columnCount();
-    if (role != Qt::DisplayRole || !there)
+    if (role != Qt::DisplayRole || !shown || !cell.isValid())
         return {};
-    return toQt(shown->cellText(cell.row(), cell.column()));
+    return screen.guarded([&]() -> QVariant {
+        // A table may have lost rows since the last look.
+        const bool there = cell.row() < shown->rowCount() && cell.column() < shown->columnCount();
+        return there ? toQt(shown->cellText(cell.row(), cell.column())) : QVariant();
+    });
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -86,7 +94,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 Qt::ItemFlags GridModel::flags(const QModelIndex& cell) const {
     const Grid* shown = grid();
     const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    return shown && shown->editable(cell.column()) ? flags | Qt::ItemIsEditable : flags;
+    return shown && cell.isValid() && shown->editable(cell.column()) ? flags | Qt::ItemIsEditable : flags;
 }
 
 }  // namespace plandesk::desktop

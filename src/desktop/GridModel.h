@@ -7,12 +7,13 @@
 namespace plandesk::desktop {
 
 class ControlView;
+class ScreenView;
 
 /// A grid as the toolkit's tables read it. It keeps no cell: each is asked of the grid when it is to be seen.
 class GridModel : public QAbstractTableModel {
 public:
-    /// `view`: that of a grid, which outlives this.
-    explicit GridModel(const ControlView& view);
+    /// `view`: that of a grid, which outlives this as `screen` does.
+    GridModel(const ControlView& view, ScreenView& screen);
 
     /// The grid, while it is there.
     const Grid* grid() const;
@@ -20,7 +21,8 @@ public:
     void look();
     GridColumn column(int column) const;
     ColumnKind kind(int column) const;
-    /// The cell that keys go to: the grid's current one, or the first of its row while that has no width.
+    /// The cell that keys go to: the grid's current one, or the first of its row while that has no width. Invalid while
+    /// the grid has none, or one that came since the last look.
     QModelIndex current() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -33,6 +35,7 @@ private:
     QVariant alignment(int column) const;
 
     const ControlView& view;
+    ScreenView& screen;
     const Recordset* table = nullptr;
     int rows = 0;
     int columns = 0;

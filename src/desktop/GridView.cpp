@@ -50,7 +50,6 @@ class GridView : public ControlView {
 public:
     GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& screen, const ViewMaker& maker);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
     int naturalWidth(bool /*alone*/) const override { return table.wantedWidth(); }
     QSize sizeFor(int available, bool /*alone*/) override { return {available, table.heightFor(lines, available)}; }
     bool fillsWidth() const override { return true; }
@@ -61,6 +60,7 @@ private:
     static constexpr int usualLines = 5;
 
     Grid& grid() const { return static_cast<Grid&>(*subject); }
+    bool filterEvent(QObject* watched, QEvent* event) override;
     void syncContent() override;
     QPalette::ColorRole backRole() const override { return QPalette::Base; }
     void syncLine();
@@ -80,7 +80,7 @@ private:
     void press(const QModelIndex& cell, bool button);
 
     GridTable& table;
-    GridModel model{*this};
+    GridModel model{*this, screen};
     CellEdit& line;
     const ViewMaker& maker;
     std::map<const Control*, ControlView*> editors;
@@ -92,7 +92,9 @@ GridView::GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& scr
     line.hide();
     line.setFrame(false);
     line.setMaxLength(std::numeric_limits<int>::max());
-    line.filter = [this](int key) { return subject ? subject->form().keyPress(key) : 0; };
+    line.filter = [this](int key) {
+        return this->screen.guarded([&] { return subject ? subject->form().keyPress(key) : 0; });
+    };
     connect(&line, &QLineEdit::textEdited, this, [this](const QString& text) {
         edit(text);
         if (subject)
@@ -172,9 +174,7 @@ ControlView* GridView::editorView(const Grid::Floating& floating) {
     return editors[floating.editor] = view;
 }
 
-bool GridView::eventFilter(QObject* watched, QEvent* event) {
-    if (!subject)
-        return false;
+bool GridView::filterEvent(QObject* watched, QEvent* event) {
     const bool key = event->type() == QEvent::KeyPress;
     if (watched == &line)
         return key && keyInLine(*static_cast<QKeyEvent*>(event));
@@ -190,7 +190,7 @@ bool GridView::eventFilter(QObject* watched, QEvent* event) {
             table.scrollTo(model.index(place.row, place.column));
         return false;
     }
-    return ControlView::eventFilter(watched, event);
+    return ControlView::filterEvent(watched, event);
 }
 
 bool GridView::systemKey(const QKeyEvent& event) {
@@ -254,9 +254,12 @@ void GridView::edit(const QString& text) {
 }
 
 void GridView::editPresentText() {
-    if (grid().currentRow() < 0 || grid().editing())
+    // The grid may have got another table since the model looked, so the text is the grid's own.
+    const int row = grid().currentRow();
+    const int column = grid().currentColumn();
+    if (row < 0 || column >= grid().columnCount() || grid().editing())
         return;
-    edit(model.data(model.current(), Qt::DisplayRole).toString());
+    edit(toQt(grid().cellText(row, column)));
     line.selectAll();
 }
 

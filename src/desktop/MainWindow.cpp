@@ -12,6 +12,7 @@
 #include <array>
 
 #include "controls/User.h"
+#include "desktop/Application.h"
 #include "desktop/QtText.h"
 #include "shell/mdiInterface.h"
 
@@ -61,9 +62,11 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
     makeTimers();
     screenView.mainWindowTouched = [this] { showState(); };
     desk->resized = [this] {
-        screenView.fitWindows();
-        this->shell.resized();
-        timer2.start(tick);
+        screenView.guarded([this] {
+            screenView.fitWindows();
+            this->shell.resized();
+            timer2.start(tick);
+        });
     };
     shell.paintBackground = [this] { desk->paintBackground(); };
     shell.minimised = [this] { return isMinimized(); };
@@ -71,11 +74,15 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
     connect(close, &QShortcut::activated, this, [this] { closeFrontForm(); });
     showState();
     screenView.refresh();
+    if (auto* application = dynamic_cast<Application*>(qApp))
+        application->failed = [this] { screenView.failed(); };
     ownSize = framedWithin(screen()->availableGeometry(), usualFrame, {{0, 0}, firstSize}).size();
     resize(ownSize);
 }
 
 MainWindow::~MainWindow() {
+    if (auto* application = dynamic_cast<Application*>(qApp))
+        application->failed = Application::writeFailure;
     shell.paintBackground = [] {};
     shell.minimised = [] { return false; };
 }
@@ -116,12 +123,13 @@ void MainWindow::makeStatusBar() {
 
 void MainWindow::makeTimers() {
     connect(&timer1, &QTimer::timeout, this, [this] {
-        shell.Timer1_Timer();
+        screenView.guarded([this] { shell.Timer1_Timer(); });
         screenView.refresh();
+        closeIfAsked();
     });
     timer1.start(tick);
     connect(&timer2, &QTimer::timeout, this, [this] {
-        shell.Timer2_Timer();
+        screenView.guarded([this] { shell.Timer2_Timer(); });
         if (!shell.timer2Enabled())
             timer2.stop();
     });
@@ -161,6 +169,19 @@ void MainWindow::fitScreen() {
     const QRect place = framedWithin(available, frame, inside);
     ownSize = place.size();
     setGeometry(place);
+}
+
+void MainWindow::closeWhenIdle() {
+    closeAsked = true;
+    closeIfAsked();
+}
+
+void MainWindow::closeIfAsked() {
+    // While a box or file dialog is open the window would refuse; the next tick asks again.
+    if (closeAsked && !screenView.busy()) {
+        closeAsked = false;
+        close();
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

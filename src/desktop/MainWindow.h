@@ -27,6 +27,8 @@ public:
     ~MainWindow() override;
 
     ScreenView& forms() { return screenView; }
+    /// Closes the window as the user would, as soon as no act is under way.
+    void closeWhenIdle();
     /// The menu entry of that name; null when there is none.
     QAction* entry(std::string_view name) const;
 
@@ -42,6 +44,7 @@ private:
     /// Makes the window fit the screen together with its frame, while it has the size that it was given at first.
     void fitScreen();
     void closeFrontForm();
+    void closeIfAsked();
 
     Proposal& proposal;
     mdiInterface& shell;
@@ -49,6 +52,7 @@ private:
     QSize ownSize;
     ScreenView screenView;
     std::map<std::string, QAction*, std::less<>> entries;
+    bool closeAsked = false;
     QTimer timer1;
     QTimer timer2;
 };

@@ -1,6 +1,7 @@
 #include "desktop/MultiLineEdit.h"
 
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QTextBlock>
 #include <algorithm>
 
@@ -47,9 +48,10 @@ void MultiLineEdit::show(const QString& text) {
     if (document()->toRawText() == shown)
         return;
     const int caret = textCursor().position();
-    showing = true;
-    setPlainText(shown);
-    showing = false;
+    {
+        const QScopedValueRollback quiet(showing, true);
+        setPlainText(shown);
+    }
     QTextCursor cursor = textCursor();
     cursor.setPosition(std::min(caret, document()->characterCount() - 1));
     setTextCursor(cursor);

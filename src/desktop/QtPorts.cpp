@@ -20,6 +20,9 @@ namespace {
 constexpr std::array systemInformationTools = {"kinfocenter", "hardinfo2",           "hardinfo",
                                                "hwinfo-gui",  "mate-system-monitor", "gnome-system-monitor"};
 
+/// Boxes of one event that are shown before they can be skipped.
+constexpr int patience = 200;
+
 QMessageBox::Icon iconOf(Icon icon) {
     switch (icon) {
     case Icon::Information:
@@ -60,11 +63,24 @@ QString QtDialogs::titleOf(const Message& message) const {
     return toQt(message.title.empty() ? program.title() : message.title);
 }
 
+void QtDialogs::eventBegins() {
+    boxes = 0;
+    skipping = false;
+}
+
 void QtDialogs::showMessage(const Message& message) {
+    if (skipping)
+        return;
     QMessageBox box(iconOf(message.icon), titleOf(message), toQt(message.text), QMessageBox::Ok, parent);
     prepare(box);
+    const QAbstractButton* skip =
+        boxes >= patience ? box.addButton(QMessageBox::tr("&Skip the rest"), QMessageBox::RejectRole) : nullptr;
+    box.setDefaultButton(QMessageBox::Ok);
+    box.setEscapeButton(QMessageBox::Ok);
     scrollLongText(box);
+    ++boxes;
     box.exec();
+    skipping = skip && box.clickedButton() == skip;
 }
 
 bool QtDialogs::askYesNo(const Message& question) {

@@ -15,6 +15,8 @@ class QtDialogs : public Dialogs {
 public:
     explicit QtDialogs(const Program& program) : program(program) {}
 
+    void eventBegins() override;
+    /// After some hundred boxes of one event the box offers to skip the rest of them. Questions are asked all the same.
     void showMessage(const Message& message) override;
     bool askYesNo(const Message& question) override;
     std::string openFile(const FileDialog& dialog) override;
@@ -27,6 +29,8 @@ private:
     std::string chosenPath(QFileDialog& chooser, const FileDialog& dialog);
 
     const Program& program;
+    int boxes = 0;  ///< of the event under way
+    bool skipping = false;
     QString lastFolder;  ///< of the file chosen last in this run
 };
 

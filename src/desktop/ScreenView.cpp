@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Counted.h"
+#include "base/RuntimeError.h"
 #include "controls/Control.h"
 #include "controls/Form.h"
 #include "desktop/ChildWindow.h"
@@ -24,17 +26,36 @@ void ScreenView::act(Qt::FocusReason howFocusMoves, const std::function<void()>&
     if (underWay > 0 || screen.ended())
         return;
     reason = howFocusMoves;
-    ++underWay;
-    what();
-    --underWay;
+    failures.clear();
+    {
+        const Counted running(underWay);
+        guarded(what);
+    }
     refresh();
 }
 
-void ScreenView::later() {
-    if (std::exchange(posted, true))
+void ScreenView::failed() noexcept {
+    try {
+        if (const auto [text, isNew] = failures.insert(failureText()); isNew) {
+            untold.push_back(*text);
+            later();
+        }
+    } catch (...) {
+        // Not even room to remember it; what fails for want of memory is told when some is there again.
+    }
+}
+
+void ScreenView::tellFailures() {
+    if (underWay > 0)
         return;
-    QMetaObject::invokeMethod(
-        this, [this] { refresh(); }, Qt::QueuedConnection);
+    const Counted running(underWay);
+    for (const std::string& text : std::exchange(untold, {}))
+        screen.event([&] { screen.message(text, "", Icon::Critical); });
+}
+
+void ScreenView::later() {
+    posted = posted || QMetaObject::invokeMethod(
+                           this, [this] { refresh(); }, Qt::QueuedConnection);
 }
 
 void ScreenView::refresh() {
@@ -43,31 +64,22 @@ void ScreenView::refresh() {
         return;
     constexpr int rounds = 3;  // giving the focus runs reactions, which may change more
     for (int round = 0; round < rounds; ++round) {
-        showForms();
-        showControls();
+        guarded([this] { showForms(); });
+        guarded([this] { showControls(); });
         if (std::exchange(mainChanged, false))
-            mainWindowTouched();
-        if (!giveFocus())
+            guarded(mainWindowTouched);
+        if (!guarded([this] { return giveFocus(); }))
             break;
     }
-    placeKeyboard();
+    guarded([this] { placeKeyboard(); });
+    tellFailures();
 }
 
 void ScreenView::showForms() {
     if (changedForms.empty())
         return;
-    for (Form* form : std::exchange(changedForms, {})) {
-        ChildWindow* window = windowOf(*form);
-        if (window)
-            window->syncForm();
-        else if (form->visible())
-            window = windows[form] = new ChildWindow(*form, *this, desk);
-        else
-            continue;
-        if (form->visible() && window->isHidden())
-            window->fit();
-        window->setVisible(form->visible());
-    }
+    for (Form* form : std::exchange(changedForms, {}))
+        guarded([&] { showForm(*form); });
     for (Form* form : std::exchange(raised, {}))
         if (ChildWindow* window = windowOf(*form))
             window->raise();
@@ -77,6 +89,19 @@ void ScreenView::showForms() {
             window->raise();
     for (const auto& [form, window] : windows)
         window->colourBar(form == screen.frontForm());
+}
+
+void ScreenView::showForm(Form& form) {
+    ChildWindow* window = windowOf(form);
+    if (window)
+        window->syncForm();
+    else if (form.visible())
+        window = windows[&form] = new ChildWindow(form, *this, desk);
+    else
+        return;
+    if (form.visible() && window->isHidden())
+        window->fit();
+    window->setVisible(form.visible());
 }
 
 void ScreenView::showControls() {
@@ -112,9 +137,8 @@ bool ScreenView::giveFocus() {
     Control* target = keyboardTarget(*front);
     if (!target || target == focused)
         return false;
-    ++underWay;
+    const Counted running(underWay);
     screen.event([&] { screen.setFocus(*target); });
-    --underWay;
     return true;
 }
 

@@ -2,6 +2,9 @@
 
 #include <QObject>
 #include <functional>
+#include <set>
+#include <string>
+#include <type_traits>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -26,8 +29,29 @@ public:
     /// Runs one act of the user on the system, then shows what came of it. Does nothing while another act is under way,
     /// which is so as long as a message or file dialog of it is open. `reason`: how the focus moves, if it does.
     void act(Qt::FocusReason reason, const std::function<void()>& what);
+    /// Whether an act is under way.
+    bool busy() const { return underWay > 0; }
     /// Shows all that changed since the last time.
     void refresh();
+
+    /// Does what the toolkit asks of the system between two acts (a cell to paint, a key to filter, a tick, a size),
+    /// and gives its result, or an empty one when it fails. This is where exceptions stop: none may pass through the
+    /// toolkit's frames, whose painters and flags it would leave behind half done. Application stops what was not
+    /// foreseen. A failure is told in one box when the act under way has ended, and only once until the user acts
+    /// again, since what fails at a repaint fails at the next one too.
+    template <class Work, class Result = std::invoke_result_t<const Work&>>
+    Result guarded(const Work& work) noexcept {
+        try {
+            return work();
+        } catch (...) {
+            failed();
+        }
+        if constexpr (!std::is_void_v<Result>)
+            return {};
+    }
+    /// Takes note of the exception that is being handled; to be called within a catch alone.
+    void failed() noexcept;
+
     /// The desk has another size.
     void fitWindows();
     /// The toolkit moved the focus by itself; it is put back in a moment.
@@ -48,6 +72,7 @@ private:
 
     void later();
     void showForms();
+    void showForm(Form& form);
     void showControls();
     /// Whether the control stands on a page of its form that is not the one shown.
     bool onTurnedPage(const Control& control) const;
@@ -56,6 +81,7 @@ private:
     /// Gives the focus to the front form when nothing has it. True when that ran reactions.
     bool giveFocus();
     void placeKeyboard();
+    void tellFailures();
 
     Screen& screen;
     QWidget& desk;
@@ -67,6 +93,8 @@ private:
     bool focusMoved = false;
     bool posted = false;
     int underWay = 0;
+    std::set<std::string> failures;  ///< since the user's last act
+    std::vector<std::string> untold;
     Qt::FocusReason reason = Qt::OtherFocusReason;
 };
 

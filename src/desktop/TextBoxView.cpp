@@ -12,6 +12,7 @@
 #include "desktop/FilteredEdit.h"
 #include "desktop/MultiLineEdit.h"
 #include "desktop/QtText.h"
+#include "desktop/ScreenView.h"
 
 namespace plandesk::desktop {
 
@@ -40,7 +41,9 @@ protected:
     TextBox& box() const { return static_cast<TextBox&>(*subject); }
     QPalette::ColorRole backRole() const override { return QPalette::Base; }
     int characterWidth() const { return picture.fontMetrics().averageCharWidth(); }
-    int filter(int key) const { return subject ? user::filteredKey(box(), key) : 0; }
+    int filter(int key) const {
+        return screen.guarded([&] { return subject ? user::filteredKey(box(), key) : 0; });
+    }
     void hand(const std::string& text) {
         act([&] { user::edit(box(), text); });
     }
@@ -58,7 +61,7 @@ public:
         connect(&line, &QLineEdit::textEdited, this, [this](const QString& text) { hand(fromQt(text)); });
     }
 
-    bool eventFilter(QObject* watched, QEvent* event) override {
+    bool filterEvent(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::FocusOut) {
             // A box that was left shows how its text begins.
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
@@ -66,7 +69,7 @@ public:
                 reason != Qt::MenuBarFocusReason)
                 line.setCursorPosition(0);
         }
-        return TextBoxView::eventFilter(watched, event);
+        return TextBoxView::filterEvent(watched, event);
     }
     int naturalWidth(bool alone) const override {
         const bool number = subject && (box().keyPress || box().rightAligned);

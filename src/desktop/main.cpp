@@ -1,8 +1,11 @@
-#include <QApplication>
+#include <QSessionManager>
 #include <clocale>
+#include <optional>
 
 #include "controls/FileStore.h"
+#include "desktop/Application.h"
 #include "desktop/MainWindow.h"
+#include "desktop/Process.h"
 #include "desktop/QtPorts.h"
 #include "desktop/QtProgress.h"
 #include "desktop/Theme.h"
@@ -11,9 +14,12 @@
 int main(int, char* arguments[]) {
     using namespace plandesk;
     using namespace plandesk::desktop;
+    surviveFailedWrites();
     // The program has no command line; the toolkit is not to find one either.
     int count = 1;
-    QApplication application(count, arguments);
+    std::optional<ToolkitStart> start(std::in_place);
+    Application application(count, arguments);
+    start.reset();
     // The toolkit takes over the user's number forms; the documents know only the plain one.
     std::setlocale(LC_NUMERIC, "C");
     useTheme();
@@ -27,6 +33,9 @@ int main(int, char* arguments[]) {
     mdiInterface shell(proposal);
     MainWindow window(proposal, shell);
     dialogs.parent = progress.parent = &window;
+    const EndSignals endSignals([&window] { window.closeWhenIdle(); });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+                     [&window](QSessionManager& manager) { answerEndOfSession(window, manager); });
     window.show();
-    return QApplication::exec();
+    return Application::exec();
 }

@@ -32,6 +32,8 @@ void Grid::setColumns(std::span<const GridColumn> columns) {
 }
 
 GridColumn Grid::column(int column) const {
+    if (column < 0)
+        return {};
     const auto place = static_cast<std::size_t>(column);
     if (place < settings.size())
         return settings[place];

@@ -77,6 +77,41 @@ private slots:
         QVERIFY(seen);
     }
 
+    void afterTwoHundredBoxesOfOneEventTheRestCanBeSkipped() {
+        QtProgram program;
+        QtDialogs dialogs(program);
+        int shown = 0;
+        int offers = 0;
+        // Leaves the first offer unheeded and takes the second.
+        QTimer hand;
+        connect(&hand, &QTimer::timeout, &hand, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box)
+                return;
+            ++shown;
+            QAbstractButton* skip = box->button(QMessageBox::Ok);
+            for (QAbstractButton* button : box->buttons())
+                if (button->text() == "&Skip the rest" && ++offers == 2)
+                    skip = button;
+            skip->click();
+        });
+        hand.start(0);
+        const auto event = [&](int boxes) {
+            shown = offers = 0;
+            dialogs.eventBegins();
+            for (int box = 0; box < boxes; ++box)
+                dialogs.showMessage({"", "Wrong", Icon::Critical});
+        };
+        event(200);
+        QCOMPARE(shown, 200);
+        QCOMPARE(offers, 0);
+        event(100'000);
+        QCOMPARE(shown, 202);
+        QCOMPARE(offers, 2);
+        event(1);
+        QCOMPARE(shown, 1);
+    }
+
     void aQuestionIsAnswered_data() {
         QTest::addColumn<int>("key");
         QTest::addColumn<bool>("yes");

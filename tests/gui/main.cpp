@@ -1,18 +1,18 @@
 // Runs the test classes of this program: the one that the first argument names, or all of them. Further arguments go to
 // the test library.
 
-#include <QApplication>
 #include <QTest>
 #include <iostream>
 
+#include "desktop/Application.h"
 #include "desktop/Theme.h"
 #include "gui/Registry.h"
 
 int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
+    plandesk::desktop::Application application(argc, argv);
     plandesk::desktop::useTheme();
     const auto& classes = plandesk::test::registry();
-    QStringList arguments = QApplication::arguments();
+    QStringList arguments = QCoreApplication::arguments();
     int failures = 0;
     const std::string name = arguments.size() > 1 ? arguments[1].toStdString() : "";
     if (!name.empty()) {

@@ -1,5 +1,7 @@
 #include "controls/Screen.h"
 
+#include <memory>
+#include <new>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -237,7 +239,31 @@ TEST_F(ScreenTest, UnhandledErrorShowsOneBoxWithoutATitleAndTheProgramGoesOn) {
 
 TEST_F(ScreenTest, AnyOtherFailureIsShownLikewise) {
     screen.event([] { throw std::runtime_error("no more room"); });
-    EXPECT_EQ(boxes(), (std::vector<Message>{{"", "no more room", Icon::Critical}}));
+    screen.event([] { throw std::bad_alloc(); });
+    screen.event([] { throw 42; });
+    EXPECT_EQ(boxes(), (std::vector<Message>{{"", "no more room", Icon::Critical},
+                                             {"", "Out of memory", Icon::Critical},
+                                             {"", "Internal error", Icon::Critical}}));
+}
+
+TEST(ScreenTestOfBoxes, ABoxThatCannotBeShownEndsItsEventAndNothingElse) {
+    struct BrokenDialogs : test::RecordingDialogs {
+        void showMessage(const Message& /*message*/) override { throw std::bad_alloc(); }
+    } dialogs;
+    test::TestPorts machine;
+    Screen screen({dialogs, machine.clock, machine.files, machine.program});
+    screen.event([] { throw RuntimeError(ErrorNumber::Overflow); });
+    struct Fleeting : Form {
+        Fleeting(Screen& screen, bool& gone) : Form(screen, "frmFleeting", ""), gone(gone) {}
+        ~Fleeting() override { gone = true; }
+        bool& gone;
+    };
+    bool gone = false;
+    screen.unload(std::make_unique<Fleeting>(screen, gone));
+    EXPECT_TRUE(gone) << "no event is taken to be under way any longer";
+    bool ran = false;
+    screen.event([&] { ran = true; });
+    EXPECT_TRUE(ran);
 }
 
 TEST_F(ScreenTest, ErrorInAnInnerEventDoesNotEndTheOuterOne) {
@@ -248,6 +274,19 @@ TEST_F(ScreenTest, ErrorInAnInnerEventDoesNotEndTheOuterOne) {
     });
     EXPECT_TRUE(wentOn);
     EXPECT_EQ(boxes().size(), 1U);
+}
+
+TEST(ScreenTestOfBoxes, TheDialogsHearOfEachEventOfTheUserAndNotOfThoseWithin) {
+    struct CountingDialogs : test::RecordingDialogs {
+        int events = 0;
+        void eventBegins() override { ++events; }
+    } dialogs;
+    test::TestPorts machine;
+    Screen screen({dialogs, machine.clock, machine.files, machine.program});
+    screen.event([&] { screen.event([] {}); });
+    EXPECT_EQ(dialogs.events, 1);
+    screen.event([] { throw RuntimeError(ErrorNumber::Overflow); });
+    EXPECT_EQ(dialogs.events, 2);
 }
 
 TEST_F(ScreenTest, MessageIsShownAsGiven) {
