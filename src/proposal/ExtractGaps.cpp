@@ -8,9 +8,13 @@ namespace plandesk {
 
 namespace {
 
+/// The number stands at another place in each table.
+int placeOfNumber(const Recordset& table) {
+    return columnIndex(table.columns(), "ExtNo");
+}
+
 /// Adds `step` to the number of every visible row, in visit order.
-void renumber(Recordset& table, int step) {
-    const int extNo = columnIndex(table.columns(), "ExtNo");  // at a place of its own in each table
+void renumber(Recordset& table, int extNo, int step) {
     for (; !table.eof(); table.moveNext()) {
         table.set(extNo, toInteger32(valueNumber(table.get(extNo)) + step));
         table.update();
@@ -37,22 +41,23 @@ std::array<GapTable, 12> gapTables(const ExtractFamily& family) {
 }
 
 void openGap(Recordset& table, std::int32_t number, GapKind kind, Date today) {
+    const int extNo = placeOfNumber(table);
     if (table.rowCount() > 0) {
         table.setFilter(" ExtNo >= " + std::to_string(number));
         // From the highest number down, so that each number stays unique at each step.
         if (table.recordCount() > 0)
             table.setSort(" ExtNo DESC ");
-        renumber(table, 1);
+        renumber(table, extNo, 1);
     }
     table.setFilter("");
     table.moveFirst();
     table.setSort(" ExtNo ");
     table.addNew();
     if (kind == GapKind::Dated)
-        table.set("DateOf712", today);
+        table.set(ExtractColumn::DateOf712, today);
     if (kind == GapKind::WithStatus)
-        table.set("DocStatus", 0);
-    table.set("ExtNo", number);
+        table.set(OwnershipColumn::DocStatus, 0);
+    table.set(extNo, number);
     table.update();
 }
 
@@ -62,7 +67,7 @@ void closeGap(Recordset& table, std::int32_t number) {
     table.setFilter("");
     if (table.recordCount() > 0) {
         table.setFilter(" ExtNo > " + std::to_string(number));
-        renumber(table, -1);
+        renumber(table, placeOfNumber(table), -1);
     }
     table.setFilter("");
     table.moveFirst();

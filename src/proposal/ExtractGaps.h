@@ -14,13 +14,13 @@ namespace plandesk {
 /// What a gap's new row holds besides its number.
 enum class GapKind {
     NumberOnly = -1,
-    Dated = 1,       ///< `DateOf712` is today
-    WithStatus = 2,  ///< `DocStatus` is 0
+    Dated = 1,       ///< an extract: `DateOf712` is today
+    WithStatus = 2,  ///< an ownership row: `DocStatus` is 0
 };
 
 /// Moves every row numbered `number` or higher up by one and adds one row with that number. Leaves the table without a
 /// filter, sorted by `ExtNo`, on the new row.
-/// RuntimeError 6 when a number would pass 2147483647; 3265 when the table lacks the column.
+/// RuntimeError 6 when a number would pass 2147483647; 3265 when the table has no `ExtNo`.
 void openGap(Recordset& table, std::int32_t number, GapKind kind, Date today);
 
 /// Deletes every row with that number and moves the higher ones down by one. Leaves the table without a filter, on its

@@ -43,7 +43,8 @@ struct Records {
     }
 
     void setCount(int plot, int count) {
-        user::editCell(world.grid(relationForm, "dgd712ExtractRelation"), plot, 3, std::to_string(count));
+        user::editCell(world.grid(relationForm, "dgd712ExtractRelation"), plot, PlotColumn::NoOfPRC,
+                       std::to_string(count));
     }
     void saveRelation() {
         world.button(relationForm, "cmdSave712Relation").click();
@@ -91,7 +92,8 @@ void saveFirstRelation(benchmark::State& state) {
         world.shell.press("mnuNew");
         world.shell.press("mnuPlotExtRelationShip");
         world.box(relationForm, "txtNoOfPlot712").setText("1");
-        user::editCell(world.grid(relationForm, "dgd712ExtractRelation"), 0, 3, std::to_string(state.range(0)));
+        user::editCell(world.grid(relationForm, "dgd712ExtractRelation"), 0, PlotColumn::NoOfPRC,
+                       std::to_string(state.range(0)));
         state.ResumeTiming();
         world.button(relationForm, "cmdSave712Relation").click();
         world.ports.dialogs.take();
@@ -116,7 +118,7 @@ void changeNumberOfOwners(benchmark::State& state) {
     Grid& info = records.world.grid(extractForm, "dgdInfoOfExtract");
     records.world.proposal.forms.touch(extractForm)->show();
     for (auto _ : state)
-        user::editCell(info, 0, 5, std::to_string(ownersOfExtract));
+        user::editCell(info, 0, ExtractColumn::NoOfOwners, std::to_string(ownersOfExtract));
     countRows(state, 2 * ownersOfExtract);
 }
 

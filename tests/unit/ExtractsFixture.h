@@ -26,8 +26,8 @@ struct Extracts : testing::Test, World {
         (prc ? relation.txtNoOfPlot : relation.txtNoOfPlot712).setText(std::to_string(counts.size()));
         Grid& grid = prc ? relation.dgdPRCPlotRel : relation.dgd712ExtractRelation;
         for (int row = 0; row < static_cast<int>(counts.size()); ++row) {
-            user::editCell(grid, row, 2, std::string(" Plot ") + static_cast<char>('A' + row) + " ");
-            user::editCell(grid, row, 3, std::to_string(counts[static_cast<std::size_t>(row)]));
+            user::editCell(grid, row, PlotColumn::PlotName, std::string(" Plot ") + static_cast<char>('A' + row) + " ");
+            user::editCell(grid, row, PlotColumn::NoOfPRC, std::to_string(counts[static_cast<std::size_t>(row)]));
         }
         user::click(prc ? relation.cmdSave : relation.cmdSave712Relation);
         ports.dialogs.take();

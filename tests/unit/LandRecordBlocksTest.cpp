@@ -164,10 +164,10 @@ TEST_F(Blocks, AWholeSaveBuildsBothBlocksWithTheRightFormsMode) {
     relation.open();
     relation.txtNoOfPlot712.setText("1");
     relation.txtNoOfPlot.setText("1");
-    user::editCell(relation.dgd712ExtractRelation, 0, 3, "1");
+    user::editCell(relation.dgd712ExtractRelation, 0, PlotColumn::NoOfPRC, "1");
     user::click(relation.cmdSave712Relation);
     relation.SSTab1.setTab(1);
-    user::editCell(relation.dgdPRCPlotRel, 0, 3, "2");
+    user::editCell(relation.dgdPRCPlotRel, 0, PlotColumn::NoOfPRC, "2");
     tables.create(&Tables::rsPlotPRCSaved);
     user::click(relation.cmdSave);
     proposal.forms.unload("frmMain712");

@@ -338,7 +338,7 @@ void PlotModel::runSequence() {
             if (family.bound && !family.plots.empty()) {
                 const int row = upTo(static_cast<int>(family.plots.size()) - 1);
                 const int count = upTo(4);
-                EXPECT_TRUE(user::editCell(grid, row, 3, std::to_string(count)));
+                EXPECT_TRUE(user::editCell(grid, row, PlotColumn::NoOfPRC, std::to_string(count)));
                 family.plots[static_cast<std::size_t>(row)].count = count;
                 family.total = std::to_string(family.sum());
             }

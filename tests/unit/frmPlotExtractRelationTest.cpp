@@ -21,7 +21,7 @@ struct PlotExtractRelation : testing::Test, World {
         if (number.text() != std::to_string(counts.size()))
             number.setText(std::to_string(counts.size()));
         for (std::size_t row = 0; row < counts.size(); ++row)
-            user::editCell(grid, static_cast<int>(row), 3, std::to_string(counts[row]));
+            user::editCell(grid, static_cast<int>(row), PlotColumn::NoOfPRC, std::to_string(counts[row]));
     }
     void save(bool prc = false) { user::click(prc ? form.cmdSave : form.cmdSave712Relation); }
     std::vector<Message> boxes() { return ports.dialogs.take(); }
@@ -59,13 +59,13 @@ TEST_F(PlotExtractRelation, TheGridsNameTheirColumns) {
     enter(true, {1});
     for (const auto& [grid, count] :
          {std::pair{&form.dgd712ExtractRelation, "No. of Extract"}, std::pair{&form.dgdPRCPlotRel, "No. of PRC"}}) {
-        EXPECT_EQ(grid->column(0).caption, "Sr No");
-        EXPECT_EQ(grid->column(0).width, 0);
-        EXPECT_EQ(grid->column(1).caption, " ");
-        EXPECT_TRUE(grid->column(1).locked);
-        EXPECT_EQ(grid->column(2).caption, "Plot Name");
-        EXPECT_EQ(grid->column(3).caption, count);
-        EXPECT_EQ(grid->cellText(0, 1), "For Plot No : 1");
+        EXPECT_EQ(grid->column(PlotColumn::SrNo).caption, "Sr No");
+        EXPECT_EQ(grid->column(PlotColumn::SrNo).width, 0);
+        EXPECT_EQ(grid->column(PlotColumn::PlotDesciption).caption, " ");
+        EXPECT_TRUE(grid->column(PlotColumn::PlotDesciption).locked);
+        EXPECT_EQ(grid->column(PlotColumn::PlotName).caption, "Plot Name");
+        EXPECT_EQ(grid->column(PlotColumn::NoOfPRC).caption, count);
+        EXPECT_EQ(grid->cellText(0, PlotColumn::PlotDesciption), "For Plot No : 1");
     }
 }
 
@@ -90,8 +90,8 @@ TEST_F(PlotExtractRelation, LoweringTheNumberRemovesPlotsOnThePrcTabOnly) {
     enter(true, {1, 2, 3});
     user::type(form.txtNoOfPlot712, "2");
     user::type(form.txtNoOfPlot, "2");
-    EXPECT_EQ(column(*tables.rsPlot712, 0), "1 2 3");
-    EXPECT_EQ(column(*tables.rsPlotPRC, 0), "1 2");
+    EXPECT_EQ(column(*tables.rsPlot712, PlotColumn::SrNo), "1 2 3");
+    EXPECT_EQ(column(*tables.rsPlotPRC, PlotColumn::SrNo), "1 2");
     EXPECT_EQ(form.txtNoOfExtract712.text(), "6");
     EXPECT_EQ(form.txtNoOfPrc.text(), "3");
 }
@@ -103,14 +103,14 @@ TEST_F(PlotExtractRelation, AddRaisesTheNumberByOne) {
     user::click(form.cmdAddPlotPRC);
     EXPECT_EQ(form.txtNoOfPlot712.text(), "2");
     EXPECT_EQ(form.txtNoOfPlot.text(), "1");
-    EXPECT_EQ(column(*tables.rsPlot712, 3), "null null");
+    EXPECT_EQ(column(*tables.rsPlot712, PlotColumn::NoOfPRC), "null null");
     EXPECT_EQ(form.txtNoOfExtract712.text(), "0");
 }
 
 TEST_F(PlotExtractRelation, ARecountKeepsTheCurrentRow) {
     enter(false, {1, 2});
-    user::goToCell(form.dgd712ExtractRelation, 0, 3);
-    user::editCell(form.dgd712ExtractRelation, 0, 3, "5");
+    user::goToCell(form.dgd712ExtractRelation, 0, PlotColumn::NoOfPRC);
+    user::editCell(form.dgd712ExtractRelation, 0, PlotColumn::NoOfPRC, "5");
     EXPECT_EQ(form.dgd712ExtractRelation.currentRow(), 0);
     EXPECT_EQ(form.txtNoOfExtract712.text(), "7");
 }
@@ -118,17 +118,17 @@ TEST_F(PlotExtractRelation, ARecountKeepsTheCurrentRow) {
 TEST_F(PlotExtractRelation, ATotalBeyondSixteenBitsIsAnErrorAndTheCountStays) {
     enter(false, {20000, 0});
     boxes();
-    user::editCell(form.dgd712ExtractRelation, 1, 3, "20000");
+    user::editCell(form.dgd712ExtractRelation, 1, PlotColumn::NoOfPRC, "20000");
     EXPECT_EQ(boxes(), (std::vector<Message>{{"", "Overflow", Icon::Critical}}));
-    EXPECT_EQ(column(*tables.rsPlot712, 3), "20000 20000");
+    EXPECT_EQ(column(*tables.rsPlot712, PlotColumn::NoOfPRC), "20000 20000");
     EXPECT_EQ(form.txtNoOfExtract712.text(), "20000");
     EXPECT_TRUE(form.visible());
 }
 
 TEST_F(PlotExtractRelation, ACountThatIsNoNumberIsRefused) {
     enter(false, {3});
-    user::editCell(form.dgd712ExtractRelation, 0, 3, "three");
-    EXPECT_EQ(column(*tables.rsPlot712, 3), "3");
+    user::editCell(form.dgd712ExtractRelation, 0, PlotColumn::NoOfPRC, "three");
+    EXPECT_EQ(column(*tables.rsPlot712, PlotColumn::NoOfPRC), "3");
     EXPECT_TRUE(boxes().empty());
 }
 
@@ -143,7 +143,7 @@ TEST_F(PlotExtractRelation, ATotalThatIsNoNumberIsAnErrorOfTheSave) {
 
 TEST_F(PlotExtractRelation, TheFirstSaveNumbersAllPlotsFromOne) {
     enter(false, {2, 1});
-    user::editCell(form.dgd712ExtractRelation, 0, 2, "  Plot A ");
+    user::editCell(form.dgd712ExtractRelation, 0, PlotColumn::PlotName, "  Plot A ");
     save();
     EXPECT_EQ(proposal.plotRelXML, "2^#^3^#^1$-$Plot A$-$2@->2$-$$-$1@->");
     EXPECT_EQ(proposal.plotPrcDetailsXML, "0^#^0^#^");
@@ -152,8 +152,8 @@ TEST_F(PlotExtractRelation, TheFirstSaveNumbersAllPlotsFromOne) {
     EXPECT_EQ(numbers(*tables.rsOwner712), "1 2 3");
     EXPECT_EQ(numbers(*tables.rsOwnership), "1 2 3");
     EXPECT_EQ(numbers(*tables.rsSchemeSold), "1 2 3");
-    EXPECT_EQ(column(*tables.rsExtract712, 3), "15/03/2024 15/03/2024 15/03/2024");
-    EXPECT_EQ(column(*tables.rsOwnership, 3), "0 0 0");
+    EXPECT_EQ(column(*tables.rsExtract712, ExtractColumn::DateOf712), "15/03/2024 15/03/2024 15/03/2024");
+    EXPECT_EQ(column(*tables.rsOwnership, OwnershipColumn::DocStatus), "0 0 0");
     EXPECT_EQ(boxes(),
               (std::vector<Message>{{"", "7/12 Extract Relationship saved Succussfully ! ", Icon::Information}}));
 }
@@ -189,7 +189,7 @@ TEST_F(PlotExtractRelation, ARaisedCountInsertsTheNewExtractBehindThePlotsRun) {
     enter(false, {3, 2});
     save();
     EXPECT_EQ(numbers(*tables.rsExtract712), "1 2 4 5 3");
-    EXPECT_EQ(column(*tables.rsExtract712, 1), "a b c d null");
+    EXPECT_EQ(column(*tables.rsExtract712, ExtractColumn::SurveyNo), "a b c d null");
 }
 
 TEST_F(PlotExtractRelation, ReducingAPlotByTwoRemovesTheWrongRowsFromTheSecondOn) {
@@ -204,7 +204,7 @@ TEST_F(PlotExtractRelation, ReducingAPlotByTwoRemovesTheWrongRowsFromTheSecondOn
     enter(false, {1, 2});
     save();
     // 2 and 3 go in ascending order: "b", then what was "d".
-    EXPECT_EQ(column(*tables.rsExtract712, 1), "a c e");
+    EXPECT_EQ(column(*tables.rsExtract712, ExtractColumn::SurveyNo), "a c e");
     EXPECT_EQ(numbers(*tables.rsExtract712), "1 2 3");
 }
 
@@ -220,7 +220,7 @@ TEST_F(PlotExtractRelation, NumbersBelowOneAreSkipped) {
     enter(false, {-3});
     save();
     // -2 to 2 were to go; 1 takes "a", and then there is no 2.
-    EXPECT_EQ(column(*tables.rsExtract712, 1), "b");
+    EXPECT_EQ(column(*tables.rsExtract712, ExtractColumn::SurveyNo), "b");
     EXPECT_EQ(numbers(*tables.rsExtract712), "1");
     EXPECT_EQ(proposal.noOfExtract712, -3);
 }
@@ -244,8 +244,8 @@ TEST_F(PlotExtractRelation, ProceduresThatSetTheColumnsRunByName) {
     form.dgdPRCPlotRel.setColumns({});
     EXPECT_TRUE(form.run("dgd712ExtractRelationColSetting"));
     EXPECT_TRUE(form.run("dgdPRCPlotRelColSetting"));
-    EXPECT_EQ(form.dgd712ExtractRelation.column(3).caption, "No. of Extract");
-    EXPECT_EQ(form.dgdPRCPlotRel.column(3).caption, "No. of PRC");
+    EXPECT_EQ(form.dgd712ExtractRelation.column(PlotColumn::NoOfPRC).caption, "No. of Extract");
+    EXPECT_EQ(form.dgdPRCPlotRel.column(PlotColumn::NoOfPRC).caption, "No. of PRC");
     EXPECT_TRUE(form.run("Save712ExtractRaltionShip"));
     EXPECT_EQ(proposal.plotPrcDetailsXML, "1^#^1^#^1$-$$-$1@->");
 }
@@ -275,7 +275,7 @@ TEST_F(PlotExtractRelation, ADeletedPlotIsAskedForAndItsExtractsGoWithTheSave) {
                                      Icon::Critical}}));
     ports.dialogs.answers = {"yes"};
     user::deleteRow(form.dgd712ExtractRelation, 1);
-    EXPECT_EQ(column(*tables.rsPlot712, 0), "1 3");
+    EXPECT_EQ(column(*tables.rsPlot712, PlotColumn::SrNo), "1 3");
     EXPECT_EQ(form.txtNoOfPlot712.text(), "3");
     EXPECT_EQ(form.txtNoOfExtract712.text(), "2");
     save();
@@ -340,10 +340,10 @@ TEST_F(PlotExtractRelation, EnterOnACountStartsTheNextPlotsNameWithADigit) {
     enter(true, {1, 1});
     for (const auto& [grid, digit] :
          {std::pair{&form.dgd712ExtractRelation, "0"}, std::pair{&form.dgdPRCPlotRel, "1"}}) {
-        user::goToCell(*grid, 0, 3);
+        user::goToCell(*grid, 0, PlotColumn::NoOfPRC);
         user::press(*grid, "4");
         user::press(*grid, "Enter");
-        EXPECT_EQ(grid->cellText(0, 3), "4");
+        EXPECT_EQ(grid->cellText(0, PlotColumn::NoOfPRC), "4");
         EXPECT_EQ(grid->currentRow(), 1);
         EXPECT_EQ(grid->currentColumn(), 2);
         EXPECT_EQ(grid->editText(), digit);
@@ -352,10 +352,10 @@ TEST_F(PlotExtractRelation, EnterOnACountStartsTheNextPlotsNameWithADigit) {
 
 TEST_F(PlotExtractRelation, EnterOnTheLastCountActsAsTab) {
     enter(false, {1, 1});
-    user::goToCell(form.dgd712ExtractRelation, 1, 3);
+    user::goToCell(form.dgd712ExtractRelation, 1, PlotColumn::NoOfPRC);
     user::press(form.dgd712ExtractRelation, "Enter");
     EXPECT_TRUE(form.txtNoOfExtract712.focused());
-    user::goToCell(form.dgd712ExtractRelation, 0, 2);
+    user::goToCell(form.dgd712ExtractRelation, 0, PlotColumn::PlotName);
     user::press(form.dgd712ExtractRelation, "Enter");
     EXPECT_EQ(form.dgd712ExtractRelation.currentColumn(), 3);
 }
@@ -364,10 +364,10 @@ TEST_F(PlotExtractRelation, EnterOnTheLastRowActsAsTabWhenTheNumberOfPlotsIsBeyo
     enter(false, {1, 1});
     ports.dialogs.answers = {"yes"};
     user::deleteRow(form.dgd712ExtractRelation, 0);
-    user::goToCell(form.dgd712ExtractRelation, 0, 3);
+    user::goToCell(form.dgd712ExtractRelation, 0, PlotColumn::NoOfPRC);
     user::press(form.dgd712ExtractRelation, "7");
     user::press(form.dgd712ExtractRelation, "Enter");
-    EXPECT_EQ(form.dgd712ExtractRelation.cellText(0, 3), "7");
+    EXPECT_EQ(form.dgd712ExtractRelation.cellText(0, PlotColumn::NoOfPRC), "7");
     EXPECT_FALSE(form.dgd712ExtractRelation.editing());
     EXPECT_TRUE(form.txtNoOfExtract712.focused());
 }
@@ -401,7 +401,7 @@ TEST_F(PlotExtractRelation, ResetOfThePrcPlotsLeavesTheirTotal) {
 
 TEST_F(PlotExtractRelation, ANameWithSeparatorsBreaksItsOwnEntry) {
     enter(false, {1});
-    user::editCell(form.dgd712ExtractRelation, 0, 2, "A$-$B@->");
+    user::editCell(form.dgd712ExtractRelation, 0, PlotColumn::PlotName, "A$-$B@->");
     form.Save712ExtractRaltionShip();
     EXPECT_EQ(proposal.plotRelXML, "1^#^1^#^1$-$A$-$B@->$-$1@->");
 }
@@ -435,7 +435,7 @@ TEST_F(PlotExtractRelation, LongWorkTellsHowFarItHasCome) {
     auto& relation = other.forms.get<frmPlotExtractRelation>();
     relation.open();
     relation.txtNoOfPlot712.setText("1");
-    user::editCell(relation.dgd712ExtractRelation, 0, 3, "40");
+    user::editCell(relation.dgd712ExtractRelation, 0, PlotColumn::NoOfPRC, "40");
     user::click(relation.cmdSave712Relation);
     EXPECT_EQ(told.steps, 40);
     EXPECT_EQ(told.told, 40);
