@@ -73,7 +73,7 @@ public:
     TextBox txtVideReceiptNo{*this, "txtVideReceiptNo"};
     DatePicker DTPReceiptDate{*this, "DTPReceiptDate"};
 
-    // The hints stand below every tab; a click acts as the key
+    // The hints stand above every tab; a click acts as the key
     Label lblSave{*this, "lblSave", "Press {F2} for Save"};
     Label lblToggle{*this, "lblToggle", "Press {F3} for Toggle"};
     Label lblEsc{*this, "lblEsc", "Press {Esc} for Close"};

@@ -6,7 +6,10 @@ namespace plandesk {
 
 namespace {
 
-constexpr LayoutRow headRows[] = {{"", "Deve. Right certificate number :", "txtDRCNumber"}};
+constexpr LayoutRow headRows[] = {
+    {"", "", "lblSave lblToggle lblEsc"},
+    {"", "Deve. Right certificate number :", "txtDRCNumber"},
+};
 
 constexpr LayoutRow transferorRows[] = {
     {"", "Transferor's Folio number :", "txtTransferorFolioNo"},
@@ -79,11 +82,12 @@ constexpr LayoutPage pages[] = {{transferorGroups}, {transfereeGroups}, {officeG
 constexpr std::string_view tabs[] = {"Transferors", "Transferees", "For office use"};
 
 constexpr Layout sheet{
+    .questionWidth = 62,
     .top = head,
     .tabs = "SSTab1",
     .tabCaptions = tabs,
     .pages = pages,
-    .buttons = "lblSave lblToggle lblEsc cmdSave cmdReferesh cmdClose",
+    .buttons = "cmdSave cmdReferesh cmdClose",
 };
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include <benchmark/benchmark.h>
 
 #include "desktop/Theme.h"
+#include "drc/frmDRCUtilisationForm.h"
 #include "gui/GridForm.h"
 #include "gui/Session.h"
 #include "particulars/AnnexureACont.h"
@@ -152,6 +153,31 @@ void keyPressToRepaint(benchmark::State& state) {
     state.SetLabel("page " + std::to_string(page + 1) + ", " + box.name());
 }
 BENCHMARK(keyPressToRepaint)->DenseRange(0, pageCount - 1)->Unit(benchmark::kMillisecond);
+
+/// A key in a figure of a development-rights form, whose words are written anew.
+void keyPressInAFigureToItsWords(benchmark::State& state) {
+    needApplication();
+    Session session;
+    session.press("mnuDCRUtilization");
+    auto& form = session.form<frmDRCUtilisationForm>();
+    form.txtConsiderationRs.setText("98,76,54,321.5");
+    session.window.forms().act(Qt::OtherFocusReason, [&] { form.txtConsiderationRs.setFocus(); });
+    session.settle();
+    QWidget& figure = session.widget(form.txtConsiderationRs);
+    const PaintCounter counter;
+    int keys = 0;
+    for (auto round : state) {
+        const std::string before = form.txtConsiderationRsWord.text();
+        QTest::keyClick(&figure, keys % 2 == 0 ? Qt::Key_7 : Qt::Key_Backspace);
+        QCoreApplication::processEvents();
+        if (form.txtConsiderationRsWord.text() == before)
+            state.SkipWithError("the words stayed");
+        ++keys;
+    }
+    if (counter.paints < 2 * keys)
+        state.SkipWithError("figure and words were not painted at every key");
+}
+BENCHMARK(keyPressInAFigureToItsWords)->Unit(benchmark::kMillisecond);
 
 /// An answer that opens three rows or hides them, so that the page is laid out anew.
 void answerThatMovesThePageToRepaint(benchmark::State& state) {
