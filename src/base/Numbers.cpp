@@ -69,7 +69,7 @@ private:
 
     void takeTrailingSign() {
         if (take("-"))
-            std::ranges::rotate(plain, plain.end() - 1);
+            std::rotate(plain.begin(), plain.end() - 1, plain.end());
         else if (take("+"))
             plain.pop_back();
     }
