@@ -39,7 +39,7 @@ DocCheckList::DocCheckList(Proposal& proposal, std::string_view name, const DocC
     cmdPrevious.click = [this] { cmdPrevious_Click(); };
     cmdSave.click = [this] { cmdSave_Click(); };
     cmdSaveALL.click = [this] { this->proposal.commands.saveProposal(); };
-    Command5.click = [this] { this->proposal.commands.open("rptDocChecklist"); };
+    Command5.click = [this] { this->proposal.commands.print("rptDocChecklist"); };
     cmdClose.toolTip = closesProgramTip;
     cmdClose.click = [this] { closeAllForms(this->proposal); };
 }

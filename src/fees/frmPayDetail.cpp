@@ -237,7 +237,7 @@ void frmPayDetail::saveSecondList() {
 }
 
 void frmPayDetail::cmdPrint_Click() {
-    proposal.commands.open("rptPaymentDetails");
+    proposal.commands.print("rptPaymentDetails");
     proposal.noReportReturn = true;
 }
 

@@ -78,7 +78,7 @@ void AnnexureACont::wireButtons() {
     cmdPrevious.click = [this] { cmdPrevious_Click(); };
     cmdSave.click = [this] { cmdSave_Click(); };
     cmdSaveALL.click = [this] { proposal.commands.saveProposal(); };
-    Command5.click = [this] { proposal.commands.open("rptAnnexture"); };
+    Command5.click = [this] { proposal.commands.print("rptAnnexutreA"); };
     Command9.click = [this] { hideParticulars(proposal); };
     cmdClose.click = [this] { closeAllForms(proposal); };
 }

@@ -16,7 +16,7 @@ StepLinks::StepLinks(Form& form, Proposal& proposal, Label StepLinks::*here)
     const Link links[] = {
         {&StepLinks::lblAnnextureA, [&proposal] { showAnnexureFirstPage(proposal); }},
         {&StepLinks::lblAnnexureB, [&proposal] { showSectionFourPage(proposal); }},
-        {&StepLinks::lblPayment, [&proposal] { proposal.commands.showPayment(); }},
+        {&StepLinks::lblPayment, [&proposal] { proposal.commands.open("frmPayDetail"); }},
     };
     for (const Link& link : links) {
         (this->*link.label).setForeColor(blue);

@@ -104,8 +104,8 @@ void frmAnnexureA::wireButtons() {
     cmdSaveALL.click = [this] { proposal.commands.saveProposal(); };
     cmdClose.click = [this] { cmdClose_Click(); };
     Command1.click = [this] { Command1_Click(); };
-    cmdPrint.click = [this] { proposal.commands.open("rptAnnexture"); };
-    cmdUS84.click = [this] { proposal.commands.open("cmdUS84"); };
+    cmdPrint.click = [this] { proposal.commands.print("rptAnnexutreA"); };
+    cmdUS84.click = [this] { proposal.commands.print("rptReciept"); };
     cmdPlotRelation.click = [this] { proposal.commands.open("frmPlotExtractRelation"); };
 }
 

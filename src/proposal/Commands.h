@@ -20,9 +20,10 @@ struct Commands {
     Action buildPRCBlock = nothing;      ///< replaces `prcOwnerXML` when there are PRCs
     Action readXml = nothing;            ///< the steps of opening a file, without setting the proposal flags
     Action refreshMenus = nothing;
-    Action showPayment = nothing;  ///< shows the payment form with the fee area of the Particulars
-    /// Opens the form or report of that name; does nothing for one that does not exist yet.
+    /// Opens the form of that name as the catalogue of forms tells; one that does not exist yet is told in a box.
     std::function<void(std::string_view name)> open = [](std::string_view) {};
+    /// Fills the report of that name and shows it; one that does not exist yet is told in a box.
+    std::function<void(std::string_view report)> print = [](std::string_view) {};
 };
 
 }  // namespace plandesk

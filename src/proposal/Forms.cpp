@@ -4,13 +4,24 @@
 
 namespace plandesk {
 
+void Forms::declare(std::span<const FormRow> all) {
+    catalogue = all;
+    for (const FormRow& row : catalogue)
+        add(row);
+}
+
+void Forms::add(const FormRow& row) {
+    if (row.make)
+        rows[std::string(row.name)] = row;
+}
+
 Form* Forms::touch(std::string_view name) {
     if (Form* form = loaded(name))
         return form;
-    const auto maker = makers.find(name);
-    if (maker == makers.end())
+    const auto found = rows.find(name);
+    if (found == rows.end())
         return nullptr;
-    Form& form = *(live[maker->first] = maker->second(proposal));
+    Form& form = *(live[found->first] = found->second.make(proposal));
     // A load reaction is an event of its own: what fails in it is told in its message, and the form stands as far as it
     // came.
     proposal.screen.event([&form] { form.load(); });
@@ -23,12 +34,23 @@ Form* Forms::loaded(std::string_view name) const {
 }
 
 bool Forms::known(std::string_view name) const {
-    return makers.contains(name);
+    return rows.contains(name);
+}
+
+bool Forms::open(std::string_view name) {
+    const auto found = rows.find(name);
+    if (found == rows.end())
+        return false;
+    if (found->second.open)
+        found->second.open(proposal);
+    else
+        touch(name)->show();
+    return true;
 }
 
 std::vector<std::string> Forms::names() const {
     std::vector<std::string> names;
-    for (const auto& [name, maker] : makers)
+    for (const auto& [name, row] : rows)
         names.push_back(name);
     return names;
 }
@@ -40,6 +62,12 @@ void Forms::unload(std::string_view name) {
     std::unique_ptr<Form> gone = std::move(form->second);
     live.erase(form);
     proposal.screen.unload(std::move(gone));
+}
+
+void Forms::unloadDropped() {
+    for (const FormRow& row : catalogue)
+        if (row.droppedByNew)
+            unload(row.name);
 }
 
 }  // namespace plandesk

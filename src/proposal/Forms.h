@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +13,21 @@ namespace plandesk {
 
 class Proposal;
 
+/// One form of the system, a row of the catalogue of forms.
+struct FormRow {
+    std::string_view name;
+    std::unique_ptr<Form> (*make)(Proposal& proposal) = nullptr;  ///< null: the form is still to come
+    bool droppedByNew = false;                                    ///< New and Open unload it
+    void (*open)(Proposal& proposal) = nullptr;                   ///< how it is opened; null: touched and shown
+};
+
+/// The row of a form whose class stands.
+template <class T>
+constexpr FormRow formRow(bool droppedByNew, void (*open)(Proposal& proposal) = nullptr) {
+    return {T::formName, [](Proposal& owner) -> std::unique_ptr<Form> { return std::make_unique<T>(owner); },
+            droppedByNew, open};
+}
+
 /// The forms of the open proposal. Touching a form loads it: constructs it and runs its load reaction. Hiding keeps it,
 /// unloading destroys it with all it holds.
 /// A form class says its name as `static constexpr std::string_view formName` and is constructed from a Proposal.
@@ -20,10 +35,12 @@ class Forms {
 public:
     explicit Forms(Proposal& proposal) : proposal(proposal) {}
 
-    /// Makes the form known by name, so that menus and scripts can touch it.
+    /// Makes the forms of the catalogue, which outlives this, known by name, so that menus and scripts can touch them.
+    void declare(std::span<const FormRow> catalogue);
+    /// The same for one form, which New and Open keep.
     template <class T>
     void declare() {
-        makers[std::string(T::formName)] = [](Proposal& owner) { return std::make_unique<T>(owner); };
+        add(formRow<T>(false));
     }
 
     /// Touches the form; one that was not declared yet is declared first.
@@ -39,17 +56,24 @@ public:
     /// The form of that name in any case when it is loaded, else null. Loads nothing.
     Form* loaded(std::string_view name) const;
     bool known(std::string_view name) const;
+    /// Opens the form of that name in any case as its row tells. False when no such form is known.
+    bool open(std::string_view name);
     /// Names of all known forms, loaded or not, in alphabetical order.
     std::vector<std::string> names() const;
     /// Destroys the form when it is loaded. Its contents are gone; the next touch makes it afresh.
     void unload(std::string_view name);
+    /// Unloads the forms that New and Open drop, in the order of the catalogue.
+    void unloadDropped();
 
     /// The loaded forms by name.
     const std::map<std::string, std::unique_ptr<Form>, IgnoringCase>& all() const { return live; }
 
 private:
+    void add(const FormRow& row);
+
     Proposal& proposal;
-    std::map<std::string, std::function<std::unique_ptr<Form>(Proposal&)>, IgnoringCase> makers;
+    std::span<const FormRow> catalogue;
+    std::map<std::string, FormRow, IgnoringCase> rows;  ///< of the forms that can be made
     std::map<std::string, std::unique_ptr<Form>, IgnoringCase> live;
 };
 

@@ -9,7 +9,6 @@ namespace plandesk {
 
 namespace {
 
-// The icons of the 7/12 extracts and the PRCs answer even before their forms stand: they ask for the relation first.
 constexpr std::array entries = std::to_array<MenuEntry>({
     {"mnuFile", "&File", "", EntryKind::Submenu},
     {"mnuNew", "&New", "mnuFile", EntryKind::Command},
@@ -39,8 +38,8 @@ constexpr std::array entries = std::to_array<MenuEntry>({
     {"mnuPlotareaExt", "&Plot area details", "", EntryKind::Submenu},
     {"mnuPlotExtRelationShip", "&Plot extract relationship", "mnuPlotareaExt", EntryKind::Form,
      "frmPlotExtractRelation"},
-    {"mnu712Ext", "7/12 extract", "mnuPlotareaExt", EntryKind::Icon, "", 0},
-    {"mnuPrc", "PRC", "mnuPlotareaExt", EntryKind::Icon, "", 1},
+    {"mnu712Ext", "7/12 extract", "mnuPlotareaExt", EntryKind::Icon, "frmMain712", 0},
+    {"mnuPrc", "PRC", "mnuPlotareaExt", EntryKind::Icon, "frmPRCEXT", 1},
     {"mnuNaOrder", "NA Order", "mnuPlotareaExt", EntryKind::Icon, "frmNaOrder", 2},
     {"mnuUlcOrder", "ULC Order", "mnuPlotareaExt", EntryKind::Icon, "frmScrutinyULC", 3},
     {"mnuHelp", "&Help", "", EntryKind::Submenu},

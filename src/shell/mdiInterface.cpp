@@ -1,98 +1,35 @@
 #include "shell/mdiInterface.h"
 
-#include <algorithm>
-#include <array>
+#include <string>
 
-#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "document/AnnexureB.h"
 #include "document/LandRecordBlocks.h"
 #include "document/ReadXML.h"
 #include "document/SaveProposal.h"
-#include "drc/frmDRCTransfer.h"
-#include "drc/frmDRCTransferCont.h"
-#include "drc/frmDRCUtilisationForm.h"
-#include "drc/frmIssuOfDRc.h"
 #include "fees/frmDocCheckList.h"
-#include "fees/frmDocCheckList1.h"
 #include "fees/frmPayDetail.h"
-#include "landrecords/ExtractForm.h"
 #include "landrecords/Ownership.h"
-#include "landrecords/frmNaOrder.h"
-#include "landrecords/frmPlotExtractRelation.h"
-#include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
 #include "particulars/particulars.h"
-#include "shell/frmAbout.h"
-#include "shell/frmHelp.h"
+#include "shell/FormCatalogue.h"
 
 namespace plandesk {
 
 namespace {
 
-// The discretion, development-right and conditional checklist forms keep their contents across New and Open.
-constexpr std::array<std::string_view, 19> unloadedForms = {"AnnexureACont",
-                                                            "frmAnnexureA",
-                                                            "frmbuildingcompletioncertificate",
-                                                            "frmcompletionuptoplinthlevel",
-                                                            "frmDocCheckList",
-                                                            "frmforpartoccupancycertificate",
-                                                            "frmMain712",
-                                                            "frmNaOrder",
-                                                            "frmnoticeofcommencementofwork",
-                                                            "frmofsupervision",
-                                                            "frmPayDetail",
-                                                            "frmPlotExtractRelation",
-                                                            "frmPRCEXT",
-                                                            "frmScrutinyULC",
-                                                            "frmtdrfortransferringownership",
-                                                            "frmULC20aDetails",
-                                                            "frmUS22",
-                                                            "frmUS84",
-                                                            "frmPlotExtractRelation"};
-
 constexpr Colour windowBack = fromBlueGreenRed(0x669DC6);
 constexpr Colour highlight = fromBlueGreenRed(0xD3EBED);
 constexpr Colour boxBack = white;  // the system's colour number 9
-
-void uloadAllForms(Proposal& proposal) {
-    for (const std::string_view form : unloadedForms)
-        proposal.forms.unload(form);
-}
-
-void hideWhenLoaded(Proposal& proposal, std::initializer_list<std::string_view> names) {
-    for (const std::string_view name : names)
-        if (Form* form = proposal.forms.loaded(name))
-            form->hide();
-}
 
 }  // namespace
 
 mdiInterface::mdiInterface(Proposal& proposal) : proposal(proposal) {
     proposal.screen.setCaption("Plandesk  Proposal  System");
-    declareForms();
+    proposal.forms.declare(formCatalogue());
     fillCommands();
     loadRoutine();
-}
-
-void mdiInterface::declareForms() {
-    Forms& forms = proposal.forms;
-    forms.declare<frmAnnexureA>();
-    forms.declare<AnnexureACont>();
-    forms.declare<frmPayDetail>();
-    forms.declare<frmDocCheckList>();
-    forms.declare<frmDocCheckList1>();
-    forms.declare<frmPlotExtractRelation>();
-    forms.declare<frmMain712>();
-    forms.declare<frmPRCEXT>();
-    forms.declare<frmNaOrder>();
-    forms.declare<frmIssuOfDRc>();
-    forms.declare<frmDRCTransfer>();
-    forms.declare<frmDRCTransferCont>();
-    forms.declare<frmDRCUtilisationForm>();
-    forms.declare<frmAbout>();
-    forms.declare<frmHelp>();
 }
 
 void mdiInterface::fillCommands() {
@@ -105,8 +42,8 @@ void mdiInterface::fillCommands() {
     asked.buildPRCBlock = [this] { buildPRCBlock(proposal); };
     asked.readXml = [this] { openFile(); };
     asked.refreshMenus = [this] { refreshMenus(); };
-    asked.showPayment = [this] { showPayment(proposal); };
     asked.open = [this](std::string_view name) { openForm(name); };
+    asked.print = [this](std::string_view) { tellNotThereYet(); };
 
     auto& named = proposal.procedures;
     named["saveProposal"] = asked.saveProposal;
@@ -115,7 +52,7 @@ void mdiInterface::fillCommands() {
     named["buildPRCBlock"] = asked.buildPRCBlock;
     named["buildOwnership"] = [this] { buildOwnership(proposal); };
     named["refreshMenus"] = asked.refreshMenus;
-    named["uloadAllForms"] = [this] { uloadAllForms(proposal); };
+    named["uloadAllForms"] = [this] { uloadAllForms(); };
     named["requireParticulars"] = [this] { requireParticulars(); };
     named["closeAllForms"] = [this] { closeAllForms(proposal); };
     named["showAnnexureFirstPage"] = [this] { showAnnexureFirstPage(proposal); };
@@ -211,95 +148,6 @@ void mdiInterface::Timer2_Timer() {
         paintBackground();
 }
 
-void mdiInterface::mnuNew_Click() {
-    // The file's path outlives the unload, so that emptying the path box below clears the caption exactly when a file
-    // was open.
-    const Form* earlier = proposal.forms.loaded("frmAnnexureA");
-    const std::string path = earlier ? static_cast<const frmAnnexureA*>(earlier)->txtPathNm.text() : "";
-    loadRoutine();
-    proposal.isNewProposal = true;
-    proposal.isProposalOpen = false;
-    uloadAllForms(proposal);
-    if (Form* form = proposal.forms.touch("frmMain712"))
-        form->hide();
-    auto& annexure = proposal.forms.get<frmAnnexureA>();
-    annexure.txtPathNm.restoreText(path);
-    annexure.cmdFormNo_Click(0);
-    proposal.screen.setCaption("Draftline Architect Utility - New file  ");
-    annexure.txtPathNm.setText("");
-    setAvailable("mnuSave", true);
-    setAvailable("mnuSaveAs", false);
-    refreshMenus();
-}
-
-void mdiInterface::mnuOpen_Click() {
-    // A cancelled dialog leaves the flags of an opened proposal behind.
-    proposal.isProposalOpen = true;
-    proposal.isNewProposal = false;
-    openFile();
-}
-
-void mdiInterface::openFile() {
-    uloadAllForms(proposal);
-    const std::string path =
-        proposal.screen.ports.dialogs.openFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", "*.xml"});
-    if (const std::string_view name = trim(path); name.empty() || equalsIgnoringCase(name, "*.xml"))
-        return;
-    proposal.tables.createAllTables();
-    proposal.tables.create(&Tables::rsOwnership712);
-    proposal.tables.create(&Tables::rsOwnership);
-    reader.LoadDocument(path);
-    reader.readSections();
-    for (const ReadXML::Step& step : ReadXML::steps)
-        readStep(step);
-    for (const std::string_view name : {"frmDocCheckList", "frmPayDetail"})
-        proposal.forms.touch(name)->hide();
-    auto& annexure = proposal.forms.get<frmAnnexureA>();
-    annexure.cmdFormNo_Click(0);
-    proposal.screen.setCaption("Draftline Architect Utility  " + path);
-    annexure.txtPathNm.setText(path);  // its change reaction leaves the bare path in the caption
-    annexure.bringToFront();
-    setAvailable("mnuSave", true);
-    setAvailable("mnuSaveAs", true);
-    refreshMenus();
-}
-
-void mdiInterface::readStep(const ReadXML::Step& step) {
-    try {
-        (reader.*step.read)();
-    } catch (const RuntimeError& error) {
-        proposal.screen.message(std::to_string(error.number) + ":" + error.description,
-                                " Particulars of Development (Read XML) ", Icon::Critical);
-    }
-}
-
-void mdiInterface::mnuSave_Click() {
-    hideWhenLoaded(proposal, {"frmDiscretionNewCase", "frmDiscretionrevisedCase"});
-    proposal.isSaveRequested = true;
-    auto& annexure = proposal.forms.get<frmAnnexureA>();
-    annexure.show();
-    if (annexure.validateAnnexureFirstPage())
-        saveProposal();
-}
-
-void mdiInterface::mnuSaveAs_Click() {
-    hideWhenLoaded(proposal, {"frmDiscretionNewCase", "frmDiscretionrevisedCase"});
-    proposal.isProposalOpen = false;
-    proposal.isSaveAsRequested = true;
-    saveProposal();
-    proposal.isProposalOpen = true;
-}
-
-void mdiInterface::saveProposal() {
-    try {
-        plandesk::saveProposal(proposal);
-    } catch (const RuntimeError&) {
-        // A proposal that could not be written to its file can be saved elsewhere.
-        setAvailable("mnuSaveAs", true);
-        throw;
-    }
-}
-
 void mdiInterface::mnuExit_Click() {
     if (proposal.screen.ports.dialogs.askYesNo({"VDMA PLANDESK UTILITY ", " Do you want to Exit  ! ", Icon::Question}))
         proposal.screen.end();
@@ -328,12 +176,12 @@ bool mdiInterface::requireParticulars() {
 }
 
 void mdiInterface::openForm(std::string_view name) {
-    if (equalsIgnoringCase(name, frmPlotExtractRelation::formName))
-        proposal.forms.get<frmPlotExtractRelation>().open();
-    else if (Form* form = proposal.forms.touch(name))
-        form->show();
-    else
-        proposal.screen.message("This form is not there yet.", "");
+    if (!proposal.forms.open(name))
+        tellNotThereYet();
+}
+
+void mdiInterface::tellNotThereYet() {
+    proposal.screen.message("This form is not there yet.", "");
 }
 
 void mdiInterface::setAvailable(std::string_view entry, bool on) {

@@ -46,6 +46,7 @@ public:
 
 private:
     void loadRoutine();
+    void uloadAllForms();
     void mnuNew_Click();
     void mnuOpen_Click();
     void mnuSave_Click();
@@ -58,9 +59,9 @@ private:
     /// The steps of opening a file, from the unload to the first page; a cancelled dialog leaves the forms unloaded.
     void openFile();
     void readStep(const ReadXML::Step& step);
-    void declareForms();
     void fillCommands();
     void openForm(std::string_view name);
+    void tellNotThereYet();
     void saveProposal();
     void setAvailable(std::string_view entry, bool on);
 

@@ -99,7 +99,7 @@ BENCHMARK(firstShowingOfForm)
 
 void firstShowingOfPayment(benchmark::State& state) {
     timeFirstShowing(state, newProposal, [](Session& session) {
-        session.window.forms().act(Qt::OtherFocusReason, [&] { session.proposal.commands.showPayment(); });
+        session.window.forms().act(Qt::OtherFocusReason, [&] { session.proposal.commands.open("frmPayDetail"); });
         session.settle();
     });
 }

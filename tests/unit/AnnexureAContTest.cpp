@@ -216,10 +216,10 @@ TEST_F(AnnexureAContTest, SavingLeavesTheAnswersAndBringsTheFirstFormToTheFront)
 TEST_F(AnnexureAContTest, ItsButtonsAskForWhatStandsAboveIt) {
     std::vector<std::string> asked;
     proposal.commands.saveProposal = [&] { asked.emplace_back("saveProposal"); };
-    proposal.commands.open = [&](std::string_view name) { asked.emplace_back(name); };
+    proposal.commands.print = [&](std::string_view report) { asked.emplace_back(report); };
     user::click(second().cmdSaveALL);
     user::click(second().Command5);
-    EXPECT_EQ(asked, (std::vector<std::string>{"saveProposal", "rptAnnexture"}));
+    EXPECT_EQ(asked, (std::vector<std::string>{"saveProposal", "rptAnnexutreA"}));
     EXPECT_EQ(second().Command5.caption(), "Print Particulars of Development");
     EXPECT_TRUE(second().run("validate"));
     EXPECT_TRUE(second().validate());

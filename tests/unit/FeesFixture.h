@@ -21,12 +21,14 @@ protected:
         proposal.forms.declare<frmDocCheckList>();
         proposal.forms.declare<frmDocCheckList1>();
         proposal.commands.open = [this](std::string_view name) {
+            if (name == frmPayDetail::formName)
+                return showPayment(proposal);
             opened.emplace_back(name);
             if (Form* form = proposal.forms.touch(name))
                 form->show();
         };
+        proposal.commands.print = [this](std::string_view report) { printed.emplace_back(report); };
         proposal.commands.saveProposal = [this] { ++savedProposals; };
-        proposal.commands.showPayment = [this] { showPayment(proposal); };
     }
 
     frmPayDetail& fees() { return proposal.forms.get<frmPayDetail>(); }
@@ -37,6 +39,7 @@ protected:
     void expectError(std::string_view description) { expectMessage(description, "", Icon::Critical); }
 
     std::vector<std::string> opened;
+    std::vector<std::string> printed;
     int savedProposals = 0;
 };
 

@@ -24,7 +24,6 @@ protected:
     ParticularsPagesTest() {
         proposal.formBackColor = fromBlueGreenRed(0xF2F8FF);
         proposal.commands.open = [this](std::string_view name) { opened.emplace_back(name); };
-        proposal.commands.showPayment = [this] { opened.emplace_back("payment"); };
     }
 
     static void expectCurrentButton(PageButtons& buttons, int current, const Proposal& proposal) {
@@ -285,7 +284,7 @@ TEST_F(ParticularsPagesTest, TheLinksLeadToTheSectionsAndThePayment) {
     EXPECT_TRUE(second().front());
     EXPECT_EQ(second().SectFourDet.tab(), 0);
     user::click(second().links.lblPayment);
-    EXPECT_EQ(opened, std::vector<std::string>{"payment"});
+    EXPECT_EQ(opened, std::vector<std::string>{"frmPayDetail"});
 }
 
 TEST_F(ParticularsPagesTest, SectionFourPaintsItsLinks) {

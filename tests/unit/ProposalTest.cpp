@@ -57,6 +57,7 @@ TEST_F(ProposalTest, CommandsThatNobodyFilledInDoNothing) {
     proposal.commands.readXml();
     proposal.commands.refreshMenus();
     proposal.commands.open("frmPlotExtractRelation");
+    proposal.commands.print("rptReciept");
     EXPECT_TRUE(ports.dialogs.messages.empty());
     EXPECT_TRUE(ports.files.contents.empty());
     EXPECT_EQ(ports.program.ends, 0);

@@ -237,7 +237,8 @@ TEST_F(frmAnnexureATest, ItsButtonsAskForWhatStandsAboveIt) {
     proposal.commands.SaveData = [&] { asked.emplace_back("SaveData"); };
     proposal.commands.CreateXMLFIle = [&] { asked.emplace_back("CreateXMLFIle"); };
     proposal.commands.saveProposal = [&] { asked.emplace_back("saveProposal"); };
-    proposal.commands.open = [&](std::string_view name) { asked.emplace_back(name); };
+    proposal.commands.open = [&](std::string_view form) { asked.emplace_back(form); };
+    proposal.commands.print = [&](std::string_view report) { asked.emplace_back(report); };
     user::click(first().cmdSave);
     user::click(first().cmdSaveALL);
     user::click(first().cmdPrint);
@@ -245,7 +246,7 @@ TEST_F(frmAnnexureATest, ItsButtonsAskForWhatStandsAboveIt) {
     user::click(first().cmdPlotRelation);
     first().run("SaveData");
     first().run("CreateXMLFIle");
-    EXPECT_EQ(asked, (std::vector<std::string>{"SaveData", "saveProposal", "rptAnnexture", "cmdUS84",
+    EXPECT_EQ(asked, (std::vector<std::string>{"SaveData", "saveProposal", "rptAnnexutreA", "rptReciept",
                                                "frmPlotExtractRelation", "SaveData", "CreateXMLFIle"}));
 }
 

@@ -618,7 +618,7 @@ TEST_F(frmDocCheckListTest, PreviousLeadsBackToTheLastPageBeforeTheChecklists) {
 TEST_F(frmDocCheckListTest, PrintAsksForTheReportOfTheChecklist) {
     user::click(mandatory().Command5);
     user::click(conditional().Command5);
-    EXPECT_EQ(opened, (std::vector<std::string>{"rptDocChecklist", "rptDocChecklist"}));
+    EXPECT_EQ(printed, (std::vector<std::string>{"rptDocChecklist", "rptDocChecklist"}));
 }
 
 TEST_F(frmDocCheckListTest, CloseEndsTheProgramAndUnloadsTheMandatoryFormAlone) {

@@ -648,7 +648,7 @@ TEST_F(frmPayDetailTest, SaveProposalInformationSavesTheWholeProposal) {
 
 TEST_F(frmPayDetailTest, PrintAsksForTheReportOfThePayment) {
     user::click(fees().cmdPrint);
-    EXPECT_EQ(opened, std::vector<std::string>{"rptPaymentDetails"});
+    EXPECT_EQ(printed, std::vector<std::string>{"rptPaymentDetails"});
     EXPECT_TRUE(proposal.noReportReturn);
 }
 

@@ -1,0 +1,75 @@
+#include "shell/FormCatalogue.h"
+
+#include <array>
+
+#include "drc/frmDRCTransfer.h"
+#include "drc/frmDRCTransferCont.h"
+#include "drc/frmDRCUtilisationForm.h"
+#include "drc/frmIssuOfDRc.h"
+#include "fees/frmDocCheckList.h"
+#include "fees/frmDocCheckList1.h"
+#include "fees/frmPayDetail.h"
+#include "landrecords/ExtractForm.h"
+#include "landrecords/frmNaOrder.h"
+#include "landrecords/frmPlotExtractRelation.h"
+#include "particulars/AnnexureACont.h"
+#include "particulars/frmAnnexureA.h"
+#include "shell/frmAbout.h"
+#include "shell/frmHelp.h"
+
+namespace plandesk {
+
+namespace {
+
+constexpr bool dropped = true;
+constexpr bool kept = false;
+
+constexpr FormRow toCome(std::string_view name, bool droppedByNew) {
+    return {.name = name, .droppedByNew = droppedByNew};
+}
+
+void openPlotRelation(Proposal& proposal) {
+    proposal.forms.get<frmPlotExtractRelation>().open();
+}
+
+constexpr std::array catalogue = std::to_array<FormRow>({
+    formRow<AnnexureACont>(dropped),
+    formRow<frmAnnexureA>(dropped),
+    toCome("frmbuildingcompletioncertificate", dropped),
+    toCome("frmcompletionuptoplinthlevel", dropped),
+    formRow<frmDocCheckList>(dropped),
+    toCome("frmforpartoccupancycertificate", dropped),
+    formRow<frmMain712>(dropped),
+    formRow<frmNaOrder>(dropped),
+    toCome("frmnoticeofcommencementofwork", dropped),
+    toCome("frmofsupervision", dropped),
+    formRow<frmPayDetail>(dropped, showPayment),
+    formRow<frmPlotExtractRelation>(dropped, openPlotRelation),
+    formRow<frmPRCEXT>(dropped),
+    toCome("frmScrutinyULC", dropped),
+    toCome("frmtdrfortransferringownership", dropped),
+    toCome("frmULC20aDetails", dropped),
+    toCome("frmUS22", dropped),
+    toCome("frmUS84", dropped),
+
+    // These keep their contents across New and Open.
+    formRow<frmDocCheckList1>(kept),
+    toCome("frmDiscretionNewCase", kept),
+    toCome("frmDiscretionrevisedCase", kept),
+    formRow<frmIssuOfDRc>(kept),
+    formRow<frmDRCTransfer>(kept),
+    formRow<frmDRCTransferCont>(kept),
+    formRow<frmDRCUtilisationForm>(kept),
+    toCome("frmReportNav", kept),
+    toCome("frmPrint", kept),
+    formRow<frmHelp>(kept),
+    formRow<frmAbout>(kept),
+});
+
+}  // namespace
+
+std::span<const FormRow> formCatalogue() {
+    return catalogue;
+}
+
+}  // namespace plandesk

@@ -1,0 +1,101 @@
+#include "shell/FormCatalogue.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <regex>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "unit/World.h"
+
+namespace plandesk::test {
+namespace {
+
+using Names = std::set<std::string, IgnoringCase>;
+
+/// What the pattern's first group finds in the sources of the program, each with the file that says it last.
+std::map<std::string, std::string> inSources(const std::string& pattern) {
+    std::map<std::string, std::string> found;
+    const std::regex wanted(pattern);
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(PLANDESK_SOURCES "/src")) {
+        if (!entry.is_regular_file())
+            continue;
+        std::ifstream file(entry.path());
+        const std::string text(std::istreambuf_iterator<char>(file), {});
+        for (std::sregex_iterator each(text.begin(), text.end(), wanted), end; each != end; ++each)
+            found[(*each)[1]] = entry.path().filename();
+    }
+    return found;
+}
+
+Names catalogued() {
+    Names names;
+    for (const FormRow& row : formCatalogue())
+        names.insert(std::string(row.name));
+    return names;
+}
+
+TEST(FormCatalogue, EachFormHasOneRow) {
+    EXPECT_EQ(catalogued().size(), formCatalogue().size());
+}
+
+TEST(FormCatalogue, EveryFormClassIsMadeByItsRow) {
+    World world;
+    const auto classes = inSources(R"re(formName = "(\w+)")re");
+    EXPECT_GE(classes.size(), 11U);
+    for (const auto& [name, file] : classes)
+        EXPECT_TRUE(world.proposal.forms.known(name)) << name << " of " << file << " is made by no row";
+}
+
+TEST(FormCatalogue, EachRowMakesTheFormOfItsName) {
+    World world;
+    for (const FormRow& row : formCatalogue())
+        if (row.make) {
+            EXPECT_EQ(row.make(world.proposal)->name(), row.name);
+        }
+}
+
+TEST(FormCatalogue, EveryFormNamedInTheSourcesIsInTheCatalogue) {
+    World world;
+    Names known = catalogued();
+    for (const FormRow& row : formCatalogue())  // frames have such names too
+        if (row.make)
+            for (const Control* control : world.proposal.forms.touch(row.name)->controls())
+                known.insert(control->name());
+    const auto named = inSources(R"re("((?:frm|AnnexureAC)\w+)")re");
+    EXPECT_GE(named.size(), 20U);
+    for (const auto& [name, file] : named)
+        EXPECT_TRUE(known.contains(name)) << name << " of " << file;
+}
+
+TEST(FormCatalogue, NewUnloadsTheFormsInTheOrderOfTheDescription) {
+    std::vector<std::string_view> dropped;
+    for (const FormRow& row : formCatalogue())
+        if (row.droppedByNew)
+            dropped.push_back(row.name);
+    EXPECT_EQ(dropped, (std::vector<std::string_view>{
+                           "AnnexureACont", "frmAnnexureA", "frmbuildingcompletioncertificate",
+                           "frmcompletionuptoplinthlevel", "frmDocCheckList", "frmforpartoccupancycertificate",
+                           "frmMain712", "frmNaOrder", "frmnoticeofcommencementofwork", "frmofsupervision",
+                           "frmPayDetail", "frmPlotExtractRelation", "frmPRCEXT", "frmScrutinyULC",
+                           "frmtdrfortransferringownership", "frmULC20aDetails", "frmUS22", "frmUS84"}));
+}
+
+TEST(FormCatalogue, EveryFormOpens) {
+    for (const FormRow& row : formCatalogue()) {
+        World world;
+        world.proposal.commands.open(row.name);
+        const Form* form = world.proposal.forms.loaded(row.name);
+        EXPECT_EQ(form && form->front(), row.make != nullptr) << row.name;
+        std::vector<Message> told;
+        if (!row.make)
+            told.push_back({"", "This form is not there yet.", Icon::Information});
+        EXPECT_EQ(world.ports.dialogs.take(), told) << row.name;
+    }
+}
+
+}  // namespace
+}  // namespace plandesk::test
