@@ -19,6 +19,7 @@ constexpr Description descriptions[] = {
     {ErrorNumber::Overflow, "Overflow"},
     {ErrorNumber::SubscriptOutOfRange, "Subscript out of range"},
     {ErrorNumber::TypeMismatch, "Type mismatch"},
+    {ErrorNumber::OutOfStackSpace, "Out of stack space"},
     {ErrorNumber::FileNotFound, "File not found"},
     {ErrorNumber::DeviceIoError, "Device I/O error"},
     {ErrorNumber::DiskFull, "Disk full"},
@@ -44,9 +45,10 @@ const char* describe(ErrorNumber number) {
 
 }  // namespace
 
-RuntimeError::RuntimeError(ErrorNumber number) : RuntimeError(static_cast<int>(number), describe(number)) {}
+RuntimeError::RuntimeError(ErrorNumber number) : RuntimeError(number, describe(number)) {}
 
-RuntimeError::RuntimeError(int number, std::string description) : number(number), description(std::move(description)) {}
+RuntimeError::RuntimeError(ErrorNumber number, std::string description)
+    : number(static_cast<int>(number)), description(std::move(description)) {}
 
 std::string failureText() {
     try {

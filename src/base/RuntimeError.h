@@ -11,6 +11,7 @@ enum class ErrorNumber {
     Overflow = 6,
     SubscriptOutOfRange = 9,
     TypeMismatch = 13,
+    OutOfStackSpace = 28,
     FileNotFound = 53,
     DeviceIoError = 57,
     DiskFull = 61,
@@ -30,7 +31,8 @@ enum class ErrorNumber {
 class RuntimeError : public std::exception {
 public:
     explicit RuntimeError(ErrorNumber number);
-    RuntimeError(int number, std::string description);
+    /// With a description that tells more than the customary one.
+    RuntimeError(ErrorNumber number, std::string description);
 
     const char* what() const noexcept override { return description.c_str(); }
 

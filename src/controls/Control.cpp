@@ -9,9 +9,9 @@
 namespace plandesk {
 
 std::string_view kindName(ControlKind kind) {
-    static constexpr std::array<std::string_view, 12> names = {"TextBox",    "OptionButton", "CheckBox", "ComboBox",
-                                                               "DatePicker", "Label",        "Button",   "Image",
-                                                               "Frame",      "TabStrip",     "Grid",     "RichText"};
+    static constexpr std::array names =
+        std::to_array<std::string_view>({"TextBox", "OptionButton", "CheckBox", "ComboBox", "DatePicker", "Label",
+                                         "Button", "Image", "Frame", "TabStrip", "Grid", "RichText"});
     return names.at(static_cast<std::size_t>(kind));
 }
 

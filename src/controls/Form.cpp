@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "controls/Screen.h"
@@ -148,6 +149,15 @@ bool Form::run(std::string_view procedureName) {
         return false;
     Control* control = find(procedureName.substr(0, underscore));
     return control && control->fire(procedureName.substr(underscore + 1));
+}
+
+void Form::call(std::string_view procedureName) {
+    if (!run(procedureName))
+        missing(procedureName);
+}
+
+void Form::missing(std::string_view wanted) const {
+    throw RuntimeError(ErrorNumber::ItemNotFound, formName + " has no " + std::string(wanted));
 }
 
 }  // namespace plandesk

@@ -77,6 +77,14 @@ public:
     Control* find(std::string_view controlName, int index = Control::noIndex) const;
     /// Looks up a name as layouts write it: NAME or NAME(INDEX).
     Control* findKey(std::string_view key) const;
+    /// The control of that key, for whoever cannot go on without it. RuntimeError 3265 that tells its name when the
+    /// form has no such control or one of another kind.
+    template <class Kind = Control>
+    Kind& at(std::string_view key) const {
+        if (auto* wanted = dynamic_cast<Kind*>(findKey(key)))
+            return *wanted;
+        missing(key);
+    }
     template <class Kind>
     void forEach(const std::function<void(Kind&)>& action) const {
         for (Control* control : all)
@@ -94,6 +102,10 @@ public:
     /// Runs the procedure of that name in any case: one that the form declared, or CONTROL_EVENT.
     /// False when there is none.
     bool run(std::string_view procedure);
+    /// The same for whoever cannot go on without it. RuntimeError 3265 that tells its name when there is none.
+    void call(std::string_view procedure);
+    /// Raises the RuntimeError 3265 of a control or procedure that the form lacks.
+    [[noreturn]] void missing(std::string_view name) const;
 
     Screen& screen() const { return desk; }
 

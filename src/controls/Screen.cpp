@@ -83,7 +83,7 @@ void Screen::changeFocus(Control* to) {
         return;
     // Two reactions that take the focus from each other would never end.
     if (focusMoves == deepestFocusMove)
-        throw RuntimeError(28, "Out of stack space");
+        throw RuntimeError(ErrorNumber::OutOfStackSpace);
     {
         const Counted move(focusMoves);
         runFocusMove(old, to);

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/Text.h"
-#include "document/Answers.h"
+#include "controls/Answers.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/Element.h"
@@ -28,7 +28,7 @@ struct Row {
 
 // Text is written as typed, so "&" or "<" in it makes the file ill-formed: which elements are escaped is the block's
 // own.
-constexpr std::array<Row, 56> rows = {{
+constexpr std::array rows = std::to_array<Row>({
     {"IsAffectRoadReservation", Sheet::First, ValueForm::YesNo},
     {"IsAnyDeductOfRoadLine", Sheet::First, ValueForm::YesNo},
     {"TotalAreaRoadDeduction", Sheet::First, ValueForm::Text},
@@ -85,7 +85,7 @@ constexpr std::array<Row, 56> rows = {{
     {"NoOfUrinalsClosetProposed", Sheet::Second, ValueForm::EscapedText},
     {"NoOfKitchenClosetProposed", Sheet::Second, ValueForm::EscapedText},
     {"SectionRemark4", Sheet::Second, ValueForm::Text},
-}};
+});
 
 struct Part {
     Sheet sheet;

@@ -7,7 +7,10 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "document/Answers.h"
+#include "controls/Answers.h"
+#include "document/DocumentBlocks.h"
+#include "fees/PackedFees.h"
+#include "particulars/PackedSections.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/Element.h"
 #include "proposal/Proposal.h"
@@ -115,27 +118,6 @@ constexpr std::array sectionThree = std::to_array<Row>({
     {"REMARK3", Escape::Yes, "txtRmk3"},
 });
 
-// Sections IV and V and the fees come packed in carriers; their elements take the packed values in this order.
-constexpr std::array<std::string_view, 9> sectionFour = {"ONETHREE-RAD",  "ONETHREE-TEXT", "ONEFOUR-RAD",
-                                                         "ONESIX-RAD",    "ONESIX-TEXT",   "ONESEVEN-RAD",
-                                                         "ONESEVEN-TEXT", "ONEEIGHT-RAD",  "REMARK4"};
-
-constexpr std::array<std::string_view, 18> sectionFive = {
-    "TWOZERO",        "TWOONE-RAD",    "TWOONE-TEXT",   "TWOTHREE-RAD",    "TWOTHREE-TEXT",  "TWOFOUR-RAD",
-    "TWOFOUR-TEXT",   "TWOFIVE-RAD",   "TWOSIX-TEXT",   "TWOEIGHT-TEXT",   "TWONINE-RAD",    "TWONINE-TEXT",
-    "THREEZERO-TEXT", "THREEONE-TEXT", "THREETWO-TEXT", "THREETHREE-TEXT", "THREEFOUR-TEXT", "REMARK5"};
-
-constexpr std::array<std::string_view, 26> feesFirst = {
-    "AREADEVRESI",     "RATEDEVRESI",     "AMTDEVRESI",     "AREADEVCOM",       "RATEDEVCOM",       "AMTDEVCOM",
-    "AREADEVIND",      "RATEDEVIND",      "AMTDEVIND",      "AREASCRUTINYRESI", "RATESCRUTINYRESI", "AMTSCRUTINYRESI",
-    "AREASCRUTINYCOM", "RATESCRUTINYCOM", "AMTSCRUTINYCOM", "AREASCRUTINYIND",  "RATESCRUTINYIND",  "AMTSCRUTINYIND",
-    "COMPUNDFEES",     "OTHER",           "TOTALAMOUNT",    "PAYMODE",          "PAYDATE",          "DRAFTCHQNO",
-    "BANKNAME",        "BRANCHNM"};
-
-constexpr std::array<std::string_view, 9> feesSecond = {"AREA-SCRUT-RESI-2", "RATE-SCRUT-RESI-2", "AMOUNT-SCRUT-RESI-2",
-                                                        "AREA-SCRUT-COMM-2", "RATE-SCRUT-COMM-2", "AMOUNT-SCRUT-COMM-2",
-                                                        "AREA-SCRUT-IND-2",  "RATE-SCRUT-IND-2",  "AMOUNT-SCRUT-IND-2"};
-
 void appendSection(std::string& xml, const frmAnnexureA& form, std::span<const Row> rows) {
     for (const Row& row : rows) {
         const std::string value = row.special ? row.special(form) : answers(form, row.controls);
@@ -143,12 +125,22 @@ void appendSection(std::string& xml, const frmAnnexureA& form, std::span<const R
     }
 }
 
-/// One element for each name, with the packed values from `start` on; a value that is not there gives an empty element.
-void appendPacked(std::string& xml, std::span<const std::string_view> elements, std::string_view packed,
-                  std::size_t start = 0) {
+/// One element for each row, with the packed values from `start` on; a value that is not there gives an empty element.
+void appendPacked(std::string& xml, std::span<const PackedRow> rows, std::string_view packed, std::size_t start = 0) {
     const std::vector<std::string> values = split(packed, "$$");
-    for (std::size_t i = 0; i < elements.size(); ++i)
-        appendElement(xml, elements[i], start + i < values.size() ? values[start + i] : "");
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        appendElement(xml, rows[i].element, start + i < values.size() ? values[start + i] : "");
+}
+
+void appendBlocks(std::string& xml, const Proposal& proposal, BlockPlace place) {
+    for (const DocumentBlock& block : documentBlocks()) {
+        if (block.place != place)
+            continue;
+        if (block.bare)
+            appendElement(xml, block.element, proposal.*block.fragment);
+        else
+            xml += proposal.*block.fragment;
+    }
 }
 
 }  // namespace
@@ -156,8 +148,10 @@ void appendPacked(std::string& xml, std::span<const std::string_view> elements, 
 std::string joinDocument(Proposal& proposal) {
     const auto& form = proposal.forms.get<frmAnnexureA>();
     std::string xml;
-    xml.reserve(64 * 1024 + proposal.extractOwnerXML.size() + proposal.prcOwnerXML.size() +
-                proposal.ULCScrutinyXML.size());
+    std::size_t size = 64 * 1024;
+    for (const DocumentBlock& block : documentBlocks())
+        size += (proposal.*block.fragment).size();
+    xml.reserve(size);
     xml += "<?xml version = '1.0' ?><INWARDINFO DEPARTMENT='BP'><SECTION-I>";
     appendSection(xml, form, sectionOne);
     xml += "</SECTION-I><SECTION-II>";
@@ -165,23 +159,21 @@ std::string joinDocument(Proposal& proposal) {
     xml += "</SECTION-II><SECTION-III>";
     appendSection(xml, form, sectionThree);
     xml += "</SECTION-III><SECTION-IV>";
-    appendPacked(xml, sectionFour, EscapeXML(form.txtSectFourVal.text()));
+    appendPacked(xml, sectionFourRows, EscapeXML(form.txtSectFourVal.text()));
     xml += "</SECTION-IV><SECTION-V>";
-    appendPacked(xml, sectionFive, EscapeXML(form.txtSecFiveVal.text()));
+    appendPacked(xml, sectionFiveRows, EscapeXML(form.txtSecFiveVal.text()));
     xml += "</SECTION-V>";
     appendElement(xml, "DOCCHKLIST", EscapeXML(form.txtDocChkList.text()));
     xml += "<PAYMENTDETAIL>";
-    appendPacked(xml, feesFirst, EscapeXML(form.txtPayDetail.text()));
-    appendPacked(xml, feesSecond, proposal.secondScrutinyFees,
+    appendPacked(xml, paymentRows, EscapeXML(form.txtPayDetail.text()));
+    appendPacked(xml, secondScrutinyRows, proposal.secondScrutinyFees,
                  1);  // each value stands behind a "$$": the first piece is empty
     xml += "</PAYMENTDETAIL>";
-    xml += proposal.annexureBXML;
-    xml.append("<NTS>").append(proposal.extractOwnerXML).append(proposal.prcOwnerXML);
-    xml.append(proposal.naOrderXML).append(proposal.ULCScrutinyXML).append("</NTS>");
-    appendElement(xml, "PLOT-REL", proposal.plotRelXML);
-    appendElement(xml, "PLOT-PRCDETAILS", proposal.plotPrcDetailsXML);
-    xml.append(proposal.discretionRevisedXML).append(proposal.discretionNewXML);
-    xml.append(proposal.drcIssueXML).append(proposal.drcTransferXML).append(proposal.drcUtilisationXML);
+    appendBlocks(xml, proposal, BlockPlace::BehindSections);
+    xml += "<NTS>";
+    appendBlocks(xml, proposal, BlockPlace::LandRecords);
+    xml += "</NTS>";
+    appendBlocks(xml, proposal, BlockPlace::BehindLandRecords);
     xml += "</INWARDINFO>";
     return xml;
 }

@@ -7,9 +7,9 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "controls/Answers.h"
 #include "controls/Controls.h"
 #include "document/AnnexureB.h"
-#include "document/Answers.h"
 #include "document/Pieces.h"
 #include "document/SectionTables.h"
 #include "fees/frmDocCheckList.h"
@@ -63,8 +63,8 @@ void appendDoubled(std::string& groups, std::string_view text) {
 void answerQuestion(const YesNoOptions& question, double number, bool strict) {
     if (!strict && number != 0 && number != 1 && number != 2)
         return;
-    question.yes->setValue(number == 1);
-    question.no->setValue(number == 0);
+    question.yes.setValue(number == 1);
+    question.no.setValue(number == 0);
 }
 
 void assign(Form& form, std::string_view name, std::string_view text) {
@@ -74,7 +74,7 @@ void assign(Form& form, std::string_view name, std::string_view text) {
     else if (auto* picker = dynamic_cast<DatePicker*>(control))
         picker->setDate(toDate(text));
     else
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
+        answerQuestion(question(form, name), toDouble(text), false);
 }
 
 std::string_view part(const Pieces& fields, int field, int number) {
@@ -89,25 +89,14 @@ void readRow(const FieldRow& row, Form& form, const Pieces& fields) {
     switch (row.decode) {
     case Decode::Plain:
         return assign(form, row.control, value);
-    case Decode::YesNo:
-        return answerQuestion(findQuestion(form, row.control), toDouble(value), false);
     case Decode::YesNoStrict:
-        return answerQuestion(findQuestion(form, row.control), toDouble(value), true);
+        return answerQuestion(question(form, row.control), toDouble(value), true);
     case Decode::Special:
         return row.special(form, value);
     }
 }
 
 }  // namespace
-
-const std::array<ReadXML::Step, 6> ReadXML::steps = {{
-    {"readPlotRelations", &ReadXML::readPlotRelations},
-    {"readExtracts712", &ReadXML::readExtracts712},
-    {"readExtractsPRC", &ReadXML::readExtractsPRC},
-    {"readNAOrder", &ReadXML::readNAOrder},
-    {"readULCScrutiny", &ReadXML::readULCScrutiny},
-    {"readDiscretion", &ReadXML::readDiscretion},
-}};
 
 void ReadXML::LoadDocument(const std::string& path) {
     proposalDom.load(path);  // nobody looks at the result: a document without a root tells its own tale below
@@ -287,35 +276,6 @@ void ReadXML::readStreetsAndTrees(std::string_view text) {
     }
     read(StreetsAndTrees::Trees, second.txtHowManyTrees);
     read(StreetsAndTrees::TreesAffected, second.txtNoOfTreesAffected);
-}
-
-void ReadXML::requireRoot() const {
-    if (proposalDom.root() == XmlDocument::none)
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
-}
-
-void ReadXML::readPlotRelations() {
-    requireRoot();
-}
-
-void ReadXML::readExtracts712() {
-    requireRoot();
-}
-
-void ReadXML::readExtractsPRC() {
-    requireRoot();
-}
-
-void ReadXML::readNAOrder() {
-    requireRoot();
-}
-
-void ReadXML::readULCScrutiny() {
-    requireRoot();
-}
-
-void ReadXML::readDiscretion() {
-    requireRoot();
 }
 
 void setOptionFromText(OptionButton& option, int number) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -24,14 +23,6 @@ class ReadXML {
 public:
     explicit ReadXML(Proposal& proposal) : proposal(proposal) {}
 
-    /// A procedure of the opening that runs after readSections. A failure leaves it at once and comes to its caller.
-    struct Step {
-        std::string_view name;
-        void (ReadXML::*read)();
-    };
-    /// In the order of the opening.
-    static const std::array<Step, 6> steps;
-
     /// Loads the file into `proposalDom`, which lives until the next load. A file that cannot be loaded shows nothing
     /// here and leaves a document without a root.
     void LoadDocument(const std::string& path);
@@ -40,13 +31,8 @@ public:
     /// statement: the error's number, " : " and its description.
     void readSections();
 
-    // The land records, orders and discretion rows. Without a root: RuntimeError 91.
-    void readPlotRelations();
-    void readExtracts712();
-    void readExtractsPRC();
-    void readNAOrder();
-    void readULCScrutiny();
-    void readDiscretion();
+    /// The document last loaded, which the readers of the blocks work on.
+    const XmlDocument& document() const { return proposalDom; }
 
 private:
     /// A text box or option of the Particulars, by the name of the element of ANNEXUREB that it takes.
@@ -67,7 +53,6 @@ private:
     void readAnnexureB();
     void readNamed(XmlDocument::Node element, std::span<const Named> controls);
     void readStreetsAndTrees(std::string_view text);
-    void requireRoot() const;
 
     Proposal& proposal;
     XmlDocument proposalDom;

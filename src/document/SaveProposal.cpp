@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/CodePage.h"
+#include "document/DocumentBlocks.h"
 #include "document/ProposalDocument.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/Proposal.h"
@@ -12,25 +13,17 @@ namespace plandesk {
 
 namespace {
 
-/// One step of the save: a form's own save, or `action`. When `needed` is empty afterwards, the save stops.
-struct Step {
-    std::string_view form;
-    std::string_view procedure;
-    void (*action)(Proposal& proposal) = nullptr;
-    std::string Proposal::*needed = nullptr;
-};
-
-constexpr std::array steps = std::to_array<Step>({
+constexpr std::array steps = std::to_array<SaveStep>({
     {"frmPayDetail", "cmdSave_Click"},
-    {"frmDocCheckList1", "cmdSave_Click", nullptr, &Proposal::conditionalDocList},
-    {"frmDocCheckList", "cmdSave_Click", nullptr, &Proposal::mandatoryDocList},
+    {"frmDocCheckList1", "cmdSave_Click", &Proposal::conditionalDocList},
+    {"frmDocCheckList", "cmdSave_Click", &Proposal::mandatoryDocList},
     {"AnnexureACont", "cmdSave_Click"},
-    {"", "", [](Proposal& proposal) { proposal.commands.buildAnnexureB(); }},
+    {.block = &Proposal::annexureBXML},
     {"frmNaOrder", "SaveNaOrder"},
     {"frmPlotExtractRelation", "Save712ExtractRaltionShip"},
-    {"", "", [](Proposal& proposal) { proposal.isSavingLandRecord = proposal.is712Current = true; }},
+    {.action = [](Proposal& proposal) { proposal.isSavingLandRecord = proposal.is712Current = true; }},
     {"frmMain712", "cmdSave_Click"},
-    {"", "", [](Proposal& proposal) { proposal.isSavingLandRecord = proposal.is712Current = false; }},
+    {.action = [](Proposal& proposal) { proposal.isSavingLandRecord = proposal.is712Current = false; }},
     {"frmPRCEXT", "cmdSave_Click"},
     {"frmScrutinyULC", "cmdSave_Click"},
     {"frmDiscretionrevisedCase", "cmdSave_Click"},
@@ -56,12 +49,18 @@ constexpr std::array guards = std::to_array<Guard>({
 
 }  // namespace
 
+std::span<const SaveStep> saveSteps() {
+    return steps;
+}
+
 void saveProposal(Proposal& proposal) {
-    for (const Step& step : steps) {
+    for (const SaveStep& step : steps) {
         if (step.action)
             step.action(proposal);
+        else if (step.block)
+            buildBlock(proposal, step.block);
         else if (Form* form = proposal.forms.touch(step.form))
-            form->run(step.procedure);
+            form->call(step.procedure);
         if (step.needed && (proposal.*step.needed).empty())
             return;
     }

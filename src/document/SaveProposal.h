@@ -1,8 +1,23 @@
 #pragma once
 
+#include <span>
+#include <string>
+#include <string_view>
+
 namespace plandesk {
 
 class Proposal;
+
+/// One step of the save: a form's own save, or, without a form, a block built or something set.
+struct SaveStep {
+    std::string_view form{};  ///< passed over while it is still to come
+    std::string_view procedure{};
+    std::string Proposal::*needed = nullptr;  ///< when it is empty afterwards, the save stops
+    std::string Proposal::*block = nullptr;
+    void (*action)(Proposal& proposal) = nullptr;
+};
+/// In the order of the save.
+std::span<const SaveStep> saveSteps();
 
 /// Every form leaves its answers in the fixed order, then the document is joined and written. Stops without a message
 /// when a checklist is left empty, having told of its own trouble.

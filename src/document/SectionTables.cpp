@@ -1,11 +1,17 @@
 #include "document/SectionTables.h"
 
 #include <array>
+#include <vector>
 
 #include "base/Date.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "controls/Controls.h"
+#include "document/Pieces.h"
+#include "fees/PackedFees.h"
+#include "fees/frmPayDetail.h"
+#include "particulars/AnnexureACont.h"
+#include "particulars/PackedSections.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/ReferenceLists.h"
 
@@ -106,24 +112,24 @@ constexpr std::array sectionOne = std::to_array<FieldRow>({
 });
 
 constexpr std::array sectionTwo = std::to_array<FieldRow>({
-    {0, "FOUR-RAD", FieldRow::whole, "Opt3", Decode::YesNo},
-    {1, "FIVE-RAD", FieldRow::whole, "Opt4", Decode::YesNo},
+    {0, "FOUR-RAD", FieldRow::whole, "Opt3"},
+    {1, "FIVE-RAD", FieldRow::whole, "Opt4"},
     {2, "FIVE-TEXT", 0, "txtSanctionNo"},
     {2, "FIVE-TEXT", 1, "DTPicker2"},
     {3, "SIX-A", FieldRow::whole, "cboZone", Decode::Special, readZone},
-    {4, "SEVEN-RAD", 0, "Opt5", Decode::YesNo},
-    {4, "SEVEN-RAD", 1, "Opt6", Decode::YesNo},
-    {4, "SEVEN-RAD", 2, "Opt7", Decode::YesNo},
-    {4, "SEVEN-RAD", 3, "Opt8", Decode::YesNo},
-    {5, "EIGHT-RAD", 0, "Opt9", Decode::YesNo},
-    {5, "EIGHT-RAD", 1, "Opt10", Decode::YesNo},
-    {5, "EIGHT-RAD", 2, "Opt11", Decode::YesNo},
-    {5, "EIGHT-RAD", 3, "Opt12", Decode::YesNo},
-    {5, "EIGHT-RAD", 4, "Opt13", Decode::YesNo},
-    {5, "EIGHT-RAD", 5, "Opt14", Decode::YesNo},
-    {5, "EIGHT-RAD", 6, "Opt15", Decode::YesNo},
-    {5, "EIGHT-RAD", 7, "Opt16", Decode::YesNo},
-    {5, "EIGHT-RAD", 8, "Opt17", Decode::YesNo},
+    {4, "SEVEN-RAD", 0, "Opt5"},
+    {4, "SEVEN-RAD", 1, "Opt6"},
+    {4, "SEVEN-RAD", 2, "Opt7"},
+    {4, "SEVEN-RAD", 3, "Opt8"},
+    {5, "EIGHT-RAD", 0, "Opt9"},
+    {5, "EIGHT-RAD", 1, "Opt10"},
+    {5, "EIGHT-RAD", 2, "Opt11"},
+    {5, "EIGHT-RAD", 3, "Opt12"},
+    {5, "EIGHT-RAD", 4, "Opt13"},
+    {5, "EIGHT-RAD", 5, "Opt14"},
+    {5, "EIGHT-RAD", 6, "Opt15"},
+    {5, "EIGHT-RAD", 7, "Opt16"},
+    {5, "EIGHT-RAD", 8, "Opt17"},
     {6, "EIGHT-TEXT", 0, "txtMainProcess"},
     {6, "EIGHT-TEXT", 1, "txtWorkmen"},
     {6, "EIGHT-TEXT", 2, "txtHPEmp"},
@@ -142,7 +148,7 @@ constexpr std::array sectionTwo = std::to_array<FieldRow>({
 });
 
 constexpr std::array sectionThree = std::to_array<FieldRow>({
-    {0, "ELEVEN-RAD", FieldRow::whole, "Opt18", Decode::YesNo},
+    {0, "ELEVEN-RAD", FieldRow::whole, "Opt18"},
     {1, "ELEVEN-TEXT", 0, "txtPlinthArea"},
     {1, "ELEVEN-TEXT", 1, "txtFloorArea"},
     {1, "ELEVEN-TEXT", 2, "txtDevRights"},
@@ -150,78 +156,40 @@ constexpr std::array sectionThree = std::to_array<FieldRow>({
     {2, "REMARK3", FieldRow::whole, "txtRmk3"},
 });
 
-constexpr std::array sectionFour = std::to_array<FieldRow>({
-    {0, "ONETHREE-RAD", FieldRow::whole, "Opt19", Decode::YesNo},
-    {1, "ONETHREE-TEXT", FieldRow::whole, "txtDistCentStreet"},
-    {2, "ONEFOUR-RAD", 0, "Opt20", Decode::YesNo},
-    {2, "ONEFOUR-RAD", 1, "Opt21", Decode::YesNo},
-    {3, "ONESIX-RAD", 0, "Opt22", Decode::YesNo},
-    {3, "ONESIX-RAD", 1, "Opt23", Decode::YesNo},
-    {3, "ONESIX-RAD", 2, "Opt24", Decode::YesNo},
-    {4, "ONESIX-TEXT", 0, "txtDiaInnerChowk"},
-    {4, "ONESIX-TEXT", 1, "txtDiaOuterChowk"},
-    {5, "ONESEVEN-RAD", 0, "Opt25", Decode::YesNo},
-    {5, "ONESEVEN-RAD", 1, "opt26", Decode::YesNo},
-    {6, "ONESEVEN-TEXT", 0, "txtLiftTyp"},
-    {6, "ONESEVEN-TEXT", 1, "txtLiftPassCap"},
-    {6, "ONESEVEN-TEXT", 2, "txtNoLift"},
-    {6, "ONESEVEN-TEXT", 3, "txtDoorTyp"},
-    {6, "ONESEVEN-TEXT", 4, "txtFireDetail"},
-    {7, "ONEEIGHT-RAD", 0, "Opt27", Decode::YesNo},
-    {7, "ONEEIGHT-RAD", 1, "Opt28", Decode::YesNo},
-    {8, "REMARK4", FieldRow::whole, "txtRmk4"},
-});
-
-constexpr std::array sectionFive = std::to_array<FieldRow>({
-    {0, "TWOZERO", FieldRow::whole, "Opt29", Decode::YesNo},
-    {1, "TWOONE-RAD", FieldRow::whole, "Opt30", Decode::YesNo},
-    {2, "TWOONE-TEXT", 0, "txtWidthMeanAccess"},
-    {2, "TWOONE-TEXT", 1, "txtRightWay"},
-    {2, "TWOONE-TEXT", 2, "txtAttachDoc"},
-    {2, "TWOONE-TEXT", 3, "txtClearHgt"},
-    {3, "TWOTHREE-RAD", FieldRow::whole, "Opt31", Decode::YesNo},
-    {4, "TWOTHREE-TEXT", FieldRow::whole, "txtHgtEnroch"},
-    {5, "TWOFOUR-RAD", 0, "Opt32", Decode::YesNo},
-    {5, "TWOFOUR-RAD", 1, "Opt33", Decode::YesNo},
-    {6, "TWOFOUR-TEXT", FieldRow::whole, "txtCompWallHgt"},
-    {7, "TWOFIVE-RAD", 0, "Opt34", Decode::YesNo},
-    {7, "TWOFIVE-RAD", 1, "Opt35", Decode::YesNo},
-    {7, "TWOFIVE-RAD", 2, "Opt36", Decode::YesNo},
-    {7, "TWOFIVE-RAD", 3, "Opt37", Decode::YesNo},
-    {8, "TWOSIX-TEXT", FieldRow::whole, "txtProvAnteena"},
-    {9, "TWOEIGHT-TEXT", FieldRow::whole, "txtNotComply"},
-    {10, "TWONINE-RAD", 0, "Opt38", Decode::YesNo},
-    {10, "TWONINE-RAD", 1, "Opt39", Decode::YesNo},
-    {11, "TWONINE-TEXT", 0, "txtFillLevel"},
-    {11, "TWONINE-TEXT", 1, "txtLevelRoad"},
-    {11, "TWONINE-TEXT", 2, "txtPlinthHgtRoad"},
-    {12, "THREEZERO-TEXT", 0, "txtRoofs"},
-    {12, "THREEZERO-TEXT", 1, "txtFloor"},
-    {12, "THREEZERO-TEXT", 2, "txtWall"},
-    {12, "THREEZERO-TEXT", 3, "txtColumns"},
-    {12, "THREEZERO-TEXT", 4, "txtBeam"},
-    {12, "THREEZERO-TEXT", 5, "txtOtherItem"},
-    {13, "THREEONE-TEXT", 0, "txtWaterCloset"},
-    {13, "THREEONE-TEXT", 1, "txtNoBath"},
-    {13, "THREEONE-TEXT", 2, "txtNoUrinal"},
-    {13, "THREEONE-TEXT", 3, "txtNoKitchen"},
-    {14, "THREETWO-TEXT", FieldRow::whole, "txtWaterSource"},
-    {15, "THREETHREE-TEXT", FieldRow::whole, "txtDistSwer"},
-    {16, "THREEFOUR-TEXT", FieldRow::whole, "txtMuncipalLand"},
-    {17, "REMARK5", FieldRow::whole, "txtRmk5"},
-});
-
-constexpr std::array<SectionTable, 5> tables = {{
-    {"frmAnnexureA", sectionOne},
-    {"frmAnnexureA", sectionTwo},
-    {"frmAnnexureA", sectionThree},
-    {"AnnexureACont", sectionFour},
-    {"AnnexureACont", sectionFive},
-}};
+/// Packed values come back as they went: each part to its control, in the order of the document.
+std::vector<FieldRow> packedFields(std::span<const PackedRow> rows, int firstField = 0) {
+    std::vector<FieldRow> fields;
+    for (const PackedRow& row : rows) {
+        const Pieces controls = firstPieces(row.controls, " ", row.controls.size());
+        const int field = firstField + static_cast<int>(&row - rows.data());
+        for (std::size_t part = 0; part < controls.size(); ++part)
+            fields.push_back(
+                {field, row.element, controls.size() == 1 ? FieldRow::whole : static_cast<int>(part), controls[part]});
+    }
+    return fields;
+}
 
 }  // namespace
 
 std::span<const SectionTable> sectionTables() {
+    static const std::vector<FieldRow> sectionFour = packedFields(sectionFourRows);
+    static const std::vector<FieldRow> sectionFive = packedFields(sectionFiveRows);
+    static const std::array<SectionTable, 5> tables = {{
+        {frmAnnexureA::formName, sectionOne},
+        {frmAnnexureA::formName, sectionTwo},
+        {frmAnnexureA::formName, sectionThree},
+        {AnnexureACont::formName, sectionFour},
+        {AnnexureACont::formName, sectionFive},
+    }};
+    return tables;
+}
+
+const FeeTables& feeTables() {
+    static const std::vector<FieldRow> fees = packedFields(paymentRows.first(paymentMode));
+    static const std::vector<FieldRow> bankDetails =
+        packedFields(paymentRows.subspan(paymentMode + 1), static_cast<int>(paymentMode) + 1);
+    static const std::vector<FieldRow> second = packedFields(secondScrutinyRows, static_cast<int>(paymentRows.size()));
+    static const FeeTables tables = {frmPayDetail::formName, fees, static_cast<int>(paymentMode), bankDetails, second};
     return tables;
 }
 

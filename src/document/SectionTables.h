@@ -9,8 +9,9 @@ class Form;
 
 /// How one value of a section becomes a control's value.
 enum class Decode {
-    Plain,        ///< text of a box; a date picker takes the text as a date
-    YesNo,        ///< 1 Yes, 0 No, 2 neither; any other number leaves the question as it is
+    /// Text of a box; a date picker takes the text as a date; a yes/no question takes 1 as Yes, 0 as No, 2 as neither,
+    /// and any other number leaves it as it is.
+    Plain,
     YesNoStrict,  ///< 1 Yes, 0 No; any other number neither
     Special,      ///< what `special` does
 };

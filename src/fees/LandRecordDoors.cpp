@@ -39,15 +39,14 @@ constexpr std::array doors = std::to_array<Door>({
                "Please Enter Relationship Details for Property Register Card !"},
      .caption = "Scrutiny Of PRC Extract"},
     {.form = "frmNaOrder",
-     .prepare = [](Form& form) { form.run("cmbAreaForNA_Click"); },
+     .prepare = [](Form& form) { form.call("cmbAreaForNA_Click"); },
      .choosesFirstExtract = false,
      .modal = true},
     {.form = "frmScrutinyULC",
      .prepare =
          [](Form& form) {
-             if (Control* controllingDocument = form.find("optDocCtrlOwn", 0))
-                 controllingDocument->fire("Click");
-             form.run("cmbExtract_Click");
+             form.at("optDocCtrlOwn(0)").fire("Click");
+             form.call("cmbExtract_Click");
          }},
 });
 
@@ -57,14 +56,12 @@ bool related(Proposal& proposal, const Relation& relation) {
     if ((proposal.*relation.fragment).empty())
         return false;
     const Form* form = proposal.forms.touch("frmPlotExtractRelation");
-    const auto* count = form ? dynamic_cast<const TextBox*>(form->find(relation.count)) : nullptr;
-    return count && leadingNumber(count->text()) > 0;
+    return form && leadingNumber(form->at<TextBox>(relation.count).text()) > 0;
 }
 
 void chooseFirstExtract(const Form& form) {
-    auto* extracts = dynamic_cast<ComboBox*>(form.find("cmbExtract"));
-    if (extracts && extracts->listCount() > 0)
-        extracts->setListIndex(0);
+    if (auto& extracts = form.at<ComboBox>("cmbExtract"); extracts.listCount() > 0)
+        extracts.setListIndex(0);
 }
 
 }  // namespace

@@ -4,11 +4,9 @@
 #include <initializer_list>
 #include <span>
 #include <string>
-#include <vector>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
-#include "particulars/frmAnnexureA.h"
 
 namespace plandesk {
 
@@ -26,31 +24,25 @@ struct FeeRow {
     RateCounts rateCounts = RateCounts::AtOnce;
 };
 
-// The fee rows in the order in which the document lists them: those whose values open the first list, and those that
-// make up the second.
-constexpr std::array firstListRows = std::to_array<FeeRow>({
+constexpr std::array feeRows = std::to_array<FeeRow>({
     {&frmPayDetail::txtArea, &frmPayDetail::txtRate, &frmPayDetail::txtTotal, RateCounts::WhenLeft},
     {&frmPayDetail::txtDevAreaC, &frmPayDetail::txtDevRateC, &frmPayDetail::txtDevAmtC},
     {&frmPayDetail::txtDevAreaI, &frmPayDetail::txtDevRateI, &frmPayDetail::txtDevAmtI},
     {&frmPayDetail::txtScrutinyRArea, &frmPayDetail::txtScrutinyRRate, &frmPayDetail::txtScrutinyRAmount},
     {&frmPayDetail::txtScrutinyCArea, &frmPayDetail::txtScrutinyCRate, &frmPayDetail::txtScrutinyCAmount},
     {&frmPayDetail::txtScrutinyIndArea, &frmPayDetail::txtScrutinyINDRate, &frmPayDetail::txtScrutinyINDAmount},
-});
-constexpr std::array secondListRows = std::to_array<FeeRow>({
     {&frmPayDetail::txtScrutinyRArea2, &frmPayDetail::txtScrutinyRRate2, &frmPayDetail::txtScrutinyRAmount2},
     {&frmPayDetail::txtScrutinyCArea2, &frmPayDetail::txtScrutinyCRate2, &frmPayDetail::txtScrutinyCAmount2},
     {&frmPayDetail::txtScrutinyIndArea2, &frmPayDetail::txtScrutinyINDRate2, &frmPayDetail::txtScrutinyINDAmount2},
 });
 
 // The sum is taken in two steps, in this order.
-constexpr std::array<Box, 8> firstSum = {&frmPayDetail::txtCompoundFees,      &frmPayDetail::txtOther,
-                                         &frmPayDetail::txtScrutinyCAmount,   &frmPayDetail::txtScrutinyRAmount,
-                                         &frmPayDetail::txtScrutinyINDAmount, &frmPayDetail::txtDevAmtI,
-                                         &frmPayDetail::txtDevAmtC,           &frmPayDetail::txtTotal};
-constexpr std::array<Box, 3> secondSum = {&frmPayDetail::txtScrutinyCAmount2, &frmPayDetail::txtScrutinyINDAmount2,
-                                          &frmPayDetail::txtScrutinyRAmount2};
-
-constexpr std::string_view separator = "$$";
+constexpr std::array firstSum =
+    std::to_array<Box>({&frmPayDetail::txtCompoundFees, &frmPayDetail::txtOther, &frmPayDetail::txtScrutinyCAmount,
+                        &frmPayDetail::txtScrutinyRAmount, &frmPayDetail::txtScrutinyINDAmount,
+                        &frmPayDetail::txtDevAmtI, &frmPayDetail::txtDevAmtC, &frmPayDetail::txtTotal});
+constexpr std::array secondSum = std::to_array<Box>(
+    {&frmPayDetail::txtScrutinyCAmount2, &frmPayDetail::txtScrutinyINDAmount2, &frmPayDetail::txtScrutinyRAmount2});
 
 void formatMoney(TextBox& box) {
     box.setText(formatAmount(box.text()));
@@ -97,9 +89,7 @@ std::string sumText(const frmPayDetail& form, double start, std::span<const Box>
 
 frmPayDetail::frmPayDetail(Proposal& proposal)
     : DataForm(proposal, formName, "Payment Detail"), links(*this, proposal, &StepLinks::lblPayment) {
-    for (const FeeRow& row : firstListRows)
-        wireFeeRow(*this, row);
-    for (const FeeRow& row : secondListRows)
+    for (const FeeRow& row : feeRows)
         wireFeeRow(*this, row);
     wireSingleFees();
     wirePayment();
@@ -190,50 +180,6 @@ bool frmPayDetail::validate() {
     return !refuseEmpty(txtChqDraftNo, OptCheque.value() ? "Enter Cheque No" : "Enter Draft No") &&
            !refuseSpecialCharacter(txtBankNm, "Proposal Details") && !refuseEmpty(txtBankNm, "Enter Bank Name") &&
            !refuseSpecialCharacter(txtBranchNm, "Proposal Details") && !refuseEmpty(txtBranchNm, "Enter Branch Name");
-}
-
-void frmPayDetail::SaveData() {
-    fillEmptyBoxes();
-    if (!validate())
-        return;
-    saveFirstList();
-    saveSecondList();
-}
-
-void frmPayDetail::fillEmptyBoxes() {
-    // The bank and number boxes too: a pay order without a bank name is saved with bank "0.00".
-    forEach<TextBox>([](TextBox& box) {
-        if (trim(box.text()).empty())
-            box.setText("0.00");
-    });
-}
-
-void frmPayDetail::saveFirstList() {
-    std::vector<std::string> pieces;
-    for (const FeeRow& row : firstListRows)
-        for (const Box box : {row.area, row.rate, row.amount})
-            pieces.push_back((this->*box).text());
-    for (const TextBox* box : {&txtCompoundFees, &txtOther, &txtGrandTotal})
-        pieces.push_back(box->text());
-    // A draft has no mode, not even an empty one: the pieces behind it slide one place forward.
-    if (OptCash.value())
-        pieces.emplace_back("CASH");
-    else if (OptCheque.value())
-        pieces.emplace_back("PAYORDER");
-    pieces.push_back(DTPicker1.date().text());
-    for (const TextBox* box : {&txtChqDraftNo, &txtBankNm, &txtBranchNm})
-        pieces.emplace_back(trim(box->text()));
-    proposal.forms.get<frmAnnexureA>().txtPayDetail.setText(join(pieces, separator));
-}
-
-void frmPayDetail::saveSecondList() {
-    // Never emptied, not even for a new proposal, and the document reads its first nine values: those of the first save
-    // stand for good, and later ones need not be kept.
-    if (!proposal.secondScrutinyFees.empty())
-        return;
-    for (const FeeRow& row : secondListRows)
-        for (const Box box : {row.area, row.rate, row.amount})
-            proposal.secondScrutinyFees.append(separator).append((this->*box).text());
 }
 
 void frmPayDetail::cmdPrint_Click() {

@@ -117,9 +117,7 @@ void ExtractForm::txtNoOfExtranct_LostFocus() {
 
 /// Reads the block of the present family again from the document last opened.
 void ExtractForm::reread() {
-    const auto step = proposal.procedures.find(proposal.is712Current ? "readExtracts712" : "readExtractsPRC");
-    if (step != proposal.procedures.end())
-        step->second();
+    proposal.commands.readBlock(proposal.is712Current ? &Proposal::extractOwnerXML : &Proposal::prcOwnerXML);
     txtNoOfExtranct.setText(std::to_string(proposal.tables.ensure(&Tables::rsExtractPRC).recordCount()));
     txtRemark.setText(proposal.remark712);  // the 7/12 remark, for PRCs too
 }
@@ -292,7 +290,7 @@ void ExtractForm::cmdSave_Click() {
         dgdOwner.bind(nullptr);  // until an extract is chosen again
     if (kind.saveMakesPRCsTheSubject)
         proposal.is712Current = false;
-    (proposal.commands.*kind.buildBlock)();
+    proposal.commands.buildBlock(kind.family.extractList);
     buildOwnership(proposal);
     proposal.tables.rsOwnership712 = proposal.tables.rsOwnership;
     for (Grid* grid : {&dgdInfoOfExtract, &dgdOwner, &dgdPAH})

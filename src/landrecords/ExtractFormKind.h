@@ -18,7 +18,6 @@ struct ExtractFormKind {
     std::string_view saveCaption;
     std::string_view resetCaption;
     std::span<const Tables::Member> droppedByReset;
-    Commands::Action Commands::*buildBlock;
     bool savesWithCountOnly;       ///< without a count of extracts a save does nothing
     bool saveUnbindsOwners;        ///< the owners' grid is empty after a save until an extract is chosen
     bool saveMakesPRCsTheSubject;  ///< `is712Current` is cleared before the block is built

@@ -15,8 +15,9 @@ namespace plandesk {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> statuses = {"---- Select ----", "Signed", "PAH Given"};
-constexpr std::array<std::string_view, 4> types = {"------ Select------  ", "H - Holder", "L - Lease", "E - Easement"};
+constexpr std::array statuses = std::to_array<std::string_view>({"---- Select ----", "Signed", "PAH Given"});
+constexpr std::array types =
+    std::to_array<std::string_view>({"------ Select------  ", "H - Holder", "L - Lease", "E - Easement"});
 
 void addItems(ComboBox& list, std::span<const std::string_view> items) {
     for (const std::string_view item : items)

@@ -3,7 +3,6 @@
 #include <string>
 
 #include "base/Text.h"
-#include "proposal/Element.h"
 
 namespace plandesk {
 
@@ -40,11 +39,7 @@ frmNaOrder::frmNaOrder(Proposal& proposal) : DataForm(proposal, formName, "N.A. 
     cmbAreaForNA.click = [this] { cmbAreaForNA_Click(); };
     cmdSave.click = [this] { cmdSave_Click(); };
     cmdClose.click = [this] { hide(); };
-    Command1.click = [this] {
-        const auto& known = this->proposal.procedures;
-        if (const auto read = known.find("readNAOrder"); read != known.end())
-            read->second();
-    };
+    Command1.click = [this] { this->proposal.commands.readBlock(&Proposal::naOrderXML); };
     procedure("SaveNaOrder", [this] { SaveNaOrder(); });
 }
 
@@ -83,16 +78,7 @@ void frmNaOrder::cmdSave_Click() {
 }
 
 void frmNaOrder::SaveNaOrder() {
-    std::string& xml = proposal.naOrderXML;
-    xml = "<NAOrder>";
-    appendElement(xml, "OrderNo", trim(txtNaOrderNo.text()));
-    appendElement(xml, "OrderDate", DTPicker1.date().text());
-    appendElement(xml, "LandArea", txtLandArea.text());
-    appendElement(xml, "AreaForNAOrder", trim(cmbAreaForNA.text()));
-    appendElement(xml, "TxtArea1", trim(txtArea1.text()));
-    appendElement(xml, "TxtArea2", trim(txtArea2.text()));
-    appendElement(xml, "Remark", txtNARemark.text());
-    xml += "</NAOrder>";
+    proposal.commands.buildBlock(&Proposal::naOrderXML);
 }
 
 }  // namespace plandesk

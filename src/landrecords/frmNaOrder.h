@@ -20,7 +20,7 @@ public:
     /// Chooses the item that the list's text names and opens the areas that belong to it.
     void cmbAreaForNA_Click();
     void cmdSave_Click();
-    /// Sets `naOrderXML`. No value is escaped.
+    /// Asks for a new `naOrderXML`.
     void SaveNaOrder();
 
     TextBox txtNaOrderNo{*this, "txtNaOrderNo"};

@@ -206,15 +206,7 @@ void frmPlotExtractRelation::leaveRelation(const Tab& tab) {
     for (TextBox* box : {&tab.total, &tab.plots})
         if (trim(box->text()).empty())
             box->setText("0");
-    proposal.*tab.family.plotList = tab.plots.text() + "^#^" + tab.total.text() + "^#^";
-    proposal.*tab.family.total = toInteger16(tab.total.text());
-    std::string list;
-    Recordset& plots = proposal.tables.ensure(tab.family.plots);
-    for (plots.moveFirst(); !plots.eof(); plots.moveNext())
-        list += valueText(plots.get(PlotColumn::SrNo)) + "$-$" +
-                std::string(trim(valueText(plots.get(PlotColumn::PlotName)))) + "$-$" +
-                std::to_string(extractCount(plots)) + "@->";
-    proposal.*tab.family.plotList += list;
+    proposal.commands.buildBlock(tab.family.plotList);
 }
 
 void frmPlotExtractRelation::Save712ExtractRaltionShip() {

@@ -53,10 +53,10 @@ AnnexureACont::AnnexureACont(Proposal& proposal)
 
     wireKeyFilters();
     wireButtons();
-    wireCrossFieldRules(*this, annexureAContRules);
     opt21bi.onClick([this] { opt21bi_Click(); });
     opt21bii.onClick([this] { txtAttachDoc.setText(std::to_string(opt21bii.code())); });
     txtAttachDoc.change = [this] { txtAttachDoc_Change(); };
+    wireCrossFieldRules(*this, annexureAContRules);
 
     procedure("SaveData", [this] { SaveData(); });
     procedure("validate", [this] { validate(); });

@@ -161,8 +161,6 @@ private:
     void wireButtons();
     void opt21bi_Click();
     void txtAttachDoc_Change();
-    std::string sectionFourValue() const;
-    std::string sectionFiveValue() const;
 };
 
 }  // namespace plandesk

@@ -1,36 +1,23 @@
-// How the answers of Sections IV and V are packed for the document: values joined by "$$", parts of one value by "#".
+// How the answers of Sections IV and V are packed for the document.
 
 #include <array>
-#include <initializer_list>
 #include <string>
-#include <vector>
 
-#include "base/Text.h"
+#include "controls/Answers.h"
 #include "particulars/AnnexureACont.h"
+#include "particulars/PackedSections.h"
 #include "particulars/frmAnnexureA.h"
 
 namespace plandesk {
 
 namespace {
 
-std::string text(const TextBox& box) {
-    return std::string(trim(box.text()));
-}
-
-std::string texts(std::initializer_list<const TextBox*> boxes) {
-    std::vector<std::string> parts;
-    for (const TextBox* box : boxes)
-        parts.push_back(text(*box));
-    return join(parts, "#");
-}
-
-std::string answer(const YesNo& question) {
-    return std::to_string(question.code());
-}
-
-/// A question and the one that depends on its Yes.
-std::string answers(const YesNo& question, const YesNo& further) {
-    return question.yes.value() ? "1#" + answer(further) : answer(question) + "#2";
+/// The answers of which the second counts only after a Yes to the first.
+std::string secondAfterYes(const Form& form, std::string_view controls) {
+    std::string digits = answers(form, controls);
+    if (digits[0] != '1')
+        digits[2] = '2';
+    return digits;
 }
 
 /// Rooms lit from a chowk: by the answer of Opt22 (no, yes, neither) and that of Opt23 after a yes, of Opt24 after a
@@ -41,55 +28,62 @@ constexpr std::string_view chowkAnswers[3][3] = {
     {"2#2#2", "2#2#2", "2#2#2"},
 };
 
+std::string chowk(const Form& form, std::string_view /*controls*/) {
+    const auto& pages = dynamic_cast<const AnnexureACont&>(form);
+    const YesNo& further = pages.Opt22.yes.value() ? pages.Opt23 : pages.Opt24;
+    return std::string(chowkAnswers[pages.Opt22.code()][further.code()]);
+}
+
+/// Opt29 once more: the answer of Opt30 never reaches the document.
+std::string opt29Again(const Form& form, std::string_view /*controls*/) {
+    return answer(form, "Opt29");
+}
+
+constexpr std::array sectionFour = std::to_array<PackedRow>({
+    {"ONETHREE-RAD", "Opt19"},
+    {"ONETHREE-TEXT", "txtDistCentStreet"},
+    {"ONEFOUR-RAD", "Opt20 Opt21", secondAfterYes},
+    {"ONESIX-RAD", "Opt22 Opt23 Opt24", chowk},
+    {"ONESIX-TEXT", "txtDiaInnerChowk txtDiaOuterChowk"},
+    {"ONESEVEN-RAD", "Opt25 opt26", secondAfterYes},
+    {"ONESEVEN-TEXT", "txtLiftTyp txtLiftPassCap txtNoLift txtDoorTyp txtFireDetail"},
+    {"ONEEIGHT-RAD", "Opt27 Opt28", secondAfterYes},
+    {"REMARK4", "txtRmk4"},
+});
+
+constexpr std::array sectionFive = std::to_array<PackedRow>({
+    {"TWOZERO", "Opt29"},
+    {"TWOONE-RAD", "Opt30", opt29Again},
+    {"TWOONE-TEXT", "txtWidthMeanAccess txtRightWay txtAttachDoc txtClearHgt"},
+    {"TWOTHREE-RAD", "Opt31"},
+    {"TWOTHREE-TEXT", "txtHgtEnroch"},
+    {"TWOFOUR-RAD", "Opt32 Opt33"},
+    {"TWOFOUR-TEXT", "txtCompWallHgt"},
+    {"TWOFIVE-RAD", "Opt34 Opt35 Opt36 Opt37", secondAfterYes},
+    {"TWOSIX-TEXT", "txtProvAnteena"},
+    {"TWOEIGHT-TEXT", "txtNotComply"},
+    {"TWONINE-RAD", "Opt38 Opt39"},
+    {"TWONINE-TEXT", "txtFillLevel txtLevelRoad txtPlinthHgtRoad"},
+    {"THREEZERO-TEXT", "txtRoofs txtFloor txtWall txtColumns txtBeam txtOtherItem"},
+    {"THREEONE-TEXT", "txtWaterCloset txtNoBath txtNoUrinal txtNoKitchen"},
+    {"THREETWO-TEXT", "txtWaterSource"},
+    {"THREETHREE-TEXT", "txtDistSwer"},
+    {"THREEFOUR-TEXT", "txtMuncipalLand"},
+    {"REMARK5", "txtRmk5"},
+});
+
 }  // namespace
+
+constexpr std::span<const PackedRow> sectionFourRows = sectionFour;
+constexpr std::span<const PackedRow> sectionFiveRows = sectionFive;
 
 bool AnnexureACont::SaveData() {
     if (!validate())
         return false;
     auto& carriers = proposal.forms.get<frmAnnexureA>();
-    carriers.txtSectFourVal.setText(sectionFourValue());
-    carriers.txtSecFiveVal.setText(sectionFiveValue());
+    carriers.txtSectFourVal.setText(packedText(*this, sectionFourRows));
+    carriers.txtSecFiveVal.setText(packedText(*this, sectionFiveRows));
     return true;
-}
-
-std::string AnnexureACont::sectionFourValue() const {
-    const YesNo& chowkFurther = Opt22.yes.value() ? Opt23 : Opt24;
-    const std::array<std::string, 9> values = {
-        answer(Opt19),
-        text(txtDistCentStreet),
-        answers(Opt20, Opt21),
-        std::string(chowkAnswers[Opt22.code()][chowkFurther.code()]),
-        texts({&txtDiaInnerChowk, &txtDiaOuterChowk}),
-        answers(Opt25, opt26),
-        texts({&txtLiftTyp, &txtLiftPassCap, &txtNoLift, &txtDoorTyp, &txtFireDetail}),
-        answers(Opt27, Opt28),
-        text(txtRmk4),
-    };
-    return join(values, "$$");
-}
-
-std::string AnnexureACont::sectionFiveValue() const {
-    const std::array<std::string, 18> values = {
-        answer(Opt29),
-        answer(Opt29),  // Opt29 once more: the answer of Opt30 never reaches the document
-        texts({&txtWidthMeanAccess, &txtRightWay, &txtAttachDoc, &txtClearHgt}),
-        answer(Opt31),
-        text(txtHgtEnroch),
-        answer(Opt32) + "#" + answer(Opt33),
-        text(txtCompWallHgt),
-        answers(Opt34, Opt35) + "#" + answer(Opt36) + "#" + answer(Opt37),
-        text(txtProvAnteena),
-        text(txtNotComply),
-        answer(Opt38) + "#" + answer(Opt39),
-        texts({&txtFillLevel, &txtLevelRoad, &txtPlinthHgtRoad}),
-        texts({&txtRoofs, &txtFloor, &txtWall, &txtColumns, &txtBeam, &txtOtherItem}),
-        texts({&txtWaterCloset, &txtNoBath, &txtNoUrinal, &txtNoKitchen}),
-        text(txtWaterSource),
-        text(txtDistSwer),
-        text(txtMuncipalLand),
-        text(txtRmk5),
-    };
-    return join(values, "$$");
 }
 
 }  // namespace plandesk

@@ -1,7 +1,9 @@
 #include "particulars/CrossFieldRules.h"
 
 #include <algorithm>
+#include <set>
 
+#include "base/RuntimeError.h"
 #include "controls/Controls.h"
 #include "controls/Form.h"
 #include "proposal/mdlProject.h"
@@ -10,41 +12,40 @@ namespace plandesk {
 
 namespace {
 
-void apply(Effect effect, Control& control) {
-    const auto box = [&control]() -> TextBox& { return dynamic_cast<TextBox&>(control); };
+void apply(Effect effect, const Form& form, std::string_view key) {
     switch (effect) {
     case Effect::Show:
-        return control.setVisible(true);
+        return form.at(key).setVisible(true);
     case Effect::Hide:
-        return control.setVisible(false);
+        return form.at(key).setVisible(false);
     case Effect::Enable:
-        return control.setEnabled(true);
+        return form.at(key).setEnabled(true);
     case Effect::Disable:
-        return control.setEnabled(false);
+        return form.at(key).setEnabled(false);
     case Effect::Open:
-        return openBox(box());
+        return openBox(form.at<TextBox>(key));
     case Effect::Close:
-        return closeBox(box());
+        return closeBox(form.at<TextBox>(key));
     case Effect::EmptyAndClose:
-        return emptyAndCloseBox(box());
+        return emptyAndCloseBox(form.at<TextBox>(key));
     case Effect::Empty:
-        return box().setText("");
+        return form.at<TextBox>(key).setText("");
     case Effect::Grey:
-        return control.setBackColor(disabledGrey);
+        return form.at(key).setBackColor(disabledGrey);
     case Effect::Clear:
-        return dynamic_cast<OptionButton&>(control).setValue(false);
+        return form.at<OptionButton>(key).setValue(false);
     }
 }
 
-void apply(const CrossFieldRule& rule, Form& form) {
+void apply(const CrossFieldRule& rule, const Form& form) {
     for (std::string_view keys = rule.controls; !keys.empty();) {
         const std::size_t end = std::min(keys.find(' '), keys.size());
-        apply(rule.effect, *form.findKey(keys.substr(0, end)));
+        apply(rule.effect, form, keys.substr(0, end));
         keys.remove_prefix(std::min(end + 1, keys.size()));
     }
 }
 
-void applyRulesOf(std::string_view option, Form& form, std::span<const CrossFieldRule> rules) {
+void applyRulesOf(std::string_view option, const Form& form, std::span<const CrossFieldRule> rules) {
     for (const CrossFieldRule& rule : rules)
         if (rule.option == option)
             apply(rule, form);
@@ -54,11 +55,16 @@ void applyRulesOf(std::string_view option, Form& form, std::span<const CrossFiel
 
 void wireCrossFieldRules(Form& form, std::span<const CrossFieldRule> rules) {
     applyRulesOf("", form, rules);
-    for (const CrossFieldRule& rule : rules)
-        if (!rule.option.empty())
-            dynamic_cast<OptionButton&>(*form.findKey(rule.option)).click = [option = rule.option, &form, rules] {
-                applyRulesOf(option, form, rules);
-            };
+    std::set<std::string_view> wired;
+    for (const CrossFieldRule& rule : rules) {
+        if (rule.option.empty() || !wired.insert(rule.option).second)
+            continue;
+        auto& option = form.at<OptionButton>(rule.option);
+        if (option.click)
+            throw RuntimeError(ErrorNumber::InvalidProcedureCall,
+                               form.name() + "." + option.key() + " has a reaction beside its rules");
+        option.click = [key = rule.option, &form, rules] { applyRulesOf(key, form, rules); };
+    }
 }
 
 }  // namespace plandesk

@@ -70,7 +70,6 @@ frmAnnexureA::frmAnnexureA(Proposal& proposal) : DataForm(proposal, formName, "P
     wireKeyFilters();
     wireFirstPageTests();
     wireButtons();
-    wireCrossFieldRules(*this, frmAnnexureARules);
     Opt2.yes.click = [this] { Opt2Y_Click(); };
     Opt2.no.click = [this] { Opt2N_Click(); };
     PropTab.click = [this] { PropTab_Click(); };
@@ -80,6 +79,7 @@ frmAnnexureA::frmAnnexureA(Proposal& proposal) : DataForm(proposal, formName, "P
     OptSE.click = [this] { lblArch.setCaption(OptSE.caption()); };
     txtPathNm.change = [this] { this->proposal.screen.setCaption(txtPathNm.text()); };
 
+    wireCrossFieldRules(*this, frmAnnexureARules);
     procedure("SaveData", [this] { SaveData(); });
     procedure("CreateXMLFIle", [this] { this->proposal.commands.CreateXMLFIle(); });
     procedure("validate", [this] { validate(); });

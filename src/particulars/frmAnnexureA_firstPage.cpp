@@ -47,12 +47,12 @@ bool isEmpty(const Control& control) {
 
 /// Whether the test passes. A failure is told in a message and gives its field the focus, on the first tab.
 bool passes(const FirstPageTest& test, frmAnnexureA& form) {
-    Control& field = *form.find(test.field);
-    if (!isEmpty(field) || (!test.other.empty() && !isEmpty(*form.find(test.other))))
+    Control& field = form.at(test.field);
+    if (!isEmpty(field) || (!test.other.empty() && !isEmpty(form.at(test.other))))
         return true;
     std::string text(test.message);
     if (!test.captionOf.empty())
-        text = dynamic_cast<const Label&>(*form.find(test.captionOf)).caption() + " " + text;
+        text = form.at<Label>(test.captionOf).caption() + " " + text;
     form.screen().message(text, test.title);
     form.goToTab(0);
     form.show();
@@ -64,9 +64,7 @@ bool passes(const FirstPageTest& test, frmAnnexureA& form) {
 
 void frmAnnexureA::wireFirstPageTests() {
     for (const FirstPageTest& test : firstPageTests)
-        find(test.leaving.empty() ? test.field : test.leaving)->leaveCheck = [this, &test] {
-            return passes(test, *this);
-        };
+        at(test.leaving.empty() ? test.field : test.leaving).leaveCheck = [this, &test] { return passes(test, *this); };
     txtArchMiddName.leaveCheck = [] { return true; };
 }
 

@@ -6,20 +6,24 @@
 
 namespace plandesk {
 
+class Proposal;
+
 /// What forms ask of higher levels. The shell fills each in; a command that nobody filled in yet does nothing.
 struct Commands {
     using Action = std::function<void()>;
+    using Fragment = std::string Proposal::*;
 
     static void nothing() {}
 
-    Action saveProposal = nothing;       ///< every form leaves its answers, then the document is joined and written
-    Action SaveData = nothing;           ///< guards, joins the document and writes it
-    Action CreateXMLFIle = nothing;      ///< writes the joined document to the path of the proposal
-    Action buildAnnexureB = nothing;     ///< replaces `annexureBXML`
-    Action buildExtractBlock = nothing;  ///< replaces `extractOwnerXML` when there are 7/12 extracts
-    Action buildPRCBlock = nothing;      ///< replaces `prcOwnerXML` when there are PRCs
-    Action readXml = nothing;            ///< the steps of opening a file, without setting the proposal flags
+    Action saveProposal = nothing;   ///< every form leaves its answers, then the document is joined and written
+    Action SaveData = nothing;       ///< guards, joins the document and writes it
+    Action CreateXMLFIle = nothing;  ///< writes the joined document to the path of the proposal
+    Action readXml = nothing;        ///< the steps of opening a file, without setting the proposal flags
     Action refreshMenus = nothing;
+    /// Builds the block of the document whose text is that fragment.
+    std::function<void(Fragment)> buildBlock = [](Fragment) {};
+    /// Reads that block again from the document last opened.
+    std::function<void(Fragment)> readBlock = [](Fragment) {};
     /// Opens the form of that name as the catalogue of forms tells; one that does not exist yet is told in a box.
     std::function<void(std::string_view name)> open = [](std::string_view) {};
     /// Fills the report of that name and shows it; one that does not exist yet is told in a box.

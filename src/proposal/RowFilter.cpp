@@ -38,7 +38,7 @@ public:
 
     std::string_view takeOperator() {
         // The longer ones first, so that "<=" is not read as "<".
-        constexpr std::array<std::string_view, 6> operators = {"<=", ">=", "<>", "<", ">", "="};
+        constexpr std::array operators = std::to_array<std::string_view>({"<=", ">=", "<>", "<", ">", "="});
         const auto next = std::ranges::find_if(operators, [this](auto sign) { return rest.starts_with(sign); });
         if (next == operators.end())
             malformed();

@@ -35,7 +35,7 @@ private:
     std::array<bool, 256> members{};
 };
 
-constexpr std::array<CharacterClass, 14> characterClasses = {{
+constexpr std::array characterClasses = std::to_array<CharacterClass>({
     {"alpha", "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ'"},
     {"alphanumeric", "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789"},
     {"numeric", "0123456789"},
@@ -50,7 +50,7 @@ constexpr std::array<CharacterClass, 14> characterClasses = {{
     {"invalid", "<>/_0123456789!@#$%^&*-()?/{}[]+*|~`,><;="},
     {"amp", "[!@#$%^&*]`"},
     {"alphaint", "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ'."},
-}};
+});
 
 constexpr int backspace = 8;
 constexpr std::string_view specialKeys = "#$%&*@^~";

@@ -4,8 +4,7 @@
 
 #include "base/Text.h"
 #include "controls/Controls.h"
-#include "document/AnnexureB.h"
-#include "document/LandRecordBlocks.h"
+#include "document/DocumentBlocks.h"
 #include "document/ReadXML.h"
 #include "document/SaveProposal.h"
 #include "fees/frmDocCheckList.h"
@@ -37,19 +36,17 @@ void mdiInterface::fillCommands() {
     asked.saveProposal = [this] { saveProposal(); };
     asked.SaveData = [this] { SaveData(proposal); };
     asked.CreateXMLFIle = [this] { CreateXMLFIle(proposal); };
-    asked.buildAnnexureB = [this] { buildAnnexureB(proposal); };
-    asked.buildExtractBlock = [this] { buildExtractBlock(proposal); };
-    asked.buildPRCBlock = [this] { buildPRCBlock(proposal); };
     asked.readXml = [this] { openFile(); };
     asked.refreshMenus = [this] { refreshMenus(); };
+    asked.buildBlock = [this](Commands::Fragment fragment) { buildBlock(proposal, fragment); };
+    asked.readBlock = [this](Commands::Fragment fragment) {
+        plandesk::readBlock(proposal, fragment, reader.document());
+    };
     asked.open = [this](std::string_view name) { openForm(name); };
     asked.print = [this](std::string_view) { tellNotThereYet(); };
 
     auto& named = proposal.procedures;
     named["saveProposal"] = asked.saveProposal;
-    named["buildAnnexureB"] = asked.buildAnnexureB;
-    named["buildExtractBlock"] = asked.buildExtractBlock;
-    named["buildPRCBlock"] = asked.buildPRCBlock;
     named["buildOwnership"] = [this] { buildOwnership(proposal); };
     named["refreshMenus"] = asked.refreshMenus;
     named["uloadAllForms"] = [this] { uloadAllForms(); };
@@ -60,8 +57,12 @@ void mdiInterface::fillCommands() {
     named["showPaymentColors"] = [this] { proposal.forms.get<frmPayDetail>().showPaymentColors(); };
     named["createAllTables"] = [this] { proposal.tables.createAllTables(); };
     named["readSections"] = [this] { reader.readSections(); };
-    for (const ReadXML::Step& step : ReadXML::steps)
-        named[std::string(step.name)] = [this, &step] { (reader.*step.read)(); };
+    for (const DocumentBlock& block : documentBlocks()) {
+        if (block.build && !block.builder.empty())
+            named[std::string(block.builder)] = [this, &block] { block.build(proposal); };
+        if (block.read)
+            named[std::string(block.reader)] = [this, &block] { block.read(proposal, reader.document()); };
+    }
 
     commands["mnuNew"] = [this] { mnuNew_Click(); };
     commands["mnuOpen"] = [this] { mnuOpen_Click(); };

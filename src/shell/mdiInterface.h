@@ -14,6 +14,8 @@
 
 namespace plandesk {
 
+struct DocumentBlock;
+
 /// The main window without its picture: menu, proposal flags, the commands New, Open, Save, Save As and Exit, timers.
 /// Constructing it is the start of the program.
 class mdiInterface {
@@ -58,7 +60,7 @@ private:
     bool requireParticulars();
     /// The steps of opening a file, from the unload to the first page; a cancelled dialog leaves the forms unloaded.
     void openFile();
-    void readStep(const ReadXML::Step& step);
+    void readBlock(const DocumentBlock& block);
     void fillCommands();
     void openForm(std::string_view name);
     void tellNotThereYet();

@@ -4,6 +4,7 @@
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "document/DocumentBlocks.h"
 #include "document/SaveProposal.h"
 #include "fees/frmDocCheckList.h"
 #include "fees/frmPayDetail.h"
@@ -70,8 +71,9 @@ void mdiInterface::openFile() {
     proposal.tables.create(&Tables::rsOwnership);
     reader.LoadDocument(path);
     reader.readSections();
-    for (const ReadXML::Step& step : ReadXML::steps)
-        readStep(step);
+    for (const DocumentBlock& block : documentBlocks())
+        if (block.read)
+            readBlock(block);
     proposal.forms.get<frmDocCheckList>().hide();
     proposal.forms.get<frmPayDetail>().hide();
     auto& annexure = proposal.forms.get<frmAnnexureA>();
@@ -84,9 +86,9 @@ void mdiInterface::openFile() {
     refreshMenus();
 }
 
-void mdiInterface::readStep(const ReadXML::Step& step) {
+void mdiInterface::readBlock(const DocumentBlock& block) {
     try {
-        (reader.*step.read)();
+        block.read(proposal, reader.document());
     } catch (const RuntimeError& error) {
         proposal.screen.message(std::to_string(error.number) + ":" + error.description,
                                 " Particulars of Development (Read XML) ", Icon::Critical);

@@ -413,9 +413,8 @@ TEST_F(Extracts, AFillThatFoundNoPlotLeavesTheNextOneWithoutNewRowsToo) {
 TEST_F(Extracts, Command1OfThePrcFormReadsAgainAndTakesThe712Remark) {
     relate({2}, true);
     auto& form = openPrc();
-    std::vector<std::string> read;
-    proposal.procedures["readExtractsPRC"] = [&] { read.push_back("PRC"); };
-    proposal.procedures["readExtracts712"] = [&] { read.push_back("712"); };
+    std::vector<Commands::Fragment> read;
+    proposal.commands.readBlock = [&](Commands::Fragment block) { read.push_back(block); };
     proposal.remark712 = "of 7/12";
     proposal.remarkPRC = "of PRC";
     tables.rsExtractPRC->setFilter("");
@@ -424,7 +423,7 @@ TEST_F(Extracts, Command1OfThePrcFormReadsAgainAndTakesThe712Remark) {
     EXPECT_EQ(form.txtRemark.text(), "of 7/12");
     proposal.is712Current = true;
     user::click(form.Command1);
-    EXPECT_EQ(read, (Texts{"PRC", "712"}));
+    EXPECT_EQ(read, (std::vector<Commands::Fragment>{&Proposal::prcOwnerXML, &Proposal::extractOwnerXML}));
 }
 
 TEST_F(Extracts, TheRemarksStartFromThoseLastRead) {

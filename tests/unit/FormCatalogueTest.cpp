@@ -1,35 +1,17 @@
 #include "shell/FormCatalogue.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <regex>
 #include <set>
 
 #include <gtest/gtest.h>
 
+#include "unit/Sources.h"
 #include "unit/World.h"
 
 namespace plandesk::test {
 namespace {
 
 using Names = std::set<std::string, IgnoringCase>;
-
-/// What the pattern's first group finds in the sources of the program, each with the file that says it last.
-std::map<std::string, std::string> inSources(const std::string& pattern) {
-    std::map<std::string, std::string> found;
-    const std::regex wanted(pattern);
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(PLANDESK_SOURCES "/src")) {
-        if (!entry.is_regular_file())
-            continue;
-        std::ifstream file(entry.path());
-        const std::string text(std::istreambuf_iterator<char>(file), {});
-        for (std::sregex_iterator each(text.begin(), text.end(), wanted), end; each != end; ++each)
-            found[(*each)[1]] = entry.path().filename();
-    }
-    return found;
-}
 
 Names catalogued() {
     Names names;
@@ -44,7 +26,7 @@ TEST(FormCatalogue, EachFormHasOneRow) {
 
 TEST(FormCatalogue, EveryFormClassIsMadeByItsRow) {
     World world;
-    const auto classes = inSources(R"re(formName = "(\w+)")re");
+    const auto classes = inSources(PLANDESK_SOURCES, R"re(formName = "(\w+)")re");
     EXPECT_GE(classes.size(), 11U);
     for (const auto& [name, file] : classes)
         EXPECT_TRUE(world.proposal.forms.known(name)) << name << " of " << file << " is made by no row";
@@ -65,7 +47,7 @@ TEST(FormCatalogue, EveryFormNamedInTheSourcesIsInTheCatalogue) {
         if (row.make)
             for (const Control* control : world.proposal.forms.touch(row.name)->controls())
                 known.insert(control->name());
-    const auto named = inSources(R"re("((?:frm|AnnexureAC)\w+)")re");
+    const auto named = inSources(PLANDESK_SOURCES, R"re("((?:frm|AnnexureAC)\w+)")re");
     EXPECT_GE(named.size(), 20U);
     for (const auto& [name, file] : named)
         EXPECT_TRUE(known.contains(name)) << name << " of " << file;

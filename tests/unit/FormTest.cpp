@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/RuntimeError.h"
+#include "controls/Answers.h"
 #include "unit/SampleForm.h"
 
 namespace plandesk {
@@ -35,6 +37,29 @@ TEST_F(FormTest, MembersOfAnArrayAreFoundByNameAndIndexOnly) {
     EXPECT_EQ(form.find("txtPage", 2), nullptr);
     EXPECT_EQ(form.find("txtPage"), nullptr);
     EXPECT_EQ(form.find("txtFirst", 0), nullptr);
+}
+
+/// What the error says that the body raises.
+template <class Body>
+std::string raised(const Body& body) {
+    try {
+        body();
+    } catch (const RuntimeError& error) {
+        return std::to_string(error.number) + " " + error.description;
+    }
+    return "nothing";
+}
+
+TEST_F(FormTest, ANameThatTheFormLacksIsTold) {
+    EXPECT_EQ(&form.at("TXTFIRST"), &form.txtFirst);
+    EXPECT_EQ(&form.at<TextBox>("txtPage(1)"), &form.txtPage1);
+    EXPECT_EQ(raised([&] { form.at("txtFrist"); }), "3265 frmSample has no txtFrist");
+    EXPECT_EQ(raised([&] { form.at<TextBox>("Opt1Y"); }), "3265 frmSample has no Opt1Y");
+    EXPECT_EQ(raised([&] { form.at(""); }), "3265 frmSample has no ");
+    form.call("txtFirst_Change");
+    EXPECT_EQ(form.log, Log{"txtFirst Change"});
+    EXPECT_EQ(raised([&] { form.call("SaveDate"); }), "3265 frmSample has no SaveDate");
+    EXPECT_EQ(raised([&] { answers(form, "txtFirst Opt1 Opt2"); }), "3265 frmSample has no Opt2");
 }
 
 TEST_F(FormTest, KeysAreReadAsLayoutsWriteThem) {

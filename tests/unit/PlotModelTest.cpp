@@ -7,6 +7,7 @@
 
 #include "TestPorts.h"
 #include "controls/User.h"
+#include "document/DocumentBlocks.h"
 #include "landrecords/frmPlotExtractRelation.h"
 #include "proposal/Proposal.h"
 
@@ -242,6 +243,7 @@ struct SlowTables {
 
 void PlotModel::runSequence() {
     Proposal proposal(ports);
+    proposal.commands.buildBlock = [&](Commands::Fragment text) { buildBlock(proposal, text); };
     proposal.tables.createAllTables();
     SlowTables slow(proposal.tables, random);
     auto& form = proposal.forms.get<frmPlotExtractRelation>();

@@ -53,7 +53,8 @@ TEST_F(ProposalTest, CommandsThatNobodyFilledInDoNothing) {
     proposal.commands.saveProposal();
     proposal.commands.SaveData();
     proposal.commands.CreateXMLFIle();
-    proposal.commands.buildAnnexureB();
+    proposal.commands.buildBlock(&Proposal::annexureBXML);
+    proposal.commands.readBlock(&Proposal::naOrderXML);
     proposal.commands.readXml();
     proposal.commands.refreshMenus();
     proposal.commands.open("frmPlotExtractRelation");

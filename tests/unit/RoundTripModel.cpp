@@ -35,7 +35,7 @@ Texts pieces(const std::string& text, const std::string& separator) {
 
 std::string at(const Texts& list, std::size_t place) {
     if (place >= list.size())
-        throw RuntimeError(9, "Subscript out of range");
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange, "Subscript out of range");
     return list[place];
 }
 
@@ -395,7 +395,7 @@ private:
         } else if (!target.empty()) {
             const double product = toDouble(values[first]) * toDouble(values[second]);
             if (std::isinf(product))
-                throw RuntimeError(6, "Overflow");
+                throw RuntimeError(ErrorNumber::Overflow, "Overflow");
             assign(target, numberText(product));
         }
     }
@@ -518,7 +518,7 @@ private:
                 forms.answer(form + control, number);
         } else if (kind == "case") {
             if (text == "RES" || text == "RVA")
-                throw RuntimeError(380, "Invalid property value");
+                throw RuntimeError(ErrorNumber::InvalidPropertyValue, "Invalid property value");
             forms["A case"] = caseTypes[text == "CHG" || text == "REV" ? 1 : 0];
         } else if (kind == "use") {
             const std::string wanted = inCapitals(withoutBlanks(text));
@@ -556,7 +556,7 @@ private:
         attempt([&] {
             std::string list = at(groups, 5);
             if (list.empty())
-                throw RuntimeError(5, "Invalid procedure call or argument");
+                throw RuntimeError(ErrorNumber::InvalidProcedureCall, "Invalid procedure call or argument");
             list.pop_back();
             entries = pieces(list, "#");
         });

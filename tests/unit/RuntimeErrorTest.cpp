@@ -40,9 +40,9 @@ TEST(RuntimeError, DescribesEachKindInThePlatformsWords) {
 }
 
 TEST(RuntimeError, CanCarryAnyNumberAndText) {
-    const RuntimeError error(-2147467259, "Unspecified error");
-    EXPECT_EQ(error.number, -2147467259);
-    EXPECT_STREQ(error.what(), "Unspecified error");
+    const RuntimeError error(ErrorNumber::ItemNotFound, "frmSample has no txtFrist");
+    EXPECT_EQ(error.number, 3265);
+    EXPECT_STREQ(error.what(), "frmSample has no txtFrist");
 }
 
 }  // namespace

@@ -19,10 +19,10 @@ struct World {
     Proposal proposal{ports};
     mdiInterface shell{proposal};
 
-    /// The control of that name; a name that the form does not have fails the test at once.
+    /// The control of that name. RuntimeError with the name when the form does not have it.
     template <class Kind>
     Kind& control(std::string_view form, std::string_view key) {
-        return dynamic_cast<Kind&>(*proposal.forms.touch(form)->findKey(key));
+        return proposal.forms.touch(form)->at<Kind>(key);
     }
     TextBox& box(std::string_view form, std::string_view key) { return control<TextBox>(form, key); }
     Grid& grid(std::string_view form, std::string_view key) { return control<Grid>(form, key); }

@@ -75,7 +75,7 @@ TEST_F(FirstPageTest, EachLinkHoldsTheFocusOfAUserWhoLeaves) {
     first().show();
     for (const Link& link : chain) {
         fillFirstPage();
-        Control& leaving = *first().findKey(link.leaving);
+        Control& leaving = first().at(link.leaving);
         first().screen().dropFocus();
         ASSERT_TRUE(user::focus(leaving)) << link.leaving;
         empty(link.empty);
@@ -89,7 +89,7 @@ TEST_F(FirstPageTest, AFilledFieldLetsTheUserLeave) {
     fillFirstPage();
     first().show();
     for (const Link& link : chain) {
-        ASSERT_TRUE(user::focus(*first().findKey(link.leaving)));
+        ASSERT_TRUE(user::focus(first().at(link.leaving)));
         EXPECT_TRUE(user::focus(first().txtHissaNo)) << link.leaving;
     }
     expectNoMessage();

@@ -107,12 +107,12 @@ TEST_F(NaOrder, AnEmptyFormSavesEmptyElementsAndASelectLineAsItStands) {
 TEST_F(NaOrder, ResetDoesNothingCloseHidesAndCommand1ReadsAgain) {
     form.txtNaOrderNo.setText("7");
     form.show();
-    int read = 0;
-    proposal.procedures["readNAOrder"] = [&] { ++read; };
+    std::vector<Commands::Fragment> read;
+    proposal.commands.readBlock = [&](Commands::Fragment block) { read.push_back(block); };
     user::click(form.cmdReferesh);
     EXPECT_EQ(form.txtNaOrderNo.text(), "7");
     user::click(form.Command1);
-    EXPECT_EQ(read, 1);
+    EXPECT_EQ(read, std::vector<Commands::Fragment>{&Proposal::naOrderXML});
     user::click(form.cmdClose);
     EXPECT_FALSE(form.visible());
 }

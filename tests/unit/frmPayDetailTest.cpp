@@ -42,7 +42,7 @@ protected:
         TextBox& amount;
     };
 
-    TextBox& box(std::string_view name) { return dynamic_cast<TextBox&>(*fees().find(name)); }
+    TextBox& box(std::string_view name) { return fees().at<TextBox>(name); }
     Row row(const RowNames& names) { return {box(names.area), box(names.rate), box(names.amount)}; }
     /// The rows whose two first boxes both react to a change.
     std::vector<Row> changingRows() {

@@ -1,19 +1,20 @@
-#include "document/Answers.h"
+#include "controls/Answers.h"
 
 #include <vector>
 
-#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Form.h"
 
 namespace plandesk {
 
-YesNoOptions findQuestion(const Form& form, std::string_view name) {
+YesNoOptions question(const Form& form, std::string_view name) {
     const auto option = [](Control* control) { return dynamic_cast<OptionButton*>(control); };
     const std::string base(name);
-    if (YesNoOptions pair{option(form.find(base + "Y")), option(form.find(base + "N"))}; pair.yes && pair.no)
-        return pair;
-    return {option(form.find(name, 1)), option(form.find(name, 0))};
+    if (auto* yes = option(form.find(base + "Y")), *no = option(form.find(base + "N")); yes && no)
+        return {*yes, *no};
+    if (auto* yes = option(form.find(name, 1)), *no = option(form.find(name, 0)); yes && no)
+        return {*yes, *no};
+    form.missing(name);
 }
 
 std::string answer(const Form& form, std::string_view name) {
@@ -24,10 +25,8 @@ std::string answer(const Form& form, std::string_view name) {
         return list->text();
     if (const auto* picker = dynamic_cast<const DatePicker*>(control))
         return picker->date().text();
-    const YesNoOptions question = findQuestion(form, name);
-    if (!question.yes || !question.no)
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
-    return std::to_string(yesNoCode(question.yes->value(), question.no->value()));
+    const auto [yes, no] = question(form, name);
+    return std::to_string(yesNoCode(yes.value(), no.value()));
 }
 
 std::string answers(const Form& form, std::string_view names) {

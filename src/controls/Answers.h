@@ -12,15 +12,15 @@ namespace plandesk {
 
 class Form;
 
-/// The two options of a yes/no question; both null when the form has no such question.
+/// The two options of a yes/no question. RuntimeError 3265 that tells its name when the form has no such question.
 struct YesNoOptions {
-    OptionButton* yes = nullptr;
-    OptionButton* no = nullptr;
+    OptionButton& yes;
+    OptionButton& no;
 };
-YesNoOptions findQuestion(const Form& form, std::string_view name);
+YesNoOptions question(const Form& form, std::string_view name);
 
 /// The text of a box or list as typed, the digit of a yes/no question, the date of a picker as "dd/MM/yyyy".
-/// RuntimeError 91 when the form has no such control.
+/// RuntimeError 3265 that tells its name when the form has no such control.
 std::string answer(const Form& form, std::string_view name);
 
 /// The trimmed answers of the controls named in `names`, separated by blanks, joined by "#".
