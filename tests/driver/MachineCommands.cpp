@@ -93,12 +93,17 @@ void fail(Session& session, const Words& words) {
     session.files.failAtStep(step);
 }
 
+void include(Session& session, const Words& words) {
+    session.include(words[0].text);
+}
+
 constexpr std::array commands = std::to_array<Command>({
     {"today", 1, 1, "dd/MM/yyyy", today},
     {"set", 2, 2, "REF VALUE", set},
     {"touch", 1, 1, "FORM", touch},
     {"run", 1, 1, "PROCEDURE", runProcedure},
     {"fail", 2, 2, "write N", fail},
+    {"include", 1, 1, "FILE", include},
 });
 
 }  // namespace

@@ -1,6 +1,9 @@
 #include "driver/Session.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <utility>
 
 #include "driver/Commands.h"
 
@@ -8,6 +11,7 @@ namespace plandesk::driver {
 
 namespace {
 
+constexpr int deepestInclude = 16;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 const Command& findCommand(const std::string& name) {
@@ -28,23 +32,43 @@ Session::Session(std::string folder, std::string scriptName, std::ostream& out, 
       scriptName(std::move(scriptName)) {}
 
 Session::Status Session::run(std::istream& script) {
+    try {
+        runLines(script);
+    } catch (const ScriptError& error) {
+        tell() << error.what() << std::endl;
+        status = WrongScript;
+    }
+    out.flush();
+    return status;
+}
+
+void Session::runLines(std::istream& script) {
     std::string text;
-    while (std::getline(script, text)) {
-        ++line;
+    for (line = 1; std::getline(script, text); ++line) {
         std::string_view content = text;
         if (line == 1 && content.starts_with(byteOrderMark))
             content.remove_prefix(byteOrderMark.size());
         if (content.ends_with('\r'))
             content.remove_suffix(1);
-        try {
-            runLine(content);
-        } catch (const ScriptError& error) {
-            tell() << error.what() << std::endl;
-            return status = WrongScript;
-        }
+        runLine(content);
     }
-    out.flush();
-    return status;
+}
+
+// A script that is wrong leaves the name and the line of the file that it stands in.
+void Session::include(const std::string& path) {
+    const std::filesystem::path file = std::filesystem::path(scriptName).parent_path() / path;
+    std::ifstream script(file, std::ios::binary);
+    if (!script || std::filesystem::is_directory(file))
+        throw ScriptError(file.string() + ": cannot be read");
+    if (depth == deepestInclude)
+        throw ScriptError("files include each other too deeply");
+    ++depth;
+    std::string includer = std::exchange(scriptName, file.string());
+    const int here = line;
+    runLines(script);
+    scriptName = std::move(includer);
+    line = here;
+    --depth;
 }
 
 void Session::runLine(std::string_view content) {

@@ -27,6 +27,9 @@ public:
 
     // What commands use.
 
+    /// Runs the lines of that file, told from the folder of the running script, in its place. ScriptError when it
+    /// cannot be read or includes too deeply.
+    void include(const std::string& path);
     /// Tells of an expectation that did not hold; the run goes on.
     void failed(std::string_view expected, std::string_view found);
     /// Tells of something that was not there for the user.
@@ -43,12 +46,14 @@ public:
     mdiInterface shell;
 
 private:
+    void runLines(std::istream& script);
     void runLine(std::string_view content);
     std::ostream& tell();
 
     std::ostream& err;
     std::string scriptName;
     int line = 0;
+    int depth = 0;  ///< files included in each other
     Status status = Held;
 };
 

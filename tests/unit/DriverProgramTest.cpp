@@ -38,6 +38,30 @@ TEST_F(DriverInAFolder, TheProgramRunsAScriptFileOrStandardInput) {
     EXPECT_EQ(runProgram("wrong.txt"), Result(2, "wrong.txt:1: unknown command \"frobnicate\"\n"));
 }
 
+TEST_F(DriverInAFolder, AScriptIncludesAnotherToldFromItsOwnFolder) {
+    folder.write("outer.txt", "include parts/inner.txt\nexpect-flag feeArea 1\nprint-flag feeArea\n");
+    std::filesystem::create_directory("parts");
+    folder.write("parts/inner.txt",
+                 "\xEF\xBB\xBF# a mark and a comment\r\ninclude innermost.txt\nexpect-flag feeArea 2\n");
+    folder.write("parts/innermost.txt", "print-flag isNewProposal\n");
+    EXPECT_EQ(runProgram("outer.txt"), Result(1,
+                                              "false\nparts/inner.txt:3: expected feeArea \"2\", found \"0\"\n"
+                                              "outer.txt:2: expected feeArea \"1\", found \"0\"\n0\n"));
+    EXPECT_EQ(runProgram("- < outer.txt").first, 1);
+}
+
+TEST_F(DriverInAFolder, AWrongLineOfAnIncludedFileIsToldThereAndEndsTheRun) {
+    folder.write("outer.txt", "include inner.txt\nprint-flag feeArea\n");
+    folder.write("inner.txt", "\nfrobnicate\n");
+    EXPECT_EQ(runProgram("outer.txt"), Result(2, "inner.txt:2: unknown command \"frobnicate\"\n"));
+    folder.write("none.txt", "include gone.txt\n");
+    EXPECT_EQ(runProgram("none.txt"), Result(2, "none.txt:1: gone.txt: cannot be read\n"));
+    folder.write("folder.txt", "include .\n");
+    EXPECT_EQ(runProgram("folder.txt"), Result(2, "folder.txt:1: .: cannot be read\n"));
+    folder.write("itself.txt", "include itself.txt\n");
+    EXPECT_EQ(runProgram("itself.txt"), Result(2, "itself.txt:1: files include each other too deeply\n"));
+}
+
 TEST_F(DriverInAFolder, TheProgramRefusesWhatItCannotRead) {
     EXPECT_EQ(runProgram("none.txt"), Result(2, "none.txt: cannot be read\n"));
     EXPECT_EQ(runProgram("."), Result(2, ".: cannot be read\n"));
