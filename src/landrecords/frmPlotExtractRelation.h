@@ -25,8 +25,8 @@ public:
 
     /// Shows the form on its first tab and takes the snapshot of the 7/12 plots that saves compare with.
     void open();
-    /// Puts 0 into empty boxes and asks for a new `plotRelXML`, then a new `plotPrcDetailsXML`. RuntimeError 6 or 13 for
-    /// a total or count that is no 16-bit number; what was set by then stays.
+    /// Puts 0 into empty boxes and asks for a new `plotRelXML`, then a new `plotPrcDetailsXML`. RuntimeError 6 or 13
+    /// for a total or count that is no 16-bit number; what was set by then stays.
     void Save712ExtractRaltionShip();
     void dgd712ExtractRelationColSetting();
     void dgdPRCPlotRelColSetting();
