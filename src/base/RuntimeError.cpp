@@ -17,6 +17,7 @@ struct Description {
 constexpr Description descriptions[] = {
     {ErrorNumber::InvalidProcedureCall, "Invalid procedure call or argument"},
     {ErrorNumber::Overflow, "Overflow"},
+    {ErrorNumber::OutOfMemory, "Out of memory"},
     {ErrorNumber::SubscriptOutOfRange, "Subscript out of range"},
     {ErrorNumber::TypeMismatch, "Type mismatch"},
     {ErrorNumber::OutOfStackSpace, "Out of stack space"},

@@ -9,6 +9,7 @@ namespace plandesk {
 enum class ErrorNumber {
     InvalidProcedureCall = 5,
     Overflow = 6,
+    OutOfMemory = 7,
     SubscriptOutOfRange = 9,
     TypeMismatch = 13,
     OutOfStackSpace = 28,

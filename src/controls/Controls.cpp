@@ -146,29 +146,31 @@ ComboBox::ComboBox(Form& form, std::string_view name, std::initializer_list<std:
         addItem(text);
 }
 
-const ComboBox::Entry& ComboBox::at(int position) const {
+std::size_t ComboBox::at(int position) const {
     if (position < 0 || position >= listCount())
         throw RuntimeError(ErrorNumber::InvalidPropertyArrayIndex);
-    return entries[static_cast<std::size_t>(position)];
+    return static_cast<std::size_t>(position);
 }
 
-const std::string& ComboBox::item(int position) const {
-    return at(position).text;
+std::string_view ComboBox::item(int position) const {
+    return items[at(position)];
 }
 
 std::int32_t ComboBox::itemData(int position) const {
-    return at(position).data;
+    return data[at(position)];
 }
 
 void ComboBox::clear() {
-    entries.clear();
+    items.clear();
+    data.clear();
     content.clear();
     chosen = -1;
     touched();
 }
 
-void ComboBox::addItem(std::string_view text, std::int32_t data) {
-    entries.push_back({std::string(text), data});
+void ComboBox::addItem(std::string_view text, std::int32_t number) {
+    items.add(text);
+    data.push_back(number);
     touched();
 }
 
@@ -187,8 +189,10 @@ void ComboBox::setListIndex(int position) {
 }
 
 void ComboBox::setText(std::string_view text) {
-    const auto found = std::ranges::find(entries, text, &Entry::text);
-    chosen = found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+    chosen = -1;
+    for (std::size_t place = 0; place < items.size() && chosen < 0; ++place)
+        if (items[place] == text)
+            chosen = static_cast<int>(place);
     content = text;
     touched();
 }
@@ -197,7 +201,7 @@ void ComboBox::pick(int position) {
     if (position < 0 || position >= listCount())
         throw RuntimeError(ErrorNumber::InvalidPropertyValue);
     chosen = position;
-    content = at(position).text;
+    content = items[at(position)];
     touched();
     runReaction(click);
 }

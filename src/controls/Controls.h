@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Date.h"
+#include "base/TextList.h"
 #include "controls/Control.h"
 
 // The kinds of control. `set...` is what program code does; the functions told as "the user" are called by the
@@ -156,13 +157,13 @@ public:
 
     const std::string& text() const { return content; }
     int listIndex() const { return chosen; }
-    int listCount() const { return static_cast<int>(entries.size()); }
-    /// RuntimeError 381 for a position that the list does not have.
-    const std::string& item(int position) const;
+    int listCount() const { return static_cast<int>(data.size()); }
+    /// Valid until the list changes. RuntimeError 381 for a position that the list does not have.
+    std::string_view item(int position) const;
     std::int32_t itemData(int position) const;
 
     void clear();
-    void addItem(std::string_view text, std::int32_t data = 0);
+    void addItem(std::string_view text, std::int32_t number = 0);
     /// Nothing if equal; otherwise the text follows and `click` runs. -1 clears the text and runs nothing.
     /// RuntimeError 380 for a position that the list does not have; nothing changes then.
     void setListIndex(int position);
@@ -175,13 +176,11 @@ public:
     std::function<void()> click;
 
 private:
-    struct Entry {
-        std::string text;
-        std::int32_t data;
-    };
-    const Entry& at(int position) const;
+    /// The position as an index. RuntimeError 381 for one that the list does not have.
+    std::size_t at(int position) const;
 
-    std::vector<Entry> entries;
+    TextList items;
+    std::vector<std::int32_t> data;  ///< of each item
     std::string content;
     int chosen = -1;
 };

@@ -22,6 +22,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int linksFollowed = 40;
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 struct Target {
     fs::path path;  ///< links resolved
@@ -98,28 +99,35 @@ void undoReplacing(const Target& target, std::optional<ScratchFile>& kept) {
 
 }  // namespace
 
-std::vector<std::string> FileStore::readLines(const fs::path& path) {
+void FileStore::readLines(const fs::path& path, const std::function<void(std::string_view)>& take) {
     const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     if (file.number < 0)
         throw RuntimeError(errno == ENOENT || errno == ENOTDIR ? ErrorNumber::FileNotFound
                                                                : ErrorNumber::PathFileAccess);
-    std::string bytes;
-    char block[16384];
+    bool first = true;
+    const auto takeLine = [&](std::string_view line) {
+        if (std::exchange(first, false) && line.starts_with(byteOrderMark))
+            line.remove_prefix(byteOrderMark.size());
+        take(line);
+    };
+    std::string begun;  // of the line whose end has not come yet
+    char block[65536];
     ssize_t count = 0;
     while ((count = read(file.number, block, sizeof block)) != 0) {
         if (count < 0 && errno != EINTR)
             throw RuntimeError(ErrorNumber::PathFileAccess);
-        if (count > 0)
-            bytes.append(block, static_cast<std::size_t>(count));
+        std::string_view bytes(block, static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+        for (std::size_t end = 0; (end = bytes.find('\n')) != bytes.npos; bytes.remove_prefix(end + 1)) {
+            std::string_view line = begun.append(bytes.substr(0, end));
+            if (line.ends_with('\r'))
+                line.remove_suffix(1);
+            takeLine(line);
+            begun.clear();
+        }
+        begun.append(bytes);
     }
-    std::vector<std::string> lines;
-    for (std::size_t start = 0; start < bytes.size();) {
-        const std::size_t end = std::min(bytes.find('\n', start), bytes.size());
-        const bool returned = end > start && end < bytes.size() && bytes[end - 1] == '\r';
-        lines.push_back(bytes.substr(start, end - start - (returned ? 1 : 0)));
-        start = end + 1;
-    }
-    return lines;
+    if (!begun.empty())
+        takeLine(begun);
 }
 
 void FileStore::writeWhole(const fs::path& path, std::string_view bytes) {

@@ -1,9 +1,8 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
+#include <functional>
 #include <string_view>
-#include <vector>
 
 #include "controls/Ports.h"
 
@@ -20,7 +19,8 @@ public:
     /// Steps of a write, in order.
     enum class Step { Create = 1, Write, Permissions, Flush, KeepEarlier, Replace, FlushFolder };
 
-    std::vector<std::string> readLines(const std::filesystem::path& path) override;
+    /// Holds one line of the file at a time.
+    void readLines(const std::filesystem::path& path, const std::function<void(std::string_view)>& take) override;
 
     /// The new file keeps the permission bits of the earlier one. A link is followed: what it points at is written.
     void writeWhole(const std::filesystem::path& path, std::string_view bytes) override;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "base/Date.h"
 
@@ -52,9 +52,9 @@ public:
 class Files {
 public:
     virtual ~Files() = default;
-    /// The lines of a text file without their ends (line feed, or carriage return and line feed).
-    /// RuntimeError 53 when the file is missing, 75 when it cannot be read.
-    virtual std::vector<std::string> readLines(const std::filesystem::path& path) = 0;
+    /// Calls `take` with each line of a text file, without its end (line feed, or carriage return and line feed) and
+    /// without a byte-order mark. RuntimeError 53 when the file is missing, 75 when it cannot be read.
+    virtual void readLines(const std::filesystem::path& path, const std::function<void(std::string_view)>& take) = 0;
     /// Writes the file whole or not at all: at any moment the disk holds the earlier file or the new one.
     /// RuntimeError 61, 70, 75, 76 or 57 when it cannot; the earlier file is then untouched.
     virtual void writeWhole(const std::filesystem::path& path, std::string_view bytes) = 0;

@@ -1,12 +1,12 @@
 #include "controls/ScratchFile.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <system_error>
 
 #include <fcntl.h>
-#include <stdlib.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 

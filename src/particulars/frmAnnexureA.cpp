@@ -129,14 +129,16 @@ void frmAnnexureA::setComboValues() {
         cboProposProj.addItem(project.text);
     cboSector.clear();
     villageCodes.clear();
-    for (const std::string& line :
-         proposal.screen.ports.files.readLines(proposal.screen.ports.program.folder() + "/VILLAGENAMES.txt")) {
-        const std::vector<std::string> fields = split(line, "#");
-        if (fields.size() < 3)
+    const Ports& ports = proposal.screen.ports;
+    ports.files.readLines(ports.program.folder() + "/VILLAGENAMES.txt", [this](std::string_view line) {
+        const std::size_t first = line.find('#');
+        const std::size_t second = first == line.npos ? first : line.find('#', first + 1);
+        if (second == line.npos)
             throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
-        cboSector.addItem(fields[0], toInteger32(fields[1]));
-        villageCodes.push_back(fields[2]);
-    }
+        cboSector.addItem(line.substr(0, first), toInteger32(line.substr(first + 1, second - first - 1)));
+        const std::string_view rest = line.substr(second + 1);
+        villageCodes.add(rest.substr(0, rest.find('#')));
+    });
 }
 
 void frmAnnexureA::cboCaseType_Click() {

@@ -50,7 +50,7 @@ public:
     void setComboValues();
 
     /// Third fields of the village file, by line.
-    std::vector<std::string> villageCodes;
+    TextList villageCodes;
 
     // Head
     Button cmdNavPrev{*this, "cmdNavPrev", "<<"};

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <string>
-#include <vector>
 
 #include "base/RuntimeError.h"
 #include "proposal/mdlProject.h"
@@ -50,22 +49,23 @@ void frmAbout::showVersion(std::string_view version) {
 }
 
 void frmAbout::readVersionFile() {
-    std::vector<std::string> lines;
-    try {
-        lines = screen().ports.files.readLines(screen().ports.program.folder() + "/version.ini");
-    } catch (const RuntimeError& error) {
-        if (error.number != static_cast<int>(ErrorNumber::FileNotFound))
-            throw;
-        return;  // what the program itself knows stands
-    }
     const std::array<std::function<void(std::string_view)>, 4> readers = {
         [this](std::string_view line) { showTitle(line); },
         [this](std::string_view line) { showVersion(line); },
         [this](std::string_view line) { lblDescription.setCaption(line); },
         [this](std::string_view line) { lblDisclaimer.setCaption(line); },
     };
-    for (std::size_t line = 0; line < std::min(lines.size(), readers.size()); ++line)
-        readers.at(line)(lines[line]);
+    std::size_t count = 0;
+    try {
+        screen().ports.files.readLines(screen().ports.program.folder() + "/version.ini", [&](std::string_view line) {
+            if (count < readers.size())
+                readers.at(count++)(line);
+        });
+    } catch (const RuntimeError& error) {
+        if (error.number != static_cast<int>(ErrorNumber::FileNotFound))
+            throw;
+        // What the program itself knows stands.
+    }
 }
 
 void frmAbout::StartSysInfo() {

@@ -100,6 +100,14 @@ bool isLoaded(const Session& session, const std::string& form) {
 using Arguments = std::vector<int>;
 using Found = std::optional<PropertyValue>;
 
+template <class Value>
+PropertyValue propertyValue(const Value& value) {
+    if constexpr (std::is_same_v<Value, std::string_view>)
+        return std::string(value);
+    else
+        return value;
+}
+
 /// Reads a property that controls of the kind have. `reader` takes the control and the arguments of the property.
 template <class Kind, auto reader>
 Found read(const Control& control, const Arguments& arguments) {
@@ -107,11 +115,11 @@ Found read(const Control& control, const Arguments& arguments) {
     if (!wanted)
         return std::nullopt;
     if constexpr (std::is_invocable_v<decltype(reader), const Kind&, int, int>)
-        return PropertyValue(std::invoke(reader, *wanted, arguments[0], arguments[1]));
+        return propertyValue(std::invoke(reader, *wanted, arguments[0], arguments[1]));
     else if constexpr (std::is_invocable_v<decltype(reader), const Kind&, int>)
-        return PropertyValue(std::invoke(reader, *wanted, arguments[0]));
+        return propertyValue(std::invoke(reader, *wanted, arguments[0]));
     else
-        return PropertyValue(std::invoke(reader, *wanted));
+        return propertyValue(std::invoke(reader, *wanted));
 }
 
 Found textProperty(const Control& control, const Arguments& none) {

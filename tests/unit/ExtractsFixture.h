@@ -53,7 +53,7 @@ struct Extracts : testing::Test, World {
     static std::vector<std::string> items(const ComboBox& list) {
         std::vector<std::string> texts;
         for (int item = 0; item < list.listCount(); ++item)
-            texts.push_back(list.item(item));
+            texts.emplace_back(list.item(item));
         return texts;
     }
 };

@@ -19,6 +19,11 @@ constexpr int lastStep = static_cast<int>(FileStore::Step::FlushFolder);
 
 class FileStoreTest : public test::FileStoreFixture {
 protected:
+    Names linesOf(const fs::path& file) {
+        Names lines;
+        files.readLines(file, [&](std::string_view line) { lines.emplace_back(line); });
+        return lines;
+    }
     /// Result of `action` without the rights of root, from whom nothing is protected.
     template <class Action>
     int asOrdinaryUser(Action action) {
@@ -212,21 +217,44 @@ TEST_F(FileStoreTest, OnlyLeftoversThatNobodyIsWritingAreRemoved) {
 
 TEST_F(FileStoreTest, ReadsLinesWithEitherEnd) {
     put(path, "one\r\ntwo\n\n four \r\nlast");
-    EXPECT_EQ(files.readLines(path), (Names{"one", "two", "", " four ", "last"}));
+    EXPECT_EQ(linesOf(path), (Names{"one", "two", "", " four ", "last"}));
     put(path, "one\ntwo\n");
-    EXPECT_EQ(files.readLines(path), (Names{"one", "two"}));
+    EXPECT_EQ(linesOf(path), (Names{"one", "two"}));
     put(path, "");
-    EXPECT_EQ(files.readLines(path), Names{});
+    EXPECT_EQ(linesOf(path), Names{});
     put(path, "a\rb\n\r\n");
-    EXPECT_EQ(files.readLines(path), (Names{"a\rb", ""}));
+    EXPECT_EQ(linesOf(path), (Names{"a\rb", ""}));
     put(path, std::string(100000, 'x') + "\ny");
-    EXPECT_EQ(files.readLines(path), (Names{std::string(100000, 'x'), "y"}));
+    EXPECT_EQ(linesOf(path), (Names{std::string(100000, 'x'), "y"}));
+}
+
+TEST_F(FileStoreTest, LinesThatDoNotFitIntoOneReadingAreWhole) {
+    Names lines;
+    std::string bytes;
+    for (const std::size_t length : {65535U, 1U, 65536U, 0U, 70000U, 131072U, 3U}) {
+        lines.push_back(std::string(length, static_cast<char>('a' + lines.size())));
+        bytes += lines.back() + "\r\n";
+    }
+    put(path, bytes);
+    EXPECT_EQ(linesOf(path), lines);
+}
+
+TEST_F(FileStoreTest, AByteOrderMarkIsNoPartOfTheFirstLineAndStaysElsewhere) {
+    const std::string mark = "\xEF\xBB\xBF";
+    put(path, mark + "one\n" + mark + "two\n");
+    EXPECT_EQ(linesOf(path), (Names{"one", mark + "two"}));
+    put(path, mark);
+    EXPECT_EQ(linesOf(path), Names{""});
+    put(path, mark + "\r\none");
+    EXPECT_EQ(linesOf(path), (Names{"", "one"}));
+    put(path, "\xEF\xBBone");
+    EXPECT_EQ(linesOf(path), Names{"\xEF\xBBone"});
 }
 
 TEST_F(FileStoreTest, AMissingFileIsNotFoundAndAFolderCannotBeRead) {
     const auto failureOfReading = [this](const fs::path& file) {
         try {
-            files.readLines(file);
+            linesOf(file);
         } catch (const RuntimeError& error) {
             return error.number;
         }

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <ostream>
@@ -71,18 +72,16 @@ public:
     /// Thrown by every write while it is set; nothing is written then.
     std::optional<RuntimeError> failure;
 
-    std::vector<std::string> readLines(const std::filesystem::path& path) override {
+    void readLines(const std::filesystem::path& path, const std::function<void(std::string_view)>& take) override {
         const auto file = contents.find(path);
         if (file == contents.end())
             throw RuntimeError(ErrorNumber::FileNotFound);
-        std::vector<std::string> lines;
         std::istringstream in(file->second);
         for (std::string line; std::getline(in, line);) {
             if (line.ends_with('\r'))
                 line.pop_back();
-            lines.push_back(line);
+            take(line);
         }
-        return lines;
     }
     void writeWhole(const std::filesystem::path& path, std::string_view bytes) override {
         if (failure)

@@ -59,7 +59,7 @@ TEST_F(frmAboutTest, TakesAnEmptyLineAsItStands) {
 
 TEST_F(frmAboutTest, FileThatCannotBeReadIsToldAndTheFormStands) {
     struct LockedFiles : MemoryFiles {
-        std::vector<std::string> readLines(const std::filesystem::path&) override {
+        void readLines(const std::filesystem::path&, const std::function<void(std::string_view)>&) override {
             throw RuntimeError(ErrorNumber::PathFileAccess);
         }
     } locked;

@@ -35,7 +35,7 @@ TEST_F(frmAnnexureATest, FillsItsListsInTheirOrder) {
     const auto items = [](const ComboBox& list) {
         std::vector<std::string> texts;
         for (int i = 0; i < list.listCount(); ++i)
-            texts.push_back(list.item(i));
+            texts.emplace_back(list.item(i));
         return texts;
     };
     EXPECT_EQ(items(first().cboCaseType), (std::vector<std::string>{"New", "Revised"}));
@@ -59,7 +59,11 @@ TEST_F(frmAnnexureATest, FillsItsListsInTheirOrder) {
 TEST_F(frmAnnexureATest, AVillageKeepsItsNumberAndItsCode) {
     EXPECT_EQ(first().cboSector.itemData(0), 1);
     EXPECT_EQ(first().cboSector.itemData(2), 30);
-    EXPECT_EQ(first().villageCodes, (std::vector<std::string>{"TRV", "BLN", "HSV"}));
+    const TextList& codes = first().villageCodes;
+    ASSERT_EQ(codes.size(), 3U);
+    EXPECT_EQ(codes[0], "TRV");
+    EXPECT_EQ(codes[1], "BLN");
+    EXPECT_EQ(codes[2], "HSV");
 }
 
 TEST_F(frmAnnexureATest, FillingTheListsAgainStartsThemAnew) {
@@ -103,7 +107,8 @@ TEST_F(frmAnnexureATest, AVillageNumberThatIsNoneStopsTheLoad) {
 TEST_F(frmAnnexureATest, AVillageMayHaveAnEmptyCode) {
     machine.files.contents["/program/VILLAGENAMES.txt"] = "Tervale#1#\n";
     EXPECT_EQ(first().cboSector.listCount(), 1);
-    EXPECT_EQ(first().villageCodes, std::vector<std::string>{""});
+    ASSERT_EQ(first().villageCodes.size(), 1U);
+    EXPECT_EQ(first().villageCodes[0], "");
     expectNoMessage();
 }
 
