@@ -11,14 +11,21 @@
 
 namespace plandesk {
 
+class Control;
+
 enum class Icon { None, Information, Question, Critical };
 
 struct Message {
     std::string title;  ///< empty: the message has no title of its own, a window shows the program's name
     std::string text;
     Icon icon = Icon::None;
+    std::string detail{};            ///< a second line that helps to find what is meant: a file, a form's question
+    const Control* about = nullptr;  ///< the control that is meant, beside which a window shows the message
 
-    bool operator==(const Message&) const = default;
+    /// Whether the system tells the same; the help that a window adds does not count.
+    bool operator==(const Message& other) const {
+        return title == other.title && text == other.text && icon == other.icon;
+    }
 };
 
 struct FileDialog {

@@ -1,10 +1,14 @@
 #include "controls/Screen.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "base/Counted.h"
 #include "controls/Control.h"
 #include "controls/Form.h"
+#include "controls/Meaning.h"
+#include "controls/Naming.h"
 
 namespace plandesk {
 
@@ -19,7 +23,10 @@ Screen::Screen(const Ports& ports) : ports(ports) {}
 Screen::~Screen() = default;
 
 void Screen::message(std::string_view text, std::string_view title, Icon icon) {
-    ports.dialogs.showMessage({std::string(title), std::string(text), icon});
+    const Subject failure = std::exchange(failed, {});
+    const Subject& meant = icon == Icon::Critical && !failure.empty() ? failure : subject;
+    const std::string detail = meant.control ? placeOf(*meant.control) : meant.text;
+    ports.dialogs.showMessage({std::string(title), std::string(text), icon, detail, meant.control});
 }
 
 void Screen::event(const std::function<void()>& reaction) {
@@ -74,6 +81,7 @@ void Screen::dropFocus() {
 }
 
 bool Screen::mayLeave(Control& control) {
+    const Meaning meant(control.form().screen(), control);
     return !control.leaveCheck || control.leaveCheck();
 }
 
@@ -100,7 +108,10 @@ void Screen::runFocusMove(Control* old, Control* to) {
         to->form().active = to;
     // A control that a reaction took the focus from before it arrived has not lost anything.
     if (old && oldHadFocus)
-        event([old] { old->loseFocus(); });
+        event([this, old] {
+            const Meaning meant(*this, *old);
+            old->loseFocus();
+        });
     // The reaction may have given the focus back; the move ends there then.
     if (to && focus == to && !focusArrived) {
         focusArrived = true;
@@ -118,6 +129,12 @@ Form* Screen::frontForm() const {
         return modal;
     const auto front = std::find_if(stack.rbegin(), stack.rend(), [](const Form* form) { return form->visible(); });
     return front == stack.rend() ? nullptr : *front;
+}
+
+std::vector<Form*> Screen::visibleForms() const {
+    std::vector<Form*> visible;
+    std::copy_if(stack.rbegin(), stack.rend(), std::back_inserter(visible), [](Form* form) { return form->visible(); });
+    return visible;
 }
 
 Form* Screen::activeForm() const {
@@ -159,6 +176,8 @@ void Screen::forget(const Form& form) {
         focus = nullptr;
         focusArrived = false;
     }
+    if (std::ranges::find(form.all, failed.control) != form.all.end())
+        failed = {};
     std::erase(stack, &form);
     std::erase(modals, &form);
 }

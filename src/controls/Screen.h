@@ -33,7 +33,7 @@ public:
     Ports ports;
     ScreenObserver* observer = nullptr;  ///< may be null
 
-    /// Shows a message through the dialogs.
+    /// Shows a message through the dialogs. What it means is told by the Meaning in force.
     void message(std::string_view text, std::string_view title, Icon icon = Icon::Information);
 
     /// Runs one event of the user. An error that nobody handled, of whatever type, ends the event and is shown in one
@@ -57,6 +57,8 @@ public:
 
     /// The visible form in front of all others, a modal one before all; null when none is visible.
     Form* frontForm() const;
+    /// The visible forms in the order of use, the front one first.
+    std::vector<Form*> visibleForms() const;
     /// The form that keys go to: that of the focus, else the front one.
     Form* activeForm() const;
     /// The form that was shown modal last and is still open; null when there is none.
@@ -82,6 +84,14 @@ public:
 private:
     friend class Form;
     friend class Control;
+    friend class Meaning;
+    /// What a message means: a control, or something that has words alone.
+    struct Subject {
+        const Control* control = nullptr;
+        std::string text{};
+
+        bool empty() const { return !control && text.empty(); }
+    };
     void changeFocus(Control* to);
     void runFocusMove(Control* old, Control* to);
     void react(const std::function<void()>& reaction);
@@ -101,6 +111,8 @@ private:
     Control* focus = nullptr;
     bool focusArrived = false;  ///< the focused control has had its got-focus reaction
     int focusMoves = 0;         ///< moves of the focus under way, each in a reaction to the one before
+    Subject subject;
+    Subject failed;  ///< what the error under way, or the last one, was about
     std::string title;
     int depth = 0;  ///< events under way
     std::vector<std::unique_ptr<Form>> unloaded;

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "controls/Form.h"
+#include "controls/Meaning.h"
 #include "controls/Screen.h"
 
 namespace plandesk::user {
@@ -26,8 +27,10 @@ bool onFocused(Control& control, const std::function<void()>& act) {
     if (there)
         control.form().screen().event([&] {
             // A reaction to the focus may have closed the control.
-            if (control.form().screen().moveFocus(control) && control.takesFocus())
-                act();
+            if (!control.form().screen().moveFocus(control) || !control.takesFocus())
+                return;
+            const Meaning meant(control.form().screen(), control);
+            act();
         });
     return there;
 }

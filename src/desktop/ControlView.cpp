@@ -2,8 +2,10 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QToolTip>
 
 #include "controls/Form.h"
 #include "controls/User.h"
@@ -73,9 +75,9 @@ void ControlView::syncColours() {
     picture.setPalette(palette);
 }
 
-void ControlView::name(const QString& question) {
-    const QString words = question.trimmed();
-    picture.setAccessibleName(words.isEmpty() ? toQt(subject->form().caption()).trimmed() : words);
+void ControlView::name(const QString& name, const QString& description) {
+    picture.setAccessibleName(name);
+    picture.setAccessibleDescription(description);
 }
 
 int ControlView::naturalWidth(bool /*alone*/) const {
@@ -108,6 +110,8 @@ bool ControlView::filterEvent(QObject* watched, QEvent* event) {
     case QEvent::FocusIn:
         focusArrived(static_cast<QFocusEvent*>(event)->reason());
         return false;
+    case QEvent::ToolTip:
+        return watched == &picture && showTip(*static_cast<QHelpEvent*>(event));
     case QEvent::Wheel:
         if (picture.hasFocus() || !changesByWheel())
             return false;
@@ -124,6 +128,15 @@ bool ControlView::mousePressed() {
         return false;
     act([this] { user::focus(*subject); }, Qt::MouseFocusReason);
     return !subject || !subject->focused();
+}
+
+bool ControlView::showTip(const QHelpEvent& event) const {
+    QStringList lines = {hiddenText(), toQt(subject->toolTip)};
+    lines.removeAll(QString());
+    if (lines.isEmpty())
+        return false;
+    QToolTip::showText(event.globalPos(), Qt::convertFromPlainText(lines.join('\n')), &picture);
+    return true;
 }
 
 void ControlView::focusArrived(Qt::FocusReason reason) {

@@ -10,6 +10,7 @@
 
 #include "controls/Control.h"
 
+class QHelpEvent;
 class QKeyEvent;
 
 namespace plandesk::desktop {
@@ -35,7 +36,7 @@ public:
     /// Whether the page shows the place of the control at all; a hidden group or row takes all of its controls away.
     void setOnPage(bool on);
     /// Says what a screen reader is to call it.
-    virtual void name(const QString& question);
+    virtual void name(const QString& name, const QString& description = {});
 
     /// Width that suits the control; a box that stands alone in its row may be wide.
     virtual int naturalWidth(bool alone) const;
@@ -63,6 +64,8 @@ protected:
     virtual void syncContent() {}
     virtual QPalette::ColorRole backRole() const { return QPalette::Window; }
     virtual Colour foreColor() const { return black; }
+    /// Its text when that does not fit in; a tip shows it then.
+    virtual QString hiddenText() const { return {}; }
     virtual bool changesByWheel() const { return false; }
     /// Handles a key of the system's own. True when the widget is not to see it.
     virtual bool systemKey(const QKeyEvent& event);
@@ -84,6 +87,7 @@ private:
     void showState();
     void syncColours();
     bool mousePressed();
+    bool showTip(const QHelpEvent& event) const;
     void focusArrived(Qt::FocusReason reason);
 
     std::optional<Colours> shown;

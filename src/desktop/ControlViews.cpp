@@ -15,6 +15,7 @@
 #include "controls/Form.h"
 #include "controls/User.h"
 #include "desktop/ControlView.h"
+#include "desktop/FormNames.h"
 #include "desktop/GridView.h"
 #include "desktop/ListBox.h"
 #include "desktop/Pictures.h"
@@ -54,10 +55,6 @@ public:
         connect(&button, &QAbstractButton::clicked, this, [this] { act([this] { user::click(*subject); }); });
     }
 
-    void name(const QString& question) override {
-        const QString own = words().trimmed();
-        ControlView::name(question.isEmpty() || question == own ? own : question + ": " + own);
-    }
     int naturalWidth(bool /*alone*/) const override { return markWidth() + textWidth(words()); }
     int leastWidth() const override {
         return std::min(naturalWidth(false), leastCharacters * button.fontMetrics().averageCharWidth());
@@ -135,6 +132,7 @@ private:
         box.setCurrentIndex(list.listIndex());
         box.setForeignText(list.listIndex() < 0 ? toQt(list.text()) : QString());
     }
+    QString hiddenText() const override { return box.elided() ? box.shownText().trimmed() : QString(); }
     bool sameItems(const ComboBox& list) const {
         bool same = box.count() == list.listCount();
         for (int place = 0; same && place < box.count(); ++place)
@@ -199,7 +197,7 @@ public:
         }
         return ControlView::filterEvent(watched, event);
     }
-    void name(const QString&) override {}
+    void name(const QString&, const QString&) override {}
     QSize sizeFor(int available, bool /*alone*/) override {
         const bool breaks = naturalWidth(false) > available;
         if (breaks != label.wordWrap())
@@ -236,10 +234,12 @@ private:
     QPalette::ColorRole backRole() const override { return QPalette::Button; }
     void syncContent() override {
         button.setText(toQt(static_cast<Captioned&>(*subject).caption()));
-        button.setAccessibleName(button.text().remove('&').trimmed());
+        // The tip of a numbered button goes on where its caption ends.
+        const QString caption = button.text().remove('&').trimmed();
+        button.setAccessibleName(button.toolTip().startsWith(caption + ':') ? button.toolTip() : caption);
         markCurrent();
     }
-    void name(const QString&) override {}
+    void name(const QString&, const QString&) override {}
     /// Of numbered buttons the one in another colour is the current one; the two colours are hard to tell apart.
     void markCurrent() {
         const bool current =
@@ -262,8 +262,6 @@ public:
         button.setIconSize({side, side});
         connect(&button, &QToolButton::clicked, this, [this] { act([this] { user::click(*subject); }); });
     }
-
-    void name(const QString& question) override { ControlView::name(question + ": " + picture.toolTip()); }
 };
 
 class TabsView : public ControlView {
@@ -271,20 +269,18 @@ public:
     TabsView(TabStrip& strip, QTabBar& bar, ScreenView& screen) : ControlView(strip, bar, screen), bar(bar) {
         bar.setDrawBase(false);
         for (int tab = 0; tab < strip.count(); ++tab)
-            bar.addTab(tabText(strip.form(), tab));
+            addTab(strip.form(), tab);
         connect(&bar, &QTabBar::currentChanged, this,
                 [this](int tab) { act([&] { user::showTab(static_cast<TabStrip&>(*subject), tab); }); });
     }
 
 private:
-    static QString tabText(const Form& form, int tab) {
-        const Layout& layout = form.layout();
-        const auto page = static_cast<std::size_t>(tab);
-        if (page < layout.tabCaptions.size())
-            return toQt(trim(layout.tabCaptions[page]));
-        const auto groups = layout.pages[page].groups;
-        const auto* frame = groups.size() == 1 ? dynamic_cast<Frame*>(form.findKey(groups.front().frame)) : nullptr;
-        return frame ? toQt(frame->caption()) : QString::number(layout.firstTabNumber + tab);
+    void addTab(const Form& form, int tab) {
+        const QString name = pageName(form, tab);
+        bar.addTab(pageTab(form, tab));
+        bar.setAccessibleTabName(tab, name);
+        if (name != bar.tabText(tab))
+            bar.setTabToolTip(tab, name);
     }
     bool changesByWheel() const override { return true; }
     void syncContent() override { bar.setCurrentIndex(static_cast<TabStrip&>(*subject).tab()); }

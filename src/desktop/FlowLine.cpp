@@ -16,6 +16,10 @@ void FlowLine::add(QWidget& widget, QSize size) {
     next += size.width() + gap;
 }
 
+int FlowLine::room(int least) const {
+    return next + least <= right ? right - next : right - left;
+}
+
 int FlowLine::finish() {
     closeLine();
     return top;

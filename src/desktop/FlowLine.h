@@ -11,6 +11,8 @@ public:
     FlowLine(int left, int right, int top, int leastHeight, int gap);
 
     void add(QWidget& widget, QSize size);
+    /// Width that is left for one that needs `least`: of the present line, or of a new one where that has too little.
+    int room(int least) const;
     /// The bottom of the last line; nothing is added afterwards.
     int finish();
 

@@ -11,6 +11,7 @@
 #include "controls/Screen.h"
 #include "controls/User.h"
 #include "desktop/FlowLine.h"
+#include "desktop/FormNames.h"
 #include "desktop/Keys.h"
 #include "desktop/PageView.h"
 #include "desktop/QtText.h"
@@ -25,10 +26,10 @@ FormView::FormView(Form& form, ScreenView& screen, QWidget& parent) : QWidget(&p
     const Layout& layout = form.layout();
     head = makeViews(layout.head);
     if (!layout.top.empty())
-        topRows = new PageView(*this, {layout.top.begin(), layout.top.end()}, layout.questionWidth, maker);
+        topRows = new PageView(*this, form, {layout.top.begin(), layout.top.end()}, maker);
     tabs = makeView(layout.tabs, *this);
     if (tabs)
-        tabs->name({});
+        tabs->name(toQt(trim(form.caption())));
     pages.resize(tabs ? layout.pages.size() : 1);
     buttons = makeViews(layout.buttons);
     showChosenPage();
@@ -53,7 +54,7 @@ FormView::Views FormView::makeViews(std::string_view keys) {
     Views views;
     for (const std::string& key : split(keys, " ")) {
         if (ControlView* view = makeView(key, *this)) {
-            view->name({});
+            view->name(toQt(trim(form->caption())));
             views.push_back(view);
         }
     }
@@ -86,7 +87,8 @@ void FormView::drawPage(std::size_t number) {
     page.area = new QScrollArea(this);
     page.area->setFrameShape(QFrame::NoFrame);
     page.area->setFocusPolicy(Qt::NoFocus);
-    page.view = new PageView(*page.area, groups, layout.questionWidth, maker);
+    page.area->setAccessibleName(tabs ? pageName(*form, static_cast<int>(number)) : toQt(trim(form->caption())));
+    page.view = new PageView(*page.area, *form, groups, maker);
     page.area->setWidget(page.view);
 }
 
@@ -150,53 +152,58 @@ int FormView::gap() const {
     return fontMetrics().averageCharWidth();
 }
 
-int FormView::placeViews(const Views& views, int width, int top) const {
-    FlowLine line(2 * gap(), width - 2 * gap(), top + gap(), 0, gap());
+int FormView::pageWidth(int width) const {
+    return width - style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+}
+
+int FormView::placeViews(const Views& views, int margin, int width, int top) const {
+    const int right = width - 2 * gap();
+    FlowLine line(margin, right, top + gap(), 0, gap());
     for (ControlView* view : views)
         if (view->shownByCode())
-            line.add(view->widget(), view->sizeFor(width - 4 * gap(), false));
+            line.add(view->widget(), view->sizeFor(right - margin, false));
     return views.empty() ? top : line.finish() + gap();
 }
 
 void FormView::arrange() {
-    const int pageWidth = width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    int top = placeViews(head, width(), 0);
+    const int margin = pages[current].view->marginFor(pageWidth(width()));
+    int top = placeViews(head, margin, width(), 0);
     if (topRows) {
         topRows->move(0, top);
-        topRows->arrange(pageWidth, 0);
+        topRows->arrange(pageWidth(width()), 0);
         top += topRows->height();
     }
     if (tabs && tabs->shownByCode()) {
         const QSize size = tabs->widget().sizeHint();
-        tabs->widget().setGeometry(QRect({2 * gap(), top}, size));
+        tabs->widget().setGeometry(QRect({margin, top}, size));
         top += size.height();
     }
-    const int buttonsHeight = placeViews(buttons, width(), 0);
-    placeViews(buttons, width(), height() - buttonsHeight);
+    const int buttonsHeight = placeViews(buttons, margin, width(), 0);
+    placeViews(buttons, margin, width(), height() - buttonsHeight);
     const Page& page = pages[current];
     const int pageHeight = std::max(0, height() - buttonsHeight - top);
     page.area->setGeometry(0, top, width(), pageHeight);
     page.area->verticalScrollBar()->setSingleStep(fontMetrics().height() * 2);
-    page.view->arrange(pageWidth, pageHeight);
+    page.view->arrange(pageWidth(width()), pageHeight);
     QCoreApplication::removePostedEvents(this, QEvent::LayoutRequest);
 }
 
 QSize FormView::naturalSize(QSize limit) {
     // The forms of a proposal are all of one size, so that each covers the one it came from.
     const bool belongsToProposal = !head.empty();
-    const int leastCharacters = belongsToProposal ? 136 : 60;
+    const int leastCharacters = belongsToProposal ? 162 : 60;
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const int rowsWidth = std::max(pages[current].view->naturalWidth(), topRows ? topRows->naturalWidth() : 0);
     const int wanted = std::max(rowsWidth + scrollBar, leastCharacters * gap());
     const int newWidth = std::min(std::max(wanted, width()), limit.width());
     if (belongsToProposal)
         return {newWidth, limit.height()};
-    pages[current].view->arrange(newWidth - scrollBar, 0);
-    int around = placeViews(head, newWidth, 0) + placeViews(buttons, newWidth, 0);
+    pages[current].view->arrange(pageWidth(newWidth), 0);
+    int around = placeViews(head, 2 * gap(), newWidth, 0) + placeViews(buttons, 2 * gap(), newWidth, 0);
     if (tabs)
         around += tabs->widget().sizeHint().height();
     if (topRows) {
-        topRows->arrange(newWidth - scrollBar, 0);
+        topRows->arrange(pageWidth(newWidth), 0);
         around += topRows->height();
     }
     const QSize natural(newWidth, std::min(around + pages[current].view->height(), limit.height()));

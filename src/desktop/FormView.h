@@ -57,7 +57,9 @@ private:
     std::size_t chosenPage() const;
     void showChosenPage();
     void drawPage(std::size_t number);
-    int placeViews(const Views& views, int width, int top) const;
+    int pageWidth(int width) const;
+    /// Puts the views into lines of that width; tells where the last one ends.
+    int placeViews(const Views& views, int margin, int width, int top) const;
     void arrange();
     int gap() const;
 

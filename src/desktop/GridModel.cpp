@@ -83,11 +83,22 @@ QVariant GridModel::data(const QModelIndex& cell, int role) const {
     });
 }
 
+QString GridModel::spokenHead(int section) const {
+    const QString caption = toQt(trim(column(section).caption));
+    const Grid* shown = grid();
+    // A column without a caption is not shown either; its own name tells what it is.
+    return caption.isEmpty() && shown && section < shown->columnCount()
+               ? toQt(shown->table()->columns()[static_cast<std::size_t>(section)].name)
+               : caption;
+}
+
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal)
-        return {};
+        return role == Qt::DisplayRole ? QString::number(section + 1) : QVariant();
     if (role == Qt::TextAlignmentRole)
         return alignment(section).toInt() | int(Qt::TextWordWrap);
+    if (role == Qt::AccessibleTextRole)
+        return spokenHead(section);
     return role == Qt::DisplayRole ? toQt(trim(column(section).caption)) : QVariant();
 }
 

@@ -33,6 +33,7 @@ public:
 
 private:
     QVariant alignment(int column) const;
+    QString spokenHead(int section) const;
 
     const ControlView& view;
     ScreenView& screen;

@@ -19,6 +19,13 @@ QString ListBox::shownText() const {
     return currentIndex() < 0 ? placeholderText() : currentText();
 }
 
+bool ListBox::elided() const {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    return fontMetrics().horizontalAdvance(shownText().trimmed()) > field.width();
+}
+
 void ListBox::showPopup() {
     const int wanted = view()->sizeHintForColumn(0) + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     view()->setMinimumWidth(std::max(width(), wanted));

@@ -13,6 +13,8 @@ public:
     void setForeignText(const QString& text);
     /// What the box shows.
     QString shownText() const;
+    /// Whether its end had to be left out.
+    bool elided() const;
 
     void showPopup() override;
 

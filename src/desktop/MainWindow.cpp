@@ -13,6 +13,7 @@
 
 #include "controls/User.h"
 #include "desktop/Application.h"
+#include "desktop/ChildWindow.h"
 #include "desktop/QtText.h"
 #include "shell/mdiInterface.h"
 
@@ -70,8 +71,7 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
     };
     shell.paintBackground = [this] { desk->paintBackground(); };
     shell.minimised = [this] { return isMinimized(); };
-    auto* close = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_F4), this);
-    connect(close, &QShortcut::activated, this, [this] { closeFrontForm(); });
+    makeShortcuts();
     showState();
     screenView.refresh();
     if (auto* application = dynamic_cast<Application*>(qApp))
@@ -119,6 +119,25 @@ void MainWindow::makeStatusBar() {
     auto* panel = new QLabel(QStringLiteral("Powered by   Meridane Works"));
     panel->setObjectName(QStringLiteral("statusPanel"));
     statusBar()->addWidget(panel);
+    openForms = new WindowRow(proposal.screen, screenView);
+    statusBar()->addWidget(openForms, 1);
+}
+
+void MainWindow::makeShortcuts() {
+    const auto on = [this](const QKeySequence& keys, const std::function<void()>& what) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, what);
+    };
+    const auto onFront = [this](const std::function<void(ChildWindow&)>& what) {
+        const Form* front = proposal.screen.frontForm();
+        if (ChildWindow* window = front ? screenView.windowOf(*front) : nullptr)
+            what(*window);
+    };
+    on(Qt::CTRL | Qt::Key_F4, [this] { closeFrontForm(); });
+    on(Qt::CTRL | Qt::Key_Tab, [this] { openForms->step(false); });
+    on(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { openForms->step(true); });
+    // The keys that windows within a window have always had.
+    on(Qt::CTRL | Qt::Key_F8, [onFront] { onFront([](ChildWindow& window) { window.beginSizing(); }); });
+    on(Qt::CTRL | Qt::Key_F10, [onFront] { onFront([](ChildWindow& window) { window.toggleMaximised(); }); });
 }
 
 void MainWindow::makeTimers() {
@@ -141,6 +160,7 @@ void MainWindow::showState() {
     desk->setBackColor(toQt(shell.backColor()));
     for (const auto& [name, action] : entries)
         action->setEnabled(shell.available(name));
+    openForms->sync();
 }
 
 void MainWindow::closeFrontForm() {

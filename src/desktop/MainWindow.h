@@ -7,6 +7,7 @@
 
 #include "desktop/Desk.h"
 #include "desktop/ScreenView.h"
+#include "desktop/WindowRow.h"
 
 class QAction;
 
@@ -39,6 +40,7 @@ protected:
 private:
     void makeMenu();
     void makeStatusBar();
+    void makeShortcuts();
     void makeTimers();
     void showState();
     /// Makes the window fit the screen together with its frame, while it has the size that it was given at first.
@@ -51,6 +53,7 @@ private:
     Desk* desk;
     QSize ownSize;
     ScreenView screenView;
+    WindowRow* openForms = nullptr;
     std::map<std::string, QAction*, std::less<>> entries;
     bool closeAsked = false;
     QTimer timer1;

@@ -3,8 +3,12 @@
 #include <QEvent>
 #include <QPainter>
 #include <algorithm>
+#include <map>
 
 #include "base/Text.h"
+#include "controls/Form.h"
+#include "controls/Naming.h"
+#include "desktop/Accessible.h"
 #include "desktop/QtText.h"
 
 namespace plandesk::desktop {
@@ -16,16 +20,18 @@ constexpr QColor markRed(0xC0, 0x00, 0x00);
 
 }  // namespace
 
-PageView::PageView(QWidget& parent, const std::vector<LayoutGroup>& layoutGroups, int questionWidth,
+PageView::PageView(QWidget& parent, const Form& form, const std::vector<LayoutGroup>& layoutGroups,
                    const ViewMaker& maker)
-    : QWidget(&parent), questionCharacters(questionWidth) {
+    : QWidget(&parent), questionCharacters(form.layout().questionWidth) {
     groups.reserve(layoutGroups.size());
     for (const LayoutGroup& group : layoutGroups)
-        groups.push_back(makeGroup(group, maker));
+        groups.push_back(makeGroup(form, group, maker));
+    nameControls(form);
 }
 
-PageView::Group PageView::makeGroup(const LayoutGroup& group, const ViewMaker& maker) {
+PageView::Group PageView::makeGroup(const Form& form, const LayoutGroup& group, const ViewMaker& maker) {
     Group made;
+    made.layout = group;
     QFont bold = font();
     bold.setBold(true);
     if (!group.frame.empty() && (made.frame = maker(group.frame, *this)))
@@ -37,14 +43,15 @@ PageView::Group PageView::makeGroup(const LayoutGroup& group, const ViewMaker& m
     for (const std::string_view head : group.heads)
         made.heads.push_back(makeLabel(head));
     for (const LayoutRow& row : group.rows) {
-        made.rows.push_back(makeRow(row, maker));
-        nameControls(made.rows.back(), made);
+        made.rows.push_back(makeRow(form, row, maker));
+        relateLabels(made.rows.back());
     }
     return made;
 }
 
-PageView::Row PageView::makeRow(const LayoutRow& row, const ViewMaker& maker) {
+PageView::Row PageView::makeRow(const Form& form, const LayoutRow& row, const ViewMaker& maker) {
     Row made;
+    made.layout = &row;
     if (!trim(row.item).empty()) {
         made.item = makeLabel(row.item);
         made.item->setAlignment(Qt::AlignRight | Qt::AlignTop);
@@ -61,12 +68,7 @@ PageView::Row PageView::makeRow(const LayoutRow& row, const ViewMaker& maker) {
         palette.setColor(QPalette::WindowText, markRed);
         made.mark->setPalette(palette);
     }
-    for (const std::string& key : split(row.controls, " ")) {
-        if (ControlView* view = maker(key, *this)) {
-            view->showLines(row.lines);
-            made.controls.push_back(view);
-        }
-    }
+    makeControls(form, made, maker);
     if (!row.unit.empty())
         made.unit = makeLabel(row.unit);
     if (made.question && fillsWidth(made)) {
@@ -77,20 +79,59 @@ PageView::Row PageView::makeRow(const LayoutRow& row, const ViewMaker& maker) {
     return made;
 }
 
-void PageView::nameControls(const Row& row, const Group& group) {
-    const bool leads = leadsRow(row);
-    QString question = row.question ? row.question->text() : QString();
-    if (question.isEmpty() && fillsWidth(row))
-        question = group.frame   ? static_cast<QLabel&>(group.frame->widget()).text()
-                   : group.title ? group.title->text()
-                                 : QString();
-    std::size_t column = leads ? 0 : 1;
+void PageView::makeControls(const Form& form, Row& row, const ViewMaker& maker) {
+    for (const std::string& key : split(row.layout->controls, " ")) {
+        const Control* control = form.findKey(key);
+        if (!control)
+            continue;
+        const bool option = control->kind() == ControlKind::OptionButton;
+        if (option && !row.options)
+            row.options = new OptionsBox(*this);
+        ControlView* view = maker(key, option ? *row.options : static_cast<QWidget&>(*this));
+        if (!view)
+            continue;
+        view->showLines(row.layout->lines);
+        row.controls.push_back(view);
+    }
+}
+
+void PageView::nameControls(const Form& form) {
+    std::map<QString, int> known;
+    const auto unique = [&known](const std::string& name) {
+        const QString words = toQt(name);
+        const int number = ++known[words.toLower()];
+        return number == 1 ? words : QStringLiteral("%1 (%2)").arg(words).arg(number);
+    };
+    for (const Group& group : groups) {
+        for (const Row& row : group.rows) {
+            const RowNaming names = nameRow(form, group.layout, *row.layout);
+            if (row.options) {
+                row.options->setAccessibleName(unique(names.question));
+                row.options->setAccessibleDescription(toQt(names.description));
+            }
+            for (ControlView* view : row.controls) {
+                const auto naming = std::ranges::find(names.controls, view->control(), &Naming::control);
+                if (naming == names.controls.end())
+                    continue;
+                const bool grouped = view->widget().parentWidget() == row.options;
+                const bool label = naming->control->kind() == ControlKind::Label;
+                view->name(grouped || label ? toQt(naming->name) : unique(naming->name), toQt(naming->description));
+            }
+        }
+    }
+}
+
+void PageView::relateLabels(const Row& row) {
+    QLabel* label = row.question;
     for (ControlView* view : row.controls) {
-        const QString head = column > 0 && column < group.heads.size() ? group.heads[column]->text() : QString();
-        view->name(head.isEmpty() ? question : question + ": " + head);
-        if (leads && column == 0)
-            question = view->widget().accessibleName();
-        ++column;
+        if (view->control()->kind() == ControlKind::Label) {
+            label = static_cast<QLabel*>(&view->widget());
+            continue;
+        }
+        // An ampersand in the text would become a key of its own.
+        if (label && !label->text().contains('&'))
+            label->setBuddy(view->widget().parentWidget() == row.options ? row.options : &view->widget());
+        label = nullptr;
     }
 }
 
@@ -120,10 +161,16 @@ void PageView::updateShown() {
                                                    : std::ranges::any_of(row.controls, &ControlView::shownByCode);
             row.shown = group.shown && some;
             setShown(row);
-            if (row.liveQuestion)
-                nameControls(row, group);
         }
     }
+}
+
+const Control* PageView::liveQuestion() const {
+    for (const Group& group : groups)
+        for (const Row& row : group.rows)
+            if (row.liveQuestion && row.liveQuestion->control())
+                return row.liveQuestion->control();
+    return nullptr;
 }
 
 void PageView::setShown(const Row& row) {
@@ -136,6 +183,8 @@ void PageView::setShown(const Row& row) {
         row.question->setVisible(row.shown);
     for (ControlView* view : row.controls)
         view->setOnPage(row.shown);
+    if (row.options)
+        row.options->setVisible(row.shown);
 }
 
 bool PageView::event(QEvent* event) {

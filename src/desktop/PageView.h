@@ -12,17 +12,22 @@
 
 namespace plandesk::desktop {
 
+class OptionsBox;
+
 /// One page of a form: groups of rows, each a question with the controls that answer it, in columns that run down the
 /// whole page. What does not fit beside its question stands below it.
 class PageView : public QWidget {
 public:
-    /// `questionWidth`: widest question column, in average characters of the font.
-    PageView(QWidget& parent, const std::vector<LayoutGroup>& groups, int questionWidth, const ViewMaker& maker);
+    /// `groups`: those of the form's layout that stand on this page.
+    PageView(QWidget& parent, const Form& form, const std::vector<LayoutGroup>& groups, const ViewMaker& maker);
 
     /// Lays the page out in that width; the page takes the height it needs. `viewHeight`: what one sees of it at once.
     void arrange(int width, int viewHeight);
     /// Width in which every answer stands beside its question.
     int naturalWidth();
+    /// Distance of the contents from both sides of a page of that width: beyond readable lines they stand in the
+    /// middle.
+    int marginFor(int width);
 
 protected:
     bool event(QEvent* event) override;
@@ -30,15 +35,18 @@ protected:
 
 private:
     struct Row {
+        const LayoutRow* layout = nullptr;
         QLabel* item = nullptr;
         QLabel* question = nullptr;
         ControlView* liveQuestion = nullptr;  ///< set when the question is the caption of a label of the form
         QLabel* mark = nullptr;
         QLabel* unit = nullptr;
         std::vector<ControlView*> controls;
+        OptionsBox* options = nullptr;  ///< holds those of the controls that are options
         bool shown = true;
     };
     struct Group {
+        LayoutGroup layout;
         ControlView* frame = nullptr;
         QLabel* title = nullptr;
         std::vector<QLabel*> heads;  ///< the first stands over the questions
@@ -57,10 +65,13 @@ private:
         int naturalWidth = 0;
     };
 
-    Group makeGroup(const LayoutGroup& group, const ViewMaker& maker);
-    Row makeRow(const LayoutRow& row, const ViewMaker& maker);
+    Group makeGroup(const Form& form, const LayoutGroup& group, const ViewMaker& maker);
+    Row makeRow(const Form& form, const LayoutRow& row, const ViewMaker& maker);
+    void makeControls(const Form& form, Row& row, const ViewMaker& maker);
     QLabel* makeLabel(std::string_view text);
-    static void nameControls(const Row& row, const Group& group);
+    /// Gives everything its name, a number behind it where it is not the first of that name.
+    void nameControls(const Form& form);
+    static void relateLabels(const Row& row);
     /// Whether the row is one control over the whole width of the page, with its question as a heading.
     static bool fillsWidth(const Row& row);
     /// Whether the row's first control carries the words that others have as their question.
@@ -68,9 +79,12 @@ private:
     /// Whether the row has one text box, which may then be wide.
     static bool boxStandsAlone(const Row& row);
     void updateShown();
+    /// A label of the form whose caption is a question here; null when there is none.
+    const Control* liveQuestion() const;
     static void setShown(const Row& row);
 
     Columns columnsFor(int width) const;
+    int readableWidth(int naturalWidth) const;
     int controlsWidth(const Row& row) const;
     std::vector<int> tableColumns(const Group& group) const;
     // Each of these puts a part at `top` and tells where it ends.

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <numeric>
 
+#include "desktop/Accessible.h"
 #include "desktop/FlowLine.h"
 #include "desktop/PageView.h"
 
@@ -14,6 +15,9 @@ namespace {
 
 /// Share of the page's width that the answers get at least, in percent, when the questions would take all.
 constexpr int answerShare = 45;
+
+/// Average characters that a page takes at most beside its questions: a readable line of answer, item, marks, margins.
+constexpr int charactersBesideQuestions = 104;
 
 }  // namespace
 
@@ -67,20 +71,29 @@ PageView::Columns PageView::columnsFor(int width) const {
                 answers = std::max(answers, controlsWidth(row));
         }
     }
+    question = std::min(question, questionCharacters * fontMetrics().averageCharWidth());
     Columns columns;
-    const int margin = 2 * gap();
+    const int leastMargin = 2 * gap();
+    columns.naturalWidth = 2 * leastMargin + std::max(item + question + mark + 2 * gap() + answers, filling);
+    const int margin = std::max(leastMargin, (width - readableWidth(columns.naturalWidth)) / 2);
     columns.right = width - margin;
     columns.item = margin;
     columns.question = margin + item;
     constexpr int percent = 100;
     const int room = columns.right - columns.question - mark - 2 * gap();
-    question = std::min(question, questionCharacters * fontMetrics().averageCharWidth());
     columns.questionWidth = std::min(question, room - std::min(answers, room * answerShare / percent));
     columns.mark = columns.question + columns.questionWidth + gap();
     columns.controls = columns.mark + mark + gap();
-    columns.naturalWidth =
-        std::max(columns.question + question + mark + 2 * gap() + answers, columns.item + filling) + margin;
     return columns;
+}
+
+int PageView::readableWidth(int naturalWidth) const {
+    return std::max(naturalWidth, (questionCharacters + charactersBesideQuestions) * gap());
+}
+
+int PageView::marginFor(int width) {
+    updateShown();
+    return columnsFor(width).item;
 }
 
 int PageView::naturalWidth() {
@@ -109,6 +122,8 @@ void PageView::arrange(int width, int viewHeight) {
     lastWidth = width;
     lastViewHeight = viewHeight;
     updateShown();
+    if (const Control* live = liveQuestion())
+        nameControls(live->form());
     const Columns columns = columnsFor(width);
     int bottom = gap();
     for (Group& group : groups)
@@ -131,11 +146,14 @@ int PageView::placeGroup(Group& group, const Columns& columns, int top) {
             width = width * room / total;
     if (!group.heads.empty())
         bottom = placeHeads(group, columns, widths, bottom);
-    for (const Row& row : group.rows)
-        if (row.shown)
-            bottom =
-                (group.heads.empty() ? placeRow(row, columns, bottom) : placeTableRow(row, columns, widths, bottom)) +
-                gap() / 2;
+    for (const Row& row : group.rows) {
+        if (!row.shown)
+            continue;
+        bottom = (group.heads.empty() ? placeRow(row, columns, bottom) : placeTableRow(row, columns, widths, bottom)) +
+                 gap() / 2;
+        if (row.options)
+            row.options->surround();
+    }
     group.outline = QRect(columns.item - gap(), top, columns.right - columns.item + 2 * gap(), bottom + padding - top);
     return bottom + padding + gap();
 }
@@ -245,7 +263,7 @@ int PageView::placeControls(const Row& row, int left, int right, int top) {
     const bool alone = boxStandsAlone(row);
     for (ControlView* view : row.controls)
         if (view->shownByCode())
-            line.add(view->widget(), view->sizeFor(right - left, alone));
+            line.add(view->widget(), view->sizeFor(line.room(view->naturalWidth(alone)), alone));
     if (row.unit)
         line.add(*row.unit, row.unit->sizeHint());
     return line.finish();

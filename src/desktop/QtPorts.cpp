@@ -4,9 +4,12 @@
 #include <QDate>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QProcess>
+#include <QScreen>
 #include <QStandardPaths>
+#include <algorithm>
 #include <array>
 
 #include "desktop/LongMessage.h"
@@ -37,9 +40,18 @@ QMessageBox::Icon iconOf(Icon icon) {
     return QMessageBox::NoIcon;
 }
 
+/// What a desktop puts around a box, about.
+constexpr QSize usualFrame{12, 44};
+
+/// The last touch: a text set later would lay the box out anew.
 void prepare(QMessageBox& box) {
     box.setObjectName(QStringLiteral("messageBox"));
     box.setTextFormat(Qt::PlainText);
+    // Wide enough for the whole title, with what a desktop puts beside it.
+    constexpr int titleButtons = 120;
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(box.fontMetrics().horizontalAdvance(box.windowTitle()) + titleButtons, 0),
+                      grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 }  // namespace
@@ -72,6 +84,7 @@ void QtDialogs::showMessage(const Message& message) {
     if (skipping)
         return;
     QMessageBox box(iconOf(message.icon), titleOf(message), toQt(message.text), QMessageBox::Ok, parent);
+    box.setInformativeText(toQt(message.detail));
     prepare(box);
     const QAbstractButton* skip =
         boxes >= patience ? box.addButton(QMessageBox::tr("&Skip the rest"), QMessageBox::RejectRole) : nullptr;
@@ -79,8 +92,28 @@ void QtDialogs::showMessage(const Message& message) {
     box.setEscapeButton(QMessageBox::Ok);
     scrollLongText(box);
     ++boxes;
+    const QRect field = message.about ? placeOnScreen(*message.about) : QRect();
+    if (!field.isEmpty() && parent) {
+        box.adjustSize();
+        if (const auto place = besideField(box.size() + usualFrame, field, parent->screen()->availableGeometry()))
+            box.move(*place);
+    }
     box.exec();
     skipping = skip && box.clickedButton() == skip;
+}
+
+std::optional<QPoint> besideField(QSize box, const QRect& field, const QRect& room) {
+    constexpr int distance = 6;
+    const int left = std::min(field.left(), room.right() + 1 - box.width());
+    const int top = std::min(field.top(), room.bottom() + 1 - box.height());
+    const QPoint corners[] = {{left, field.bottom() + 1 + distance},
+                              {left, field.top() - distance - box.height()},
+                              {field.right() + 1 + distance, top},
+                              {field.left() - distance - box.width(), top}};
+    for (const QPoint& corner : corners)
+        if (room.contains(QRect(corner, box)))
+            return corner;
+    return std::nullopt;
 }
 
 bool QtDialogs::askYesNo(const Message& question) {

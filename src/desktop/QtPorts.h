@@ -2,6 +2,8 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <functional>
+#include <optional>
 
 #include "controls/Ports.h"
 
@@ -23,6 +25,8 @@ public:
     std::string saveFile(const FileDialog& dialog) override;
 
     QPointer<QWidget> parent;
+    /// Where the control stands on the machine's screen; an empty rectangle when it cannot be seen.
+    std::function<QRect(const Control&)> placeOnScreen = [](const Control&) { return QRect(); };
 
 private:
     QString titleOf(const Message& message) const;
@@ -37,6 +41,10 @@ private:
 /// A file name, without extension, made of a title: at most 80 characters, none that a file system refuses.
 /// Empty when nothing is left.
 QString safeFileName(const QString& title);
+
+/// Top left corner of a box of that size that stands below, above, right or left of the field, the first of them for
+/// which there is room; nothing when there is none.
+std::optional<QPoint> besideField(QSize box, const QRect& field, const QRect& room);
 
 class QtClock : public Clock {
 public:

@@ -89,6 +89,7 @@ void ScreenView::showForms() {
             window->raise();
     for (const auto& [form, window] : windows)
         window->colourBar(form == screen.frontForm());
+    mainChanged = true;
 }
 
 void ScreenView::showForm(Form& form) {
@@ -99,8 +100,10 @@ void ScreenView::showForm(Form& form) {
         window = windows[&form] = new ChildWindow(form, *this, desk);
     else
         return;
-    if (form.visible() && window->isHidden())
+    if (form.visible() && window->isHidden()) {
+        window->setMaximised(deskFilled && !form.layout().centred);
         window->fit();
+    }
     window->setVisible(form.visible());
 }
 
@@ -154,6 +157,13 @@ void ScreenView::placeKeyboard() {
     reason = Qt::OtherFocusReason;
 }
 
+void ScreenView::fillDesk(bool on) {
+    deskFilled = on;
+    for (const auto& [form, window] : windows)
+        if (!form->layout().centred)
+            window->setMaximised(on);
+}
+
 void ScreenView::fitWindows() {
     for (const auto& [form, window] : windows)
         if (!window->isHidden())
@@ -173,6 +183,15 @@ ChildWindow* ScreenView::windowOf(const Form& form) const {
 FormView* ScreenView::viewOf(const Form& form) const {
     const ChildWindow* window = windowOf(form);
     return window ? &window->view() : nullptr;
+}
+
+QRect ScreenView::placeOnScreen(const Control& control) const {
+    const FormView* view = viewOf(control.form());
+    const QWidget* widget = view ? view->widgetOf(control) : nullptr;
+    if (!widget || !widget->isVisible() || !control.form().front())
+        return {};
+    const QRect seen = widget->visibleRegion().boundingRect();
+    return seen.isEmpty() ? QRect() : QRect(widget->mapToGlobal(seen.topLeft()), seen.size());
 }
 
 void ScreenView::controlChanged(Control& control) {
@@ -204,6 +223,7 @@ void ScreenView::formUnloading(Form& form) {
         gone->hide();
         gone->deleteLater();
     }
+    mainChanged = true;
     focusMoved = true;
     later();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QRect>
 #include <functional>
 #include <set>
 #include <string>
@@ -52,6 +53,8 @@ public:
     /// Takes note of the exception that is being handled; to be called within a catch alone.
     void failed() noexcept;
 
+    /// The forms that are open and those that are shown later fill the desk, or have a size of their own.
+    void fillDesk(bool on);
     /// The desk has another size.
     void fitWindows();
     /// The toolkit moved the focus by itself; it is put back in a moment.
@@ -60,8 +63,10 @@ public:
     /// View of the form; null when it is not drawn yet.
     FormView* viewOf(const Form& form) const;
     ChildWindow* windowOf(const Form& form) const;
+    /// What one sees of the control, on the machine's screen; empty when it cannot be seen.
+    QRect placeOnScreen(const Control& control) const;
 
-    std::function<void()> mainWindowTouched = [] {};  ///< caption or menu are to be shown anew
+    std::function<void()> mainWindowTouched = [] {};  ///< caption, menu or the open forms changed
 
 private:
     void controlChanged(Control& control) override;
@@ -89,6 +94,7 @@ private:
     std::unordered_set<Form*> changedForms;
     std::vector<Form*> raised;  ///< each came to the front, the last one last
     std::unordered_set<Control*> changedControls;
+    bool deskFilled = false;
     bool mainChanged = false;
     bool focusMoved = false;
     bool posted = false;

@@ -21,6 +21,7 @@ namespace {
 // Widths of boxes in average characters.
 constexpr int numberWidth = 14;
 constexpr int textWidth = 42;
+constexpr int readableWidth = 92;  // that a text box takes where there is room
 constexpr int leastTextWidth = 8;
 constexpr int linesOfRemarks = 4;
 
@@ -72,11 +73,20 @@ public:
         return TextBoxView::filterEvent(watched, event);
     }
     int naturalWidth(bool alone) const override {
-        const bool number = subject && (box().keyPress || box().rightAligned);
-        return (alone && !number ? textWidth : numberWidth) * characterWidth();
+        return (alone && !takesNumber() ? textWidth : numberWidth) * characterWidth();
+    }
+    QSize sizeFor(int available, bool alone) override {
+        const int wanted = alone && !takesNumber() ? readableWidth * characterWidth() : naturalWidth(alone);
+        return {std::min(available, wanted), line.sizeHint().height()};
     }
 
 private:
+    bool takesNumber() const { return subject && (box().keyPress || box().rightAligned); }
+    QString hiddenText() const override {
+        constexpr int padding = 12;
+        const bool whole = line.fontMetrics().horizontalAdvance(line.text()) <= line.width() - padding;
+        return whole ? QString() : line.text();
+    }
     void syncContent() override {
         line.setReadOnly(box().locked);
         if (const QString text = toQt(box().text()); line.text() != text) {
@@ -99,9 +109,9 @@ public:
 
     void showLines(int lines) override { linesShown = lines > 0 ? lines : linesOfRemarks; }
     int naturalWidth(bool /*alone*/) const override { return textWidth * characterWidth(); }
-    QSize sizeFor(int available, bool alone) override {
+    QSize sizeFor(int available, bool /*alone*/) override {
         const int height = (linesShown + 1) * edit.fontMetrics().lineSpacing();
-        return {std::min(available, naturalWidth(alone)), height};
+        return {std::min(available, readableWidth * characterWidth()), height};
     }
 
 private:

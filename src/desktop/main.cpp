@@ -33,6 +33,7 @@ int main(int, char* arguments[]) {
     mdiInterface shell(proposal);
     MainWindow window(proposal, shell);
     dialogs.parent = progress.parent = &window;
+    dialogs.placeOnScreen = [&window](const Control& control) { return window.forms().placeOnScreen(control); };
     const EndSignals endSignals([&window] { window.closeWhenIdle(); });
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
                      [&window](QSessionManager& manager) { answerEndOfSession(window, manager); });

@@ -9,6 +9,8 @@
 #include "base/Text.h"
 #include "controls/Answers.h"
 #include "controls/Controls.h"
+#include "controls/Form.h"
+#include "controls/Meaning.h"
 #include "document/AnnexureB.h"
 #include "document/Pieces.h"
 #include "document/SectionTables.h"
@@ -82,6 +84,12 @@ std::string_view part(const Pieces& fields, int field, int number) {
     return number == FieldRow::whole ? value : piece(value, "#", static_cast<std::size_t>(number));
 }
 
+const Control* controlOf(const FieldRow& row, const Form& form) {
+    const Control* control = form.find(row.control);
+    const Control* yes = control ? control : form.find(std::string(row.control) + "Y");
+    return yes ? yes : form.find(row.control, 1);
+}
+
 void readRow(const FieldRow& row, Form& form, const Pieces& fields) {
     if (row.onlyIf.field >= 0 && toDouble(part(fields, row.onlyIf.field, row.onlyIf.part)) != 1)
         return;
@@ -99,12 +107,22 @@ void readRow(const FieldRow& row, Form& form, const Pieces& fields) {
 }  // namespace
 
 void ReadXML::LoadDocument(const std::string& path) {
-    proposalDom.load(path);  // nobody looks at the result: a document without a root tells its own tale below
+    // Nobody looks at the result: a document without a root tells its own tale below.
+    const bool loaded = proposalDom.load(path);
+    unreadText = loaded ? "" : path + " cannot be read, or is no well-formed XML file.";
 }
 
 template <class Body>
 void ReadXML::statement(const Body& body) {
+    statement(nullptr, body);
+}
+
+template <class Body>
+void ReadXML::statement(const Control* control, const Body& body) {
     try {
+        std::optional<Meaning> meant;
+        if (control)
+            meant.emplace(proposal.screen, *control);
         body();
     } catch (const RuntimeError& error) {
         tell(error);
@@ -112,6 +130,9 @@ void ReadXML::statement(const Body& body) {
 }
 
 void ReadXML::tell(const RuntimeError& error) {
+    std::optional<Meaning> file;
+    if (!unreadText.empty())
+        file.emplace(proposal.screen, unreadText);
     proposal.screen.message(std::to_string(error.number) + " : " + error.description,
                             "Particular of Development (Read XML) ", Icon::Critical);
 }
@@ -124,7 +145,7 @@ void ReadXML::readSections() {
         Form& form = *proposal.forms.touch(table.form);
         const Pieces fields = fieldsOf(groups, number);
         for (const FieldRow& row : table.rows)
-            statement([&] { readRow(row, form, fields); });
+            statement(controlOf(row, form), [&] { readRow(row, form, fields); });
     }
     readChecklists(groups);
     readFees(fieldsOf(groups, feesGroup));
@@ -166,19 +187,19 @@ void ReadXML::readChecklists(const Pieces& groups) {
 void ReadXML::readChecklist(DocCheckList& form, int first, int last, std::string_view entries) {
     for (int number = first; number <= last; ++number) {
         std::optional<std::string_view> entry;
-        statement([&] { entry = piece(entries, "#", static_cast<std::size_t>(number)); });
         DocumentRow& row = form.rows.at(static_cast<std::size_t>(number));
-        statement([&] { row.enclosed.setValue(0); });
-        statement([&] { row.pageFrom.setText(""); });
-        statement([&] { row.pageTo.setText(""); });
+        statement(&row.enclosed, [&] { entry = piece(entries, "#", static_cast<std::size_t>(number)); });
+        statement(&row.enclosed, [&] { row.enclosed.setValue(0); });
+        statement(&row.pageFrom, [&] { row.pageFrom.setText(""); });
+        statement(&row.pageTo, [&] { row.pageTo.setText(""); });
         if (!entry)
             continue;
-        statement([&] {
+        statement(&row.enclosed, [&] {
             if (toDouble(piece(*entry, "-", EntryPart::Enclosed)) == 1)
                 row.enclosed.setValue(1);
         });
         const auto readPage = [&](std::size_t part, TextBox& page) {
-            statement([&] {
+            statement(&page, [&] {
                 if (const std::string_view number = piece(*entry, "-", part); toDouble(number) != 0)
                     page.setText(number);
             });
@@ -194,11 +215,11 @@ void ReadXML::readFees(const Pieces& fields) {
     auto& form = proposal.forms.get<frmPayDetail>();
     const auto read = [&](std::span<const FieldRow> rows) {
         for (const FieldRow& row : rows)
-            statement([&] { readRow(row, form, fields); });
+            statement(controlOf(row, form), [&] { readRow(row, form, fields); });
     };
     read(tables.fees);
     bool cash = false;
-    statement([&] {
+    statement(&form.OptCash, [&] {
         cash = part(fields, tables.modeField, FieldRow::whole) == "CASH";
         (cash ? form.OptCash : form.OptCheque).setValue(true);
     });
@@ -250,11 +271,11 @@ void ReadXML::readNamed(XmlDocument::Node element, std::span<const Named> contro
             continue;
         Control* const control = named.control;
         if (control->kind() == ControlKind::TextBox) {
-            statement([&] { static_cast<TextBox*>(control)->setText(text); });
+            statement(control, [&] { static_cast<TextBox*>(control)->setText(text); });
         } else {
             // A text that is no number leaves the number of the element before it in force.
-            statement([&] { optionNumber = toInteger16(text); });
-            statement([&] { setOptionFromText(*static_cast<OptionButton*>(control), optionNumber); });
+            statement(control, [&] { optionNumber = toInteger16(text); });
+            statement(control, [&] { setOptionFromText(*static_cast<OptionButton*>(control), optionNumber); });
         }
     }
 }
@@ -262,17 +283,19 @@ void ReadXML::readNamed(XmlDocument::Node element, std::span<const Named> contro
 void ReadXML::readStreetsAndTrees(std::string_view text) {
     auto& first = proposal.forms.get<frmAnnexureA>();
     auto& second = proposal.forms.get<AnnexureACont>();
-    const auto read = [&](std::size_t part, TextBox& box) { statement([&] { box.setText(piece(text, "#", part)); }); };
+    const auto read = [&](std::size_t part, TextBox& box) {
+        statement(&box, [&] { box.setText(piece(text, "#", part)); });
+    };
     double abutting = 2;
-    statement([&] { abutting = toDouble(piece(text, "#", StreetsAndTrees::Abutting)); });
+    statement(&first.Opt77.yes, [&] { abutting = toDouble(piece(text, "#", StreetsAndTrees::Abutting)); });
     if (abutting == 1) {
-        statement([&] { first.Opt77.yes.setValue(true); });
-        statement([&] { first.Opt77.no.setValue(false); });
+        statement(&first.Opt77.yes, [&] { first.Opt77.yes.setValue(true); });
+        statement(&first.Opt77.no, [&] { first.Opt77.no.setValue(false); });
         read(StreetsAndTrees::ExistingWidth, first.txtFstExistingWidth);
         read(StreetsAndTrees::StreetWidth, first.txtFstStreetWidth);
     } else if (abutting == 0) {
-        statement([&] { first.Opt77.no.setValue(true); });
-        statement([&] { first.Opt77.yes.setValue(false); });
+        statement(&first.Opt77.no, [&] { first.Opt77.no.setValue(true); });
+        statement(&first.Opt77.yes, [&] { first.Opt77.yes.setValue(false); });
     }
     read(StreetsAndTrees::Trees, second.txtHowManyTrees);
     read(StreetsAndTrees::TreesAffected, second.txtNoOfTreesAffected);

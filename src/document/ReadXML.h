@@ -23,6 +23,9 @@ class ReadXML {
 public:
     explicit ReadXML(Proposal& proposal) : proposal(proposal) {}
 
+    /// What a message about a failure of the reading means when the file could not be loaded; else empty.
+    const std::string& unread() const { return unreadText; }
+
     /// Loads the file into `proposalDom`, which lives until the next load. A file that cannot be loaded shows nothing
     /// here and leaves a document without a root.
     void LoadDocument(const std::string& path);
@@ -43,6 +46,9 @@ private:
 
     template <class Body>
     void statement(const Body& body);
+    /// `control`: the one that the value goes to, which the message of a failure means; may be null.
+    template <class Body>
+    void statement(const Control* control, const Body& body);
     void tell(const RuntimeError& error);
     std::string flatten() const;
     /// In the order of the forms and of their controls.
@@ -56,7 +62,8 @@ private:
 
     Proposal& proposal;
     XmlDocument proposalDom;
-    int optionNumber = 0;  ///< number of the option element of ANNEXUREB read last
+    std::string unreadText;  ///< why there is no document; empty when there is one
+    int optionNumber = 0;    ///< number of the option element of ANNEXUREB read last
 };
 
 /// For a member of an option array: index 1 becomes (number = 1), index 0 becomes (number = 0). Nothing for any other

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/CodePage.h"
+#include "controls/Meaning.h"
 #include "document/DocumentBlocks.h"
 #include "document/ProposalDocument.h"
 #include "particulars/frmAnnexureA.h"
@@ -47,6 +48,11 @@ constexpr std::array guards = std::to_array<Guard>({
      "Fill the Payment Detail Information"},
 });
 
+void writeProposal(Proposal& proposal, const std::string& path) {
+    const Meaning meant(proposal.screen, path + " was not written; what the file held before is still there.");
+    proposal.screen.ports.files.writeWhole(path, toCodePage(proposal.proposalText + "\r\n", systemCodePage()));
+}
+
 }  // namespace
 
 std::span<const SaveStep> saveSteps() {
@@ -87,7 +93,7 @@ void CreateXMLFIle(Proposal& proposal) {
     const std::string path = proposal.forms.get<frmAnnexureA>().txtPathNm.text();
     if (path.empty())
         return;
-    proposal.screen.ports.files.writeWhole(path, toCodePage(proposal.proposalText + "\r\n", systemCodePage()));
+    writeProposal(proposal, path);
     proposal.screen.message("Proposal has been created [ " + path + " ]. ", "Proposal Information Path ");
     proposal.isProposalOpen = true;
 }

@@ -1,7 +1,10 @@
 #include "fees/DocCheckList.h"
 
+#include <optional>
+
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "controls/Meaning.h"
 #include "fees/LandRecordDoors.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
@@ -113,6 +116,9 @@ void DocCheckList::cmdSave_Click() {
 void DocCheckList::refuse(const Fault& fault) {
     (proposal.*kind.list).clear();
     show();
+    std::optional<Meaning> meant;
+    if (fault.box)
+        meant.emplace(screen(), *fault.box);
     screen().message(fault.text, "Document Checklist !");
     if (fault.box)
         fault.box->setFocus();

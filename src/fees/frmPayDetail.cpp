@@ -7,6 +7,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "controls/Meaning.h"
 
 namespace plandesk {
 
@@ -151,6 +152,7 @@ void frmPayDetail::calcTotal() {
 bool frmPayDetail::refuseSpecialCharacter(TextBox& box, std::string_view boxTitle) {
     const bool refused = chkString(box.text(), "amp") == -1;
     if (refused) {
+        const Meaning meant(screen(), box);
         screen().message(noSpecialCharacter, boxTitle);
         box.setFocus();
     }
@@ -160,6 +162,7 @@ bool frmPayDetail::refuseSpecialCharacter(TextBox& box, std::string_view boxTitl
 bool frmPayDetail::refuseEmpty(TextBox& box, std::string_view text) {
     const bool refused = box.text().empty();
     if (refused) {
+        const Meaning meant(screen(), box);
         screen().message(text, "");
         box.setFocus();
     }

@@ -33,7 +33,7 @@ constexpr LayoutRow singleRows[] = {
 };
 
 constexpr LayoutRow paymentRows[] = {
-    {"", "", "OptCash OptCheque OptDraft"},
+    {.controls = "OptCash OptCheque OptDraft", .spoken = "Mode of payment"},
     {"", "Payment Date", "DTPicker1"},
 };
 

@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "controls/Meaning.h"
 #include "landrecords/Encumbrances.h"
 #include "landrecords/ExtractFormKind.h"
 #include "landrecords/Ownership.h"
@@ -136,6 +137,7 @@ void ExtractForm::listExtracts() {
 
 /// Fills an empty table; changes of the plots keep a filled one in step by themselves.
 void ExtractForm::buildRows() {
+    const Meaning meant(screen(), txtNoOfExtranct);
     const std::int16_t count = toInteger16(leadingNumber(txtNoOfExtranct.text()));
     Recordset* extracts = &proposal.tables.ensure(family.extracts);
     if (extracts->recordCount() > 0)

@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "controls/Meaning.h"
 #include "proposal/ExtractGaps.h"
 #include "proposal/InPlace.h"
 
@@ -144,6 +145,7 @@ void frmPlotExtractRelation::plotsChanged(const Tab& tab) {
     const std::string_view text = trim(tab.plots.text());
     if (text.empty())
         return;
+    const Meaning meant(screen(), tab.plots);
     const std::int16_t number = toInteger16(text);
     Recordset& plots = proposal.tables.ensure(tab.family.plots);
     for (int i = 1; i <= number; ++i) {

@@ -158,7 +158,11 @@ constexpr LayoutGroup accessGroups[] = {
 };
 constexpr LayoutGroup materialGroups[] = {{sectionFive, materialRows}};
 
-constexpr LayoutPage pages[] = {{openSpaceGroups}, {chowkGroups}, {parkingGroups}, {accessGroups}, {materialGroups}};
+constexpr LayoutPage pages[] = {{openSpaceGroups, PageButtons::pageNames[4]},
+                                {chowkGroups, PageButtons::pageNames[5]},
+                                {parkingGroups, PageButtons::pageNames[6]},
+                                {accessGroups, PageButtons::pageNames[7]},
+                                {materialGroups, PageButtons::pageNames[8]}};
 
 constexpr Layout sheet{
     .head =

@@ -18,7 +18,10 @@ PageButtons::PageButtons(Form& form)
           {form, "cmdFormNo", "7", 6},
           {form, "cmdFormNo", "8", 7},
           {form, "cmdFormNo", "9", 8},
-      }} {}
+      }} {
+    for (Button& button : buttons)
+        button.toolTip = button.caption() + ": " + std::string(pageNames.at(static_cast<std::size_t>(button.index())));
+}
 
 void PageButtons::onClick(const std::function<void(int page)>& reaction) {
     for (Button& button : buttons)

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <string_view>
 
 #include "controls/Controls.h"
 
@@ -14,6 +15,18 @@ class Proposal;
 class PageButtons {
 public:
     static constexpr int count = 9;
+    /// What each page is about. The system has numbers alone; tips and screen readers say more.
+    static constexpr std::array<std::string_view, count> pageNames = {
+        "proposal and applicant",
+        "plot and zone",
+        "industry and streets",
+        "structures and floor area",
+        "open spaces",
+        "chowks, lifts and fire protection",
+        "parking and balconies",
+        "access, walls and levels",
+        "materials, water and trees",
+    };
     /// Pages 0 to 3 are tabs of frmAnnexureA, pages 4 to 8 those of AnnexureACont.
     static constexpr int firstOfSectionFour = 4;
 

@@ -4,6 +4,7 @@
 
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "controls/Meaning.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA_rules.h"
 #include "particulars/particulars.h"
@@ -130,7 +131,9 @@ void frmAnnexureA::setComboValues() {
     cboSector.clear();
     villageCodes.clear();
     const Ports& ports = proposal.screen.ports;
-    ports.files.readLines(ports.program.folder() + "/VILLAGENAMES.txt", [this](std::string_view line) {
+    const std::string villages = ports.program.folder() + "/VILLAGENAMES.txt";
+    const Meaning meant(proposal.screen, villages + " cannot be read, or has a line that is no village.");
+    ports.files.readLines(villages, [this](std::string_view line) {
         const std::size_t first = line.find('#');
         const std::size_t second = first == line.npos ? first : line.find('#', first + 1);
         if (second == line.npos)

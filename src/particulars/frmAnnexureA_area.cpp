@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Numbers.h"
+#include "controls/Meaning.h"
 #include "particulars/frmAnnexureA.h"
 
 namespace plandesk {
@@ -20,6 +21,7 @@ void frmAnnexureA::Opt2Y_Click() {
         return;
     const bool actualIsLess = toDouble(txtActualArea.text()) < toDouble(txtPltArea.text());
     txtAreaAllowed.setText(actualIsLess ? txtActualArea.text() : txtPltArea.text());
+    const Meaning meant(proposal.screen, txtAreaAllowed);
     proposal.feeArea = toInteger16(txtAreaAllowed.text());
     closeBox(txtAreaAllowed);
 }
@@ -33,6 +35,7 @@ void frmAnnexureA::Opt2N_Click() {
 bool frmAnnexureA::refuseLetters(TextBox& area) {
     if (chkString(area.text(), "alpha") != -1)
         return false;
+    const Meaning meant(proposal.screen, area);
     proposal.screen.message("Enter Numeric Data", "Invalid Data");
     area.setText("");
     area.setFocus();
@@ -42,6 +45,7 @@ bool frmAnnexureA::refuseLetters(TextBox& area) {
 bool frmAnnexureA::refuseEmpty(TextBox& area, std::string_view text, std::string_view title) {
     if (!area.text().empty())
         return false;
+    const Meaning meant(proposal.screen, area);
     proposal.screen.message(text, title);
     Opt2.yes.setValue(false);
     goToTab(0);

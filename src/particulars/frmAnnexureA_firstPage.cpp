@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Text.h"
+#include "controls/Meaning.h"
 #include "particulars/frmAnnexureA.h"
 
 namespace plandesk {
@@ -53,7 +54,10 @@ bool passes(const FirstPageTest& test, frmAnnexureA& form) {
     std::string text(test.message);
     if (!test.captionOf.empty())
         text = form.at<Label>(test.captionOf).caption() + " " + text;
-    form.screen().message(text, test.title);
+    {
+        const Meaning meant(form.screen(), field);
+        form.screen().message(text, test.title);
+    }
     form.goToTab(0);
     form.show();
     field.setFocus();

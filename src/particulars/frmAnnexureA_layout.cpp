@@ -31,7 +31,7 @@ constexpr LayoutRow proposalRows[] = {
     {"", "Proposed F.A.R", "txtTikaNo", "", "*"},
     {"1 a. i.", "Full Name of Applicant", "txtApplicantNm", "", "*"},
     {"ii.", "Applicant Address", "txtApplicantAddr", "", "*"},
-    {" b.", "", "OptArch OptLE OptSE"},
+    {.item = " b.", .controls = "OptArch OptLE OptSE", .spoken = "Kind of professional"},
     {"", "", "lblArch"},
     {"", "Last Name", "txtArchNm", "", "*"},
     {"", "First Name", "txtArchFirstName", "", "*", "lblfName"},
@@ -157,7 +157,10 @@ constexpr LayoutRow structureRows[] = {
 
 constexpr LayoutGroup structureGroups[] = {{"Section III", structureRows}};
 
-constexpr LayoutPage pages[] = {{proposalGroups}, {plotGroups}, {industryGroups}, {structureGroups}};
+constexpr LayoutPage pages[] = {{proposalGroups, PageButtons::pageNames[0]},
+                                {plotGroups, PageButtons::pageNames[1]},
+                                {industryGroups, PageButtons::pageNames[2]},
+                                {structureGroups, PageButtons::pageNames[3]}};
 
 constexpr Layout sheet{
     .head =

@@ -7,6 +7,7 @@
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "controls/Form.h"
+#include "controls/Meaning.h"
 #include "controls/Screen.h"
 #include "proposal/Proposal.h"
 
@@ -62,6 +63,7 @@ int filterByClass(int key, std::string_view kind) {
 }
 
 void refuse(TextBox& box, std::string_view text, std::string_view title) {
+    const Meaning meant(box.form().screen(), box);
     box.form().screen().message(text, title);
     box.setText("");
     box.setFocus();
@@ -174,6 +176,7 @@ void checkRateBox(TextBox& first, TextBox& second, TextBox& target, bool compute
         return refuse(first, "Enter Numeric values", "Payment Details");
     if (!compute)
         return;
+    const Meaning meant(first.form().screen(), first);
     target.setText(numberText(toDouble(first.text()) * toDouble(second.text())));
 }
 

@@ -1,9 +1,11 @@
 // New, Open, Save and Save As.
 
+#include <optional>
 #include <string>
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "controls/Meaning.h"
 #include "document/DocumentBlocks.h"
 #include "document/SaveProposal.h"
 #include "fees/frmDocCheckList.h"
@@ -90,6 +92,9 @@ void mdiInterface::readBlock(const DocumentBlock& block) {
     try {
         block.read(proposal, reader.document());
     } catch (const RuntimeError& error) {
+        std::optional<Meaning> file;
+        if (!reader.unread().empty())
+            file.emplace(proposal.screen, reader.unread());
         proposal.screen.message(std::to_string(error.number) + ":" + error.description,
                                 " Particulars of Development (Read XML) ", Icon::Critical);
     }

@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -7,13 +8,11 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTableView>
-#include <map>
 #include <set>
 
-#include "gui/LandRecords.h"
+#include "gui/FilledForms.h"
 #include "gui/Registry.h"
 #include "gui/SampleForm.h"
-#include "gui/Session.h"
 #include "particulars/frmAnnexureA.h"
 
 using namespace plandesk;
@@ -21,65 +20,6 @@ using namespace plandesk::test;
 using namespace std::string_literals;
 
 namespace {
-
-constexpr std::array formNames = {
-    "frmAnnexureA", "AnnexureACont", "frmPayDetail", "frmDocCheckList", "frmDocCheckList1", "frmPlotExtractRelation",
-    "frmMain712",   "frmPRCEXT",     "frmNaOrder",   "frmHelp",         "frmAbout"};
-
-/// The form with something in it, where it has grids.
-Form& filledForm(Session& session, const QString& name) {
-    static const std::map<QString, void (*)(Session&)> fillers = {{"frmPlotExtractRelation", enterPlots},
-                                                                  {"frmMain712", enterExtracts},
-                                                                  {"frmPRCEXT", enterCards},
-                                                                  {"frmNaOrder", enterNaOrder}};
-    if (const auto fill = fillers.find(name); fill != fillers.end()) {
-        session.press("mnuNew");
-        enterPlots(session);
-        fill->second(session);
-    }
-    return *session.proposal.forms.touch(name.toStdString());
-}
-
-void addForms() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("fontScale");
-    for (const char* name : formNames)
-        for (const int scale : {1, 2})
-            QTest::addRow("%s at font size x%d", name, scale) << QString(name) << scale;
-}
-
-/// Opens everything that the form's rules may hide, so that all of it is looked at.
-void showEverything(Form& form) {
-    for (Control* control : form.controls())
-        control->setVisible(true);
-}
-
-/// A session in a font of another size.
-struct ScaledSession {
-    QFont before = QApplication::font();
-    std::unique_ptr<Session> session;
-
-    explicit ScaledSession(int scale) {
-        QFont font = before;
-        font.setPointSizeF(scale * font.pointSizeF());
-        QApplication::setFont(font);
-        session = std::make_unique<Session>();
-    }
-    ~ScaledSession() {
-        session.reset();
-        QApplication::setFont(before);
-    }
-};
-
-void forEachPage(Session& session, Form& form, const std::function<void()>& look) {
-    auto* strip = dynamic_cast<TabStrip*>(form.findKey(form.layout().tabs));
-    for (int tab = 0; tab < (strip ? strip->count() : 1); ++tab) {
-        if (strip)
-            strip->setTab(tab);
-        session.settle();
-        look();
-    }
-}
 
 /// Why the widget cannot be read in full; empty when it can.
 QString clipped(const QWidget& widget) {
@@ -106,10 +46,13 @@ QString clipped(const QWidget& widget) {
     return {};
 }
 
-/// Widgets that stand directly on the form or on its page, that is all that a layout places.
+/// Widgets that stand directly on the form, on its page, or among the options of a question: all that a layout places.
 QList<QWidget*> placed(QWidget& view, QScrollArea& area) {
     QList<QWidget*> widgets;
-    for (QWidget* parent : {&view, area.widget()})
+    QList<QWidget*> parents = {&view, area.widget()};
+    for (QGroupBox* options : area.widget()->findChildren<QGroupBox*>())
+        parents += options;
+    for (QWidget* parent : parents)
         for (QObject* child : parent->children())
             if (auto* widget = qobject_cast<QWidget*>(child); widget && widget->isVisible() && widget != &area)
                 widgets += widget;
@@ -225,7 +168,7 @@ private slots:
                 QWidget* widget = view.widgetOf(*control);
                 if (!page->isAncestorOf(widget))
                     continue;
-                const QRect place = widget->geometry();
+                const QRect place(widget->mapTo(page, QPoint(0, 0)), widget->size());
                 // In one line from left to right, else from top to bottom.
                 QVERIFY2(
                     place.bottom() > last.y() && (place.top() >= last.y() - place.height() || place.left() > last.x()),
@@ -240,11 +183,14 @@ private slots:
         Session session;
         session.press("mnuNew");
         auto& form = session.form<frmAnnexureA>();
-        const int left = session.widget(form.txtTitle).x();
+        const auto leftOf = [&](const Control& control) {
+            return session.widget(control).mapTo(&session.window, QPoint(0, 0)).x();
+        };
+        const int left = leftOf(form.txtTitle);
         for (const Control* control :
              std::initializer_list<const Control*>{&form.cboCaseType, &form.DTPicker1, &form.txtpltno, &form.Opt1.yes,
                                                    &form.OptArch, &form.txtActualArea, &form.txtApplicantAddr})
-            QCOMPARE(session.widget(*control).x(), left);
+            QCOMPARE(leftOf(*control), left);
     }
 
     void theMnemonicsOfTheMenuAndOfEachFormDiffer() {
@@ -278,17 +224,18 @@ private slots:
         };
         QCOMPARE(questions("Number"), 1);
         QCOMPARE(questions("Sq. Mtrs"), 1);
-        const int before = stage.widget(form.choice.yes).y();
+        const auto height = [&] { return stage.widget(form.choice.yes).mapTo(&stage.desk, QPoint(0, 0)).y(); };
+        const int before = height();
         form.number.setVisible(false);
         stage.settle();
         QCOMPARE(questions("Number"), 0);
         QCOMPARE(questions("Sq. Mtrs"), 0);
         QCOMPARE(questions("a."), 0);
-        QVERIFY(stage.widget(form.choice.yes).y() < before);
+        QVERIFY(height() < before);
         form.number.setVisible(true);
         stage.settle();
         QCOMPARE(questions("Number"), 1);
-        QCOMPARE(stage.widget(form.choice.yes).y(), before);
+        QCOMPARE(height(), before);
     }
 
     void aLiveQuestionFollowsItsLabel() {

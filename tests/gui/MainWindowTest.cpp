@@ -287,6 +287,11 @@ private slots:
         QTest::mouseClick(&session.widget(form.txtpltno), Qt::LeftButton);
         QCOMPARE(session.dialogs.messages.size(), 1U);
         QCOMPARE(session.dialogs.messages[0].text, "Proposal Title Can not be blank !"s);
+        QCOMPARE(session.dialogs.messages[0].detail, "Particulars of Development: Proposal Title"s);
+        const Control* about = session.dialogs.messages[0].about;
+        QCOMPARE(about, static_cast<const Control*>(&form.txtTitle));
+        const QWidget& title = session.widget(form.txtTitle);
+        QCOMPARE(session.window.forms().placeOnScreen(*about), QRect(title.mapToGlobal(QPoint(0, 0)), title.size()));
         session.settle();
         QCOMPARE(session.window.focusWidget(), &session.widget(form.txtTitle));
     }

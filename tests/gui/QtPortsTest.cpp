@@ -11,8 +11,12 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "controls/Controls.h"
+#include "controls/Form.h"
+#include "controls/Screen.h"
 #include "desktop/QtText.h"
 #include "gui/Registry.h"
+#include "unit/TestPorts.h"
 
 using namespace plandesk;
 using namespace plandesk::desktop;
@@ -110,6 +114,68 @@ private slots:
         QCOMPARE(offers, 2);
         event(1);
         QCOMPARE(shown, 1);
+    }
+
+    void aBoxNamesWhatFailedInItsSecondLine() {
+        QtProgram program;
+        QtDialogs dialogs(program);
+        QString second;
+        whenOpen<QMessageBox>([&](QMessageBox& box) {
+            second = box.informativeText();
+            QCOMPARE(box.text(), QString("Permission denied"));
+            box.accept();
+        });
+        dialogs.showMessage({"", "Permission denied", Icon::Critical, "/home/plot.xml was not written."});
+        QCOMPARE(second, QString("/home/plot.xml was not written."));
+    }
+
+    void aLongTitleOfABoxIsSeenWhole() {
+        QtProgram program;
+        QtDialogs dialogs(program);
+        const QString title = QStringLiteral(" Particulars of Development (Read XML) and more of it ");
+        int width = 0;
+        whenOpen<QMessageBox>([&](QMessageBox& box) {
+            width = box.width() - box.fontMetrics().horizontalAdvance(title);
+            box.accept();
+        });
+        dialogs.showMessage({fromQt(title), "x", Icon::Critical});
+        QVERIFY2(width >= 100, qPrintable(QString::number(width)));
+    }
+
+    void aBoxStandsBesideTheFieldThatItMeansWhenThereIsRoom() {
+        const QRect room(0, 0, 1024, 768);
+        const QSize box(400, 150);
+        const QRect high(300, 100, 200, 24);
+        const QRect low(300, 700, 200, 24);
+        QCOMPARE(besideField(box, high, room), QPoint(300, 130));
+        QCOMPARE(besideField(box, low, room), QPoint(300, 544));
+        QCOMPARE(besideField(box, QRect(900, 100, 100, 24), room), QPoint(624, 130));
+        QCOMPARE(besideField(box, QRect(10, 10, 300, 740), room), QPoint(316, 10));
+        QCOMPARE(besideField(box, room, room), std::nullopt);
+    }
+
+    void theRealBoxStandsBelowTheFieldAndInTheMiddleWhenTheFieldIsNotSeen() {
+        QtProgram program;
+        QtDialogs dialogs(program);
+        QWidget window;
+        window.resize(700, 600);
+        window.show();
+        dialogs.parent = &window;
+        const QRect field(window.screen()->availableGeometry().topLeft() + QPoint(60, 80), QSize(200, 24));
+        TestPorts machine;
+        Screen screen{machine};
+        Form form(screen, "form", "");
+        const TextBox box(form, "box");
+        for (const bool seen : {true, false}) {
+            dialogs.placeOnScreen = [&](const Control& control) { return seen && &control == &box ? field : QRect(); };
+            QPoint place;
+            whenOpen<QMessageBox>([&](QMessageBox& shown) {
+                place = shown.frameGeometry().topLeft();
+                shown.accept();
+            });
+            dialogs.showMessage({"", "Can not be blank !", Icon::Information, "", &box});
+            QCOMPARE(place == QPoint(field.left(), field.bottom() + 7), seen);
+        }
     }
 
     void aQuestionIsAnswered_data() {

@@ -1,5 +1,5 @@
 // Takes a picture of every page of every form at 1024 x 700, once with the system's font and once with one of twice the
-// size, into the folder given as the only argument.
+// size, and of some in other sizes of the window, into the folder given as the only argument.
 
 #include <QApplication>
 #include <QScrollArea>
@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <iostream>
 
+#include "desktop/ChildWindow.h"
 #include "desktop/Theme.h"
 #include "gui/LandRecords.h"
 #include "gui/Session.h"
@@ -94,6 +95,23 @@ void takeLandRecords(const std::filesystem::path& folder, const std::string& suf
     take("frmNaOrder", enterNaOrder);
 }
 
+/// Three pages in the windows of common screens, maximised in the widest.
+void takeSizes(const std::filesystem::path& folder) {
+    for (const QSize size : {QSize(1024, 700), QSize(1366, 768), QSize(1920, 1080)}) {
+        Session session(size);
+        const std::string suffix = "-" + std::to_string(size.width()) + "x" + std::to_string(size.height());
+        Camera camera(session, folder, suffix);
+        session.press("mnuNew");
+        for (Form* form : {session.proposal.forms.touch("frmAnnexureA"), session.proposal.forms.touch("frmPayDetail"),
+                           session.proposal.forms.touch("frmDocCheckList")}) {
+            form->show();
+            session.settle();
+            session.window.forms().fillDesk(size.width() == 1920);
+            camera.take(form->name());
+        }
+    }
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -107,6 +125,7 @@ int main(int argc, char* argv[]) {
     std::filesystem::create_directories(folder);
     takeAll(folder, "");
     takeLandRecords(folder, "");
+    takeSizes(folder);
     QFont large = QApplication::font();
     large.setPointSizeF(2 * large.pointSizeF());
     QApplication::setFont(large);

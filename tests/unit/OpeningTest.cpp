@@ -147,8 +147,19 @@ TEST(Opening, aMissingFileIsLikeOneWithoutARoot) {
     Reading reading;
     reading.world.ports.dialogs.answers.emplace_back("/nowhere/a.xml");
     reading.world.shell.press("mnuOpen");
-    EXPECT_EQ(reading.world.ports.dialogs.take(), hopeless());
+    const std::vector<Message> told = reading.world.ports.dialogs.take();
+    EXPECT_EQ(told, hopeless());
+    for (const Message& box : told)
+        EXPECT_EQ(box.detail, "/nowhere/a.xml cannot be read, or is no well-formed XML file.");
     EXPECT_EQ(reading.text(sheet, "txtPathNm"), "/nowhere/a.xml");
+}
+
+TEST(Opening, aValueThatCannotBeReadIsToldWithFormAndQuestion) {
+    Reading reading;
+    const std::vector<Message> told = reading.open(ProposalFile().set("ONETHREE-RAD", ""));
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0].text, "13 : Type mismatch");
+    EXPECT_EQ(told[0].detail, "Particulars of Development: Does it comply with the provision of Appendix N?");
 }
 
 TEST(Opening, afterAHopelessFileAGoodOneOpensAsAtFirst) {

@@ -241,6 +241,7 @@ TEST(MdiInterface, aRefusedWriteIsToldOnceAndTheProposalCanBeSavedElsewhere) {
     const std::vector<Message> told = world.ports.dialogs.take();
     ASSERT_EQ(told.size(), 1U);
     EXPECT_EQ(told[0].text, "Disk full");
+    EXPECT_TRUE(told[0].detail.starts_with("/home/a.xml was not written")) << told[0].detail;
     EXPECT_EQ(world.ports.files.contents.at("/home/a.xml"), earlier);
     EXPECT_EQ(world.box(sheet, "txtTitle").text(), "Second");
 
