@@ -12,7 +12,7 @@
 #include "controls/User.h"
 #include "desktop/FormNames.h"
 #include "desktop/FormView.h"
-#include "desktop/QtText.h"
+#include "desktop/LongText.h"
 #include "desktop/ScreenView.h"
 
 namespace plandesk::desktop {
@@ -87,7 +87,7 @@ void ChildWindow::syncForm() {
 }
 
 void ChildWindow::showTitle() {
-    const QString caption = form ? toQt(form->caption()) : QString();
+    const QString caption = form ? beginning(form->caption()) : QString();
     const QString shown = title->fontMetrics().elidedText(caption, Qt::ElideRight, title->width());
     if (form)
         title->setText(shown);

@@ -18,6 +18,7 @@
 #include "desktop/FormNames.h"
 #include "desktop/GridView.h"
 #include "desktop/ListBox.h"
+#include "desktop/LongText.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtText.h"
 #include "desktop/ScreenView.h"
@@ -70,7 +71,7 @@ protected:
     QAbstractButton& button;
 
 private:
-    QString words() const { return subject ? toQt(static_cast<Captioned&>(*subject).caption()) : button.text(); }
+    QString words() const { return subject ? beginning(static_cast<Captioned&>(*subject).caption()) : button.text(); }
     int markWidth() const { return button.sizeHint().width() - textWidth(button.text()); }
     int textWidth(const QString& text) const { return button.fontMetrics().size(Qt::TextShowMnemonic, text).width(); }
     bool systemKey(const QKeyEvent& event) override {
@@ -125,18 +126,18 @@ private:
         if (!sameItems(list)) {
             QStringList items;
             for (int place = 0; place < list.listCount(); ++place)
-                items += toQt(list.item(place));
+                items += beginning(list.item(place));
             box.clear();
             box.addItems(items);
         }
         box.setCurrentIndex(list.listIndex());
-        box.setForeignText(list.listIndex() < 0 ? toQt(list.text()) : QString());
+        box.setForeignText(list.listIndex() < 0 ? beginning(list.text()) : QString());
     }
     QString hiddenText() const override { return box.elided() ? box.shownText().trimmed() : QString(); }
     bool sameItems(const ComboBox& list) const {
         bool same = box.count() == list.listCount();
         for (int place = 0; same && place < box.count(); ++place)
-            same = box.itemText(place) == toQt(list.item(place));
+            same = box.itemText(place) == beginning(list.item(place));
         return same;
     }
 
@@ -212,7 +213,7 @@ public:
 private:
     Colour foreColor() const override { return static_cast<Captioned&>(*subject).foreColor(); }
     /// Blanks around a caption would only push it out of its column.
-    void syncContent() override { label.setText(toQt(trim(static_cast<Captioned&>(*subject).caption()))); }
+    void syncContent() override { label.setText(beginning(trim(static_cast<Captioned&>(*subject).caption()))); }
 
     QLabel& label;
 };
@@ -233,7 +234,7 @@ public:
 private:
     QPalette::ColorRole backRole() const override { return QPalette::Button; }
     void syncContent() override {
-        button.setText(toQt(static_cast<Captioned&>(*subject).caption()));
+        button.setText(beginning(static_cast<Captioned&>(*subject).caption()));
         // The tip of a numbered button goes on where its caption ends.
         const QString caption = button.text().remove('&').trimmed();
         button.setAccessibleName(button.toolTip().startsWith(caption + ':') ? button.toolTip() : caption);

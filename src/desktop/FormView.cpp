@@ -13,6 +13,7 @@
 #include "desktop/FlowLine.h"
 #include "desktop/FormNames.h"
 #include "desktop/Keys.h"
+#include "desktop/LongText.h"
 #include "desktop/PageView.h"
 #include "desktop/QtText.h"
 #include "desktop/ScreenView.h"
@@ -21,7 +22,7 @@ namespace plandesk::desktop {
 
 FormView::FormView(Form& form, ScreenView& screen, QWidget& parent) : QWidget(&parent), form(&form), screen(screen) {
     setObjectName(toQt(form.name()));
-    setAccessibleName(toQt(form.caption()).trimmed());
+    setAccessibleName(beginning(form.caption()).trimmed());
     setAutoFillBackground(true);
     const Layout& layout = form.layout();
     head = makeViews(layout.head);

@@ -4,6 +4,7 @@
 
 #include "base/Text.h"
 #include "desktop/ControlView.h"
+#include "desktop/LongText.h"
 #include "desktop/QtText.h"
 #include "desktop/ScreenView.h"
 
@@ -79,7 +80,10 @@ QVariant GridModel::data(const QModelIndex& cell, int role) const {
     return screen.guarded([&]() -> QVariant {
         // A table may have lost rows since the last look.
         const bool there = cell.row() < shown->rowCount() && cell.column() < shown->columnCount();
-        return there ? toQt(shown->cellText(cell.row(), cell.column())) : QVariant();
+        if (!there)
+            return {};
+        const std::string* text = shown->heldText(cell.row(), cell.column());
+        return text ? beginning(*text) : toQt(shown->cellText(cell.row(), cell.column()));
     });
 }
 

@@ -19,6 +19,7 @@
 #include "controls/User.h"
 #include "desktop/FilteredEdit.h"
 #include "desktop/GridTable.h"
+#include "desktop/LongText.h"
 #include "desktop/QtText.h"
 #include "desktop/ScreenView.h"
 #include "proposal/Grid.h"
@@ -124,7 +125,10 @@ void GridView::syncLine() {
     }
     if (!editing)
         return;
-    if (const QString text = toQt(grid().editText()); line.text() != text)
+    // A long text that was pasted shows its beginning until the cell takes it.
+    const bool edits = fitsEditor(grid().editText(), false);
+    line.setReadOnly(!edits);
+    if (const QString text = edits ? toQt(grid().editText()) : beginning(grid().editText()); line.text() != text)
         line.setText(text);
     if (!line.isHidden())
         return;
@@ -259,7 +263,10 @@ void GridView::editPresentText() {
     const int column = grid().currentColumn();
     if (row < 0 || column >= grid().columnCount() || grid().editing())
         return;
-    edit(toQt(grid().cellText(row, column)));
+    const std::string text = grid().cellText(row, column);
+    // What is too long for the line is replaced as a whole or not at all.
+    if (fitsEditor(text, false))
+        edit(toQt(text));
     line.selectAll();
 }
 

@@ -14,6 +14,7 @@
 #include "controls/User.h"
 #include "desktop/Application.h"
 #include "desktop/ChildWindow.h"
+#include "desktop/LongText.h"
 #include "desktop/QtText.h"
 #include "shell/mdiInterface.h"
 
@@ -41,7 +42,7 @@ QString asTitle(std::string_view caption) {
     // An empty title would be replaced by the program's name.
     if (caption.empty())
         return QStringLiteral(" ");
-    return toQt(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
+    return beginning(caption).replace(QStringLiteral("[*]"), QStringLiteral("[*][*]"));
 }
 
 }  // namespace

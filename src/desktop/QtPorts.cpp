@@ -13,6 +13,7 @@
 #include <array>
 
 #include "desktop/LongMessage.h"
+#include "desktop/LongText.h"
 #include "desktop/QtText.h"
 
 namespace plandesk::desktop {
@@ -22,6 +23,9 @@ namespace {
 /// System information tools that desktops bring along, the first one found is started.
 constexpr std::array systemInformationTools = {"kinfocenter", "hardinfo2",           "hardinfo",
                                                "hwinfo-gui",  "mate-system-monitor", "gnome-system-monitor"};
+
+/// Bytes of a message that are shown.
+constexpr std::size_t longestText = 5000;
 
 /// Boxes of one event that are shown before they can be skipped.
 constexpr int patience = 200;
@@ -72,7 +76,7 @@ QString safeFileName(const QString& title) {
 }
 
 QString QtDialogs::titleOf(const Message& message) const {
-    return toQt(message.title.empty() ? program.title() : message.title);
+    return beginning(message.title.empty() ? program.title() : message.title);
 }
 
 void QtDialogs::eventBegins() {
@@ -83,8 +87,9 @@ void QtDialogs::eventBegins() {
 void QtDialogs::showMessage(const Message& message) {
     if (skipping)
         return;
-    QMessageBox box(iconOf(message.icon), titleOf(message), toQt(message.text), QMessageBox::Ok, parent);
-    box.setInformativeText(toQt(message.detail));
+    QMessageBox box(iconOf(message.icon), titleOf(message), beginning(message.text, longestText), QMessageBox::Ok,
+                    parent);
+    box.setInformativeText(beginning(message.detail));
     prepare(box);
     const QAbstractButton* skip =
         boxes >= patience ? box.addButton(QMessageBox::tr("&Skip the rest"), QMessageBox::RejectRole) : nullptr;
@@ -117,8 +122,8 @@ std::optional<QPoint> besideField(QSize box, const QRect& field, const QRect& ro
 }
 
 bool QtDialogs::askYesNo(const Message& question) {
-    QMessageBox box(iconOf(question.icon), titleOf(question), toQt(question.text), QMessageBox::Yes | QMessageBox::No,
-                    parent);
+    QMessageBox box(iconOf(question.icon), titleOf(question), beginning(question.text, longestText),
+                    QMessageBox::Yes | QMessageBox::No, parent);
     prepare(box);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;

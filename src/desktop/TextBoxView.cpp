@@ -1,6 +1,8 @@
 #include "desktop/TextBoxView.h"
 
+#include <QClipboard>
 #include <QFocusEvent>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <algorithm>
 #include <limits>
@@ -10,6 +12,7 @@
 #include "controls/Form.h"
 #include "controls/User.h"
 #include "desktop/FilteredEdit.h"
+#include "desktop/LongText.h"
 #include "desktop/MultiLineEdit.h"
 #include "desktop/QtText.h"
 #include "desktop/ScreenView.h"
@@ -48,6 +51,22 @@ protected:
     void hand(const std::string& text) {
         act([&] { user::edit(box(), text); });
     }
+    /// Whether the user can edit the text here. A longer one shows its beginning; Backspace takes a character from its
+    /// end, and Delete with all of it selected empties the box.
+    bool edits() const { return fitsEditor(box().text(), box().multiLine); }
+    QString shownText() const { return edits() ? toQt(box().text()) : beginning(box().text()); }
+    bool systemKey(const QKeyEvent& event) override {
+        if (box().locked || edits())
+            return ControlView::systemKey(event);
+        if (event.key() == Qt::Key_Backspace)
+            act([this] { user::press(*subject, "Backspace"); });
+        else if (event.key() == Qt::Key_Delete && allSelected())
+            act([this] { user::clear(box()); });
+        else
+            return ControlView::systemKey(event);
+        return true;
+    }
+    virtual bool allSelected() const = 0;
 };
 
 using LineEdit = FilteredEdit<QLineEdit>;
@@ -88,8 +107,8 @@ private:
         return whole ? QString() : line.text();
     }
     void syncContent() override {
-        line.setReadOnly(box().locked);
-        if (const QString text = toQt(box().text()); line.text() != text) {
+        line.setReadOnly(box().locked || !edits());
+        if (const QString text = shownText(); line.text() != text) {
             const int caret = box().focused() ? line.cursorPosition() : 0;
             const QString before = line.text().left(caret);
             line.setText(text);
@@ -97,6 +116,20 @@ private:
         }
     }
 
+    bool allSelected() const override { return line.selectedText().size() == line.text().size(); }
+    /// A long text is pasted past the line, which would lay it out as a whole first.
+    bool systemKey(const QKeyEvent& event) override {
+        if (!event.matches(QKeySequence::Paste) || line.isReadOnly())
+            return TextBoxView::systemKey(event);
+        const QString piece = QGuiApplication::clipboard()->text();
+        if (piece.size() <= longestPaste)
+            return false;
+        const qsizetype start = line.hasSelectedText() ? line.selectionStart() : line.cursorPosition();
+        hand(fromQt(line.text().replace(start, line.selectedText().size(), piece)));
+        return true;
+    }
+
+    static constexpr qsizetype longestPaste = 10'000;
     LineEdit& line;
 };
 
@@ -116,12 +149,13 @@ public:
 
 private:
     void syncContent() override {
-        edit.setReadOnly(box().locked);
-        edit.show(toQt(box().text()));
+        edit.setReadOnly(box().locked || !edits());
+        edit.show(shownText());
     }
+    bool allSelected() const override { return edit.textCursor().selectedText().size() == edit.toPlainText().size(); }
     bool systemKey(const QKeyEvent& event) override {
         const bool breaksLine = systemKeyName(event) == "Enter" && !box().form().enterActsAsTab();
-        return !breaksLine && ControlView::systemKey(event);
+        return !breaksLine && TextBoxView::systemKey(event);
     }
 
     MultiLineEdit& edit;

@@ -40,6 +40,10 @@ GridColumn Grid::column(int column) const {
     return {.caption = column < columnCount() ? source->columns()[place].name : std::string_view()};
 }
 
+const std::string* Grid::heldText(int row, int column) const {
+    return std::get_if<std::string>(&source->valueAt(row + 1, column));
+}
+
 std::string Grid::cellText(int row, int column) const {
     const Value& value = source->valueAt(row + 1, column);
     if (const bool* on = std::get_if<bool>(&value); on && this->column(column).yesNo)

@@ -41,6 +41,8 @@ public:
     int columnCount() const { return source ? static_cast<int>(source->columns().size()) : 0; }
     int rowCount() const { return source ? source->recordCount() : 0; }
     std::string cellText(int row, int column) const;
+    /// The text of a cell that holds one, which may be long; null for any other.
+    const std::string* heldText(int row, int column) const;
     /// The cell that is current; row -1 when the table has no current row.
     int currentRow() const;
     int currentColumn() const { return atColumn; }

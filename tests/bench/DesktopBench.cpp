@@ -17,6 +17,7 @@
 #include "desktop/Theme.h"
 #include "drc/frmDRCUtilisationForm.h"
 #include "gui/GridForm.h"
+#include "gui/SampleForm.h"
 #include "gui/Session.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
@@ -249,5 +250,41 @@ void keyInACellToRepaint(benchmark::State& state) {
     });
 }
 BENCHMARK(keyInACellToRepaint)->ArgsProduct({{gridRows.begin(), gridRows.end()}})->Unit(benchmark::kMillisecond);
+
+// One word of ten megabytes.
+constexpr std::size_t longWord = 10'000'000;
+
+void keyInALongWordToRepaint(benchmark::State& state) {
+    needApplication();
+    test::Stage stage;
+    TextBox& box = state.range(0) == 0 ? stage.form().title : stage.form().notes;
+    box.setText(std::string(longWord, 'w'));
+    box.setFocus();
+    stage.settle();
+    QWidget& widget = stage.widget(box);
+    for (auto round : state) {
+        QTest::keyClick(&widget, Qt::Key_Backspace);
+        widget.repaint();
+        stage.settle();
+    }
+    if (box.text().size() + static_cast<std::size_t>(state.iterations()) != longWord)
+        state.SkipWithError("not every key was taken");
+    state.SetLabel(state.range(0) == 0 ? "one line" : "several lines");
+}
+BENCHMARK(keyInALongWordToRepaint)->DenseRange(0, 1)->Unit(benchmark::kMillisecond);
+
+void cellsWithLongWordsToRepaint(benchmark::State& state) {
+    needApplication();
+    test::GridStage stage(4);
+    for (int row = 0; row < 4; ++row) {
+        stage.table->setAbsolutePosition(row + 1);
+        stage.table->set(test::GridForm::Name, std::string(longWord, 'w'));
+    }
+    stage.form().grid.refresh();
+    stage.settle();
+    for (auto round : state)
+        stage.shown().viewport()->repaint();
+}
+BENCHMARK(cellsWithLongWordsToRepaint)->Unit(benchmark::kMillisecond);
 
 }  // namespace

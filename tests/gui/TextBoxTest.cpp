@@ -7,6 +7,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "controls/User.h"
+#include "desktop/LongText.h"
 #include "gui/Registry.h"
 #include "gui/SampleForm.h"
 
@@ -152,7 +153,9 @@ private slots:
             stage.view.act(Qt::OtherFocusReason, [&] { box->setFocus(); });
             QTest::keyClick(&stage.widget(*box), Qt::Key_Home, Qt::ControlModifier);
             QTest::keyClicks(&stage.widget(*box), "Z");
-            QVERIFY2(box->text() == "Z" + text, box->name().c_str());
+            // What is too long to be laid out at a key takes none.
+            const bool edits = desktop::fitsEditor(text, box->multiLine);
+            QVERIFY2(box->text() == (edits ? "Z" + text : text), box->name().c_str());
         }
     }
 
