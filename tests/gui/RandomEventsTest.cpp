@@ -52,7 +52,7 @@ private slots:
     void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
 
     void whateverTheUserDoesTheProgramGoesOnAndShowsWhatItHolds() {
-        constexpr int usualEvents = 3'000;
+        constexpr int usualEvents = 20'000;
         constexpr int betweenLooks = 100;
         const auto wanted = static_cast<int>(numberFrom("PLANDESK_ROBOT_EVENTS", usualEvents));
         const std::uint64_t seed = numberFrom("PLANDESK_ROBOT_SEED", 1);
