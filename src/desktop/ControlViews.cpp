@@ -237,7 +237,8 @@ private:
         button.setText(beginning(static_cast<Captioned&>(*subject).caption()));
         // The tip of a numbered button goes on where its caption ends.
         const QString caption = button.text().remove('&').trimmed();
-        button.setAccessibleName(button.toolTip().startsWith(caption + ':') ? button.toolTip() : caption);
+        const bool tipTells = caption.isEmpty() || button.toolTip().startsWith(caption + ':');
+        button.setAccessibleName(tipTells ? button.toolTip() : caption);
         markCurrent();
     }
     void name(const QString&, const QString&) override {}

@@ -5,19 +5,14 @@
 
 #include "base/RuntimeError.h"
 #include "document/AnnexureB.h"
+#include "document/BlockReaders.h"
 #include "document/LandRecordBlocks.h"
-#include "document/XmlDocument.h"
+#include "document/ULCScrutinyBlock.h"
 #include "proposal/Proposal.h"
 
 namespace plandesk {
 
 namespace {
-
-/// Stands in for the readers that are still to come.
-void requireRoot(Proposal& /*proposal*/, const XmlDocument& document) {
-    if (document.root() == XmlDocument::none)
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
-}
 
 constexpr std::array blocks = std::to_array<DocumentBlock>({
     {.element = "ANNEXUREB",
@@ -31,7 +26,7 @@ constexpr std::array blocks = std::to_array<DocumentBlock>({
      .bare = true,
      .build = buildPlotRelation712,
      .reader = "readPlotRelations",
-     .read = requireRoot},
+     .read = readPlotRelations},
     {.element = "PLOT-PRCDETAILS",
      .place = BlockPlace::BehindLandRecords,
      .fragment = &Proposal::plotPrcDetailsXML,
@@ -43,30 +38,32 @@ constexpr std::array blocks = std::to_array<DocumentBlock>({
      .builder = "buildExtractBlock",
      .build = buildExtractBlock,
      .reader = "readExtracts712",
-     .read = requireRoot},
+     .read = readExtracts712},
     {.element = "PRC",
      .place = BlockPlace::LandRecords,
      .fragment = &Proposal::prcOwnerXML,
      .builder = "buildPRCBlock",
      .build = buildPRCBlock,
      .reader = "readExtractsPRC",
-     .read = requireRoot},
+     .read = readExtractsPRC},
     {.element = "NAOrder",
      .place = BlockPlace::LandRecords,
      .fragment = &Proposal::naOrderXML,
      .build = buildNAOrder,
      .reader = "readNAOrder",
-     .read = requireRoot},
+     .read = readNAOrder},
     {.element = "ULCORDER-SCRUTINY",
      .place = BlockPlace::LandRecords,
      .fragment = &Proposal::ULCScrutinyXML,
+     .builder = "buildULCScrutinyXML",
+     .build = buildULCScrutinyXML,
      .reader = "readULCScrutiny",
-     .read = requireRoot},
+     .read = readULCScrutiny},
     {.element = "DISC-REV",
      .place = BlockPlace::BehindLandRecords,
      .fragment = &Proposal::discretionRevisedXML,
      .reader = "readDiscretion",
-     .read = requireRoot},
+     .read = readDiscretion},
     {.element = "DISC-NEW", .place = BlockPlace::BehindLandRecords, .fragment = &Proposal::discretionNewXML},
     {.element = "ISSUEOFDRC", .place = BlockPlace::BehindLandRecords, .fragment = &Proposal::drcIssueXML},
     {.element = "TRANSFERDRC", .place = BlockPlace::BehindLandRecords, .fragment = &Proposal::drcTransferXML},

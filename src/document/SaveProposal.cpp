@@ -14,6 +14,12 @@ namespace plandesk {
 
 namespace {
 
+/// Without ownership rows the earlier block stays.
+void buildOrdersIfAny(Proposal& proposal) {
+    if (proposal.tables.ensure(&Tables::rsOwnership).recordCount() > 0)
+        buildBlock(proposal, &Proposal::ULCScrutinyXML);
+}
+
 constexpr std::array steps = std::to_array<SaveStep>({
     {"frmPayDetail", "cmdSave_Click"},
     {"frmDocCheckList1", "cmdSave_Click", &Proposal::conditionalDocList},
@@ -26,9 +32,10 @@ constexpr std::array steps = std::to_array<SaveStep>({
     {"frmMain712", "cmdSave_Click"},
     {.action = [](Proposal& proposal) { proposal.isSavingLandRecord = proposal.is712Current = false; }},
     {"frmPRCEXT", "cmdSave_Click"},
-    {"frmScrutinyULC", "cmdSave_Click"},
-    {"frmDiscretionrevisedCase", "cmdSave_Click"},
-    {"frmDiscretionNewCase", "cmdSave_Click"},
+    {"frmScrutinyULC", "optDocCtrlOwn_Click"},
+    {.action = buildOrdersIfAny},
+    {"frmDiscretionrevisedCase", "setDiscretionForSave"},
+    {"frmDiscretionNewCase", "setDiscretionNewForSave"},
     {"frmAnnexureA", "cmdSave_Click"},
 });
 

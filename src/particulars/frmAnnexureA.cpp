@@ -162,8 +162,7 @@ void frmAnnexureA::showFileAndRevision(bool on) {
 }
 
 void frmAnnexureA::enterPressed() {
-    if (auto* box = dynamic_cast<TextBox*>(activeControl()))
-        box->setText(properCase(box->text()));
+    rewriteInProperCase(*this);
 }
 
 void frmAnnexureA::cmdFormNo_Click(int index) {

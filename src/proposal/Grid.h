@@ -132,7 +132,8 @@ private:
 template <class Kind>
 class GridEditor : public Kind {
 public:
-    GridEditor(Grid& grid, std::string_view name) : Kind(grid.form(), name), grid(grid) {}
+    template <class... More>
+    GridEditor(Grid& grid, std::string_view name, More... more) : Kind(grid.form(), name, more...), grid(grid) {}
 
     std::string_view keyDown(std::string_view key) override {
         if (key != "Tab" && key != "Shift+Tab" && key != "Enter")

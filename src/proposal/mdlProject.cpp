@@ -129,6 +129,11 @@ std::string properCase(std::string_view text) {
     return cased;
 }
 
+void rewriteInProperCase(const Form& form) {
+    if (auto* box = dynamic_cast<TextBox*>(form.activeControl()))
+        box->setText(properCase(box->text()));
+}
+
 void setAllDatesToToday(Form& form) {
     const Date today = form.screen().ports.clock.today();
     form.forEach<DatePicker>([today](DatePicker& picker) { picker.setDate(today); });

@@ -30,6 +30,9 @@ std::string EscapeXML(std::string_view value);
 /// digit starts a new word too: "2nd" becomes "2Nd".
 std::string properCase(std::string_view text);
 
+/// The text box of the form that has the focus takes its text in proper case. Nothing for any other control.
+void rewriteInProperCase(const Form& form);
+
 /// Each date picker of the form takes the present date.
 void setAllDatesToToday(Form& form);
 

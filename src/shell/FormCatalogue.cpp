@@ -6,6 +6,8 @@
 #include "drc/frmDRCTransferCont.h"
 #include "drc/frmDRCUtilisationForm.h"
 #include "drc/frmIssuOfDRc.h"
+#include "fees/frmDiscretionNewCase.h"
+#include "fees/frmDiscretionrevisedCase.h"
 #include "fees/frmDocCheckList.h"
 #include "fees/frmDocCheckList1.h"
 #include "fees/frmPayDetail.h"
@@ -16,6 +18,10 @@
 #include "particulars/frmAnnexureA.h"
 #include "shell/frmAbout.h"
 #include "shell/frmHelp.h"
+#include "ulc/frmScrutinyULC.h"
+#include "ulc/frmULC20aDetails.h"
+#include "ulc/frmUS22.h"
+#include "ulc/frmUS84.h"
 
 namespace plandesk {
 
@@ -46,16 +52,16 @@ constexpr std::array catalogue = std::to_array<FormRow>({
     formRow<frmPayDetail>(dropped, showPayment),
     formRow<frmPlotExtractRelation>(dropped, openPlotRelation),
     formRow<frmPRCEXT>(dropped),
-    toCome("frmScrutinyULC", dropped),
+    formRow<frmScrutinyULC>(dropped),
     toCome("frmtdrfortransferringownership", dropped),
-    toCome("frmULC20aDetails", dropped),
-    toCome("frmUS22", dropped),
-    toCome("frmUS84", dropped),
+    formRow<frmULC20aDetails>(dropped),
+    formRow<frmUS22>(dropped),
+    formRow<frmUS84>(dropped),
 
     // These keep their contents across New and Open.
     formRow<frmDocCheckList1>(kept),
-    toCome("frmDiscretionNewCase", kept),
-    toCome("frmDiscretionrevisedCase", kept),
+    formRow<frmDiscretionNewCase>(kept),
+    formRow<frmDiscretionrevisedCase>(kept),
     formRow<frmIssuOfDRc>(kept),
     formRow<frmDRCTransfer>(kept),
     formRow<frmDRCTransferCont>(kept),

@@ -7,23 +7,39 @@
 #include <map>
 #include <memory>
 
-#include "gui/LandRecords.h"
+#include "gui/Orders.h"
 #include "gui/Session.h"
 
 // Every form with something in it, page by page, for tests that look at all of them.
 
 namespace plandesk::test {
 
-inline constexpr std::array formNames = {
-    "frmAnnexureA", "AnnexureACont", "frmPayDetail", "frmDocCheckList", "frmDocCheckList1", "frmPlotExtractRelation",
-    "frmMain712",   "frmPRCEXT",     "frmNaOrder",   "frmHelp",         "frmAbout"};
+inline constexpr std::array formNames = {"frmAnnexureA",
+                                         "AnnexureACont",
+                                         "frmPayDetail",
+                                         "frmDocCheckList",
+                                         "frmDocCheckList1",
+                                         "frmPlotExtractRelation",
+                                         "frmMain712",
+                                         "frmPRCEXT",
+                                         "frmNaOrder",
+                                         "frmHelp",
+                                         "frmAbout",
+                                         "frmScrutinyULC",
+                                         "frmUS84",
+                                         "frmULC20aDetails",
+                                         "frmUS22",
+                                         "frmIssuOfDRc",
+                                         "frmDRCTransfer",
+                                         "frmDRCTransferCont",
+                                         "frmDRCUtilisationForm"};
 
 /// The form with something in it, where it has grids.
 inline Form& filledForm(Session& session, const QString& name) {
-    static const std::map<QString, void (*)(Session&)> fillers = {{"frmPlotExtractRelation", enterPlots},
-                                                                  {"frmMain712", enterExtracts},
-                                                                  {"frmPRCEXT", enterCards},
-                                                                  {"frmNaOrder", enterNaOrder}};
+    static const std::map<QString, void (*)(Session&)> fillers = {
+        {"frmPlotExtractRelation", enterPlots}, {"frmMain712", enterExtracts},   {"frmPRCEXT", enterCards},
+        {"frmNaOrder", enterNaOrder},           {"frmScrutinyULC", enterOrders}, {"frmUS84", enterOrders},
+        {"frmULC20aDetails", enterOrders},      {"frmUS22", enterOrders}};
     if (const auto fill = fillers.find(name); fill != fillers.end()) {
         session.press("mnuNew");
         enterPlots(session);

@@ -9,7 +9,7 @@
 
 #include "desktop/ChildWindow.h"
 #include "desktop/Theme.h"
-#include "gui/LandRecords.h"
+#include "gui/Orders.h"
 #include "gui/Session.h"
 
 namespace {
@@ -78,7 +78,7 @@ void takeAll(const std::filesystem::path& folder, const std::string& suffix) {
             camera.takePages(*form);
 }
 
-/// The forms of the land records with data in them.
+/// The forms of the land records and of their orders with data in them.
 void takeLandRecords(const std::filesystem::path& folder, const std::string& suffix) {
     Session session;
     Camera camera(session, folder, suffix);
@@ -93,6 +93,11 @@ void takeLandRecords(const std::filesystem::path& folder, const std::string& suf
     take("frmMain712", enterExtracts);
     take("frmPRCEXT", enterCards);
     take("frmNaOrder", enterNaOrder);
+    session.form<frmNaOrder>().hide();
+    take("frmScrutinyULC", enterScrutiny);
+    take("frmUS84", enterUS84);
+    take("frmULC20aDetails", enterUS20a1);
+    take("frmUS22", enterUS22);
 }
 
 /// Three pages in the windows of common screens, maximised in the widest.

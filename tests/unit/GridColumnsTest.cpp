@@ -31,7 +31,7 @@ TEST_F(Extracts, GridsNameEveryColumnOfTheirTables) {
             EXPECT_EQ(unnamed(grid), Texts());
         });
     }
-    EXPECT_EQ(grids, 8);  // two of plots, three of each family's extracts
+    EXPECT_EQ(grids, 10);  // two of plots, three of each family's extracts, one of each order that has rows
 
     proposal.forms.get<frmMain712>().dgdOwner.setColumns({});
     EXPECT_EQ(unnamed(proposal.forms.get<frmMain712>().dgdOwner).size(), 6u);

@@ -47,6 +47,19 @@ public:
         std::erase_if(sections, [section](const Section& each) { return each.name == section; });
         return *this;
     }
+    /// A section behind the others, with its elements and their contents.
+    ProposalFile& addSection(std::string_view section,
+                             std::initializer_list<std::pair<std::string_view, std::string_view>> elements) {
+        sections.push_back({std::string(section), {}});
+        for (const auto& [element, content] : elements)
+            append(section, element, content);
+        return *this;
+    }
+    /// Gives a section without elements of its own this content, as it stands in the file.
+    ProposalFile& setText(std::string_view section, std::string_view content) {
+        sectionOf(section).text = content;
+        return *this;
+    }
     ProposalFile& setChecklist(std::string_view list) {
         checklist = list;
         return *this;
@@ -56,8 +69,7 @@ public:
         std::string text = "<?xml version = '1.0' ?><INWARDINFO DEPARTMENT='BP'>";
         for (const Section& section : sections) {
             text += "<" + section.name + ">";
-            if (section.name == "DOCCHKLIST")
-                text += checklist;
+            text += section.name == "DOCCHKLIST" ? checklist : section.text;
             for (const Element& element : section.elements)
                 text += "<" + element.name + ">" + element.content + "</" + element.name + ">";
             text += "</" + section.name + ">";
@@ -73,6 +85,7 @@ private:
     struct Section {
         std::string name;
         std::vector<Element> elements;
+        std::string text{};  ///< before the elements
     };
 
     Element& at(std::string_view name) {
@@ -198,6 +211,8 @@ private:
         {"NTS", {}},
         {"PLOT-REL", {}},
         {"PLOT-PRCDETAILS", {}},
+        {"DISC-REV", std::vector<Element>(19, {"RULE", "##"})},
+        {"DISC-NEW", {}, "##############"},
     };
 };
 

@@ -45,6 +45,11 @@ struct World {
     void saveNewProposal(const std::string& path) {
         shell.press("mnuNew");
         fillFirstPage();
+        saveTo(path);
+    }
+
+    /// A first save of what stands, to `path`; its boxes are taken.
+    void saveTo(const std::string& path) {
         ports.dialogs.answers.push_back(path);
         shell.press("mnuSave");
         ports.dialogs.take();

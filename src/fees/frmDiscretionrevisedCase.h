@@ -1,0 +1,33 @@
+#pragma once
+
+#include <deque>
+#include <string_view>
+
+#include "controls/Controls.h"
+#include "proposal/DataForm.h"
+
+namespace plandesk {
+
+/// The same for a revised case: what the revised drawing changes against the sanctioned one, amendment by amendment.
+class frmDiscretionrevisedCase : public DataForm {
+public:
+    static constexpr std::string_view formName = "frmDiscretionrevisedCase";
+
+    explicit frmDiscretionrevisedCase(Proposal& proposal);
+    void load() override;
+    const Layout& layout() const override;
+    void enterPressed() override;
+
+    /// Sets `discretionRevisedXML`: the rows as they stand, neither trimmed nor escaped.
+    void setDiscretionForSave();
+
+    Label lblHead{*this, "lblHead", "Discretion : Revised Case"};
+    std::deque<Label> lblRule;     ///< the 19 amendments
+    std::deque<TextBox> txtRule;   ///< figure of the revised drawing
+    std::deque<TextBox> txtRuleC;  ///< figure of the sanctioned drawing
+    std::deque<TextBox> txtRuleD;  ///< the architect's remark
+    Button Command5{*this, "Command5", "Print Particulars of Development"};
+    Button Command9{*this, "Command9", "Close"};
+};
+
+}  // namespace plandesk

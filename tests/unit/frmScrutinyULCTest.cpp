@@ -1,0 +1,192 @@
+#include "ulc/frmScrutinyULC.h"
+
+#include "OrdersFixture.h"
+#include "particulars/frmAnnexureA.h"
+
+namespace plandesk::test {
+namespace {
+
+using ScrutinyULC = Orders;
+
+TEST_F(ScrutinyULC, BeforeAnyLandRecordItOpensWithEmptyListsAndNoError) {
+    shell.press("mnuNew");
+    auto& form = scrutiny();
+    EXPECT_TRUE(form.visible());
+    EXPECT_EQ(form.cmbExtract.listCount(), 0);
+    EXPECT_EQ(form.dgdOwner.rowCount(), 0);
+    EXPECT_EQ(form.dgdULCOrderDetails.rowCount(), 0);
+    EXPECT_TRUE(ports.dialogs.take().empty());
+}
+
+TEST_F(ScrutinyULC, ItShowsDateAndCaseTypeOfTheFirstPageAsTheyWereWhenItWasLoaded) {
+    auto& first = proposal.forms.get<frmAnnexureA>();
+    first.DTPicker1.setDate({2026, 6, 5});
+    first.cboCaseType.setListIndex(0);
+    auto& form = scrutiny();
+    first.DTPicker1.setDate({2026, 6, 6});
+    EXPECT_EQ(form.caption(), "Scrutiny of U.L.C. Order");
+    EXPECT_EQ(form.txtProposalDate.text(), "05/06/2026");
+    EXPECT_EQ(form.txtCaseType.text(), first.cboCaseType.text());
+    EXPECT_EQ(form.txtProposalNo.text(), "");
+    EXPECT_EQ(form.txtArea.text(), "");
+}
+
+TEST_F(ScrutinyULC, ItsListsAndColumnsAreTheSystemsOwn) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    EXPECT_EQ(items(form.cmbDocStatus), (Texts{"---- Select ----", "ULC Order"}));
+    EXPECT_EQ(items(form.cmbULCORDERDetails),
+              (Texts{"---- Select ULC U/S ----", "8 (4) Order", "U/S 20 (a) (1)", "U/S 22"}));
+    Texts captions;
+    for (const Grid* grid : {&form.dgdOwner, &form.dgdULCOrderDetails})
+        for (int column = 0; column < grid->columnCount(); ++column)
+            captions.emplace_back(grid->column(column).caption);
+    EXPECT_EQ(captions, (Texts{"Group No", "Owner Name", "Area", "Document Status", "Group No", "Owner(s) Name",
+                               "ULC Order", "Order No", "Details", "Remarks"}));
+    EXPECT_EQ(form.dgdOwner.column(0).width, 1000);
+    EXPECT_EQ(form.dgdOwner.column(2).width, 2000);
+    EXPECT_EQ(form.dgdULCOrderDetails.column(4).width, 900);
+    for (const int locked : {0, 1, 2})
+        EXPECT_FALSE(form.dgdOwner.editable(locked));
+    for (const int free : {3, 5})
+        EXPECT_TRUE(form.dgdULCOrderDetails.editable(free));
+}
+
+TEST_F(ScrutinyULC, WithoutAPRCTheExtractsAreNotListed) {
+    relate({2});
+    user::click(open712().cmdSave);
+    EXPECT_FALSE(proposal.ownershipRelationSaved);
+    auto& form = scrutiny();
+    user::click(form.optDocCtrlOwn[0]);
+    EXPECT_EQ(form.lblNoOfExt.caption(), "No of 7/12 Extracts");
+    EXPECT_EQ(form.cmbExtract.listCount(), 0);
+    EXPECT_EQ(form.txtNoOfExtranct.text(), "");
+}
+
+TEST_F(ScrutinyULC, EachExtractHasAnEntryAndThePRCsComeBehindNumberedAnew) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    EXPECT_EQ(items(form.cmbExtract),
+              (Texts{" Plot A ---  EXTRACT 1 ", " Plot A ---  EXTRACT 2 ", " Plot A ---  PRC 1 "}));
+    EXPECT_EQ(form.txtNoOfExtranct.text(), "3");
+    EXPECT_EQ(form.lblNoOfExt.caption(), "No of 7/12 Extracts + PRC ");
+    EXPECT_EQ(form.cmbExtract.listIndex(), 0);
+    EXPECT_EQ(form.dgdOwner.cellText(0, OwnershipColumn::Name), "Anand");
+    user::pick(form.cmbExtract, 2);
+    EXPECT_EQ(form.dgdOwner.rowCount(), 1);
+    EXPECT_EQ(form.dgdOwner.cellText(0, OwnershipColumn::Name), "Chand & Co");
+    EXPECT_EQ(form.dgdOwner.cellText(0, OwnershipColumn::Area), "7");
+    EXPECT_EQ(form.dgdULCOrderDetails.cellText(0, ULCOrderColumn::Name), "Chand & Co");
+}
+
+TEST_F(ScrutinyULC, TheListsWriteTheirIndexIntoTheCellTheyFloatOver) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    EXPECT_TRUE(form.cmbDocStatus.visible());
+    EXPECT_EQ(form.cmbDocStatus.text(), "---- Select ----");
+    user::pick(form.cmbDocStatus, 1);
+    user::pick(form.cmbULCORDERDetails, 3);
+    EXPECT_EQ(cell(&Tables::rsOwnership, "ExtNo = 1", "DocStatus"), "1");
+    EXPECT_EQ(cell(&Tables::rsULCOrder, "ExtNo = 1", "ULCOrderSelection"), "3");
+    user::pick(form.cmbExtract, 1);
+    EXPECT_EQ(form.cmbDocStatus.listIndex(), 0);
+    EXPECT_EQ(form.cmbULCORDERDetails.listIndex(), 0);
+    user::pick(form.cmbExtract, 0);
+    EXPECT_EQ(form.cmbDocStatus.text(), "ULC Order");
+    EXPECT_EQ(form.cmbULCORDERDetails.text(), "U/S 22");
+}
+
+TEST_F(ScrutinyULC, NamesFollowTheOwnershipAndTheRestOfAnOrderStays) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    user::editCell(form.dgdULCOrderDetails, 0, ULCOrderColumn::OrderNo, "77");
+    user::editCell(form.dgdULCOrderDetails, 0, ULCOrderColumn::Remarks, "seen");
+    user::click(form.optDocCtrlOwn[0]);
+    tables.rsOwner712->setFilter("ExtNo = 1");
+    tables.rsOwner712->set(OwnerColumn::Name, "Asha");
+    tables.rsOwner712->update();
+    user::click(form.optDocCtrlOwn[0]);
+    EXPECT_EQ(cell(&Tables::rsULCOrder, "ExtNo = 1", "Name"), "Asha");
+    EXPECT_EQ(cell(&Tables::rsULCOrder, "ExtNo = 1", "OrderNo"), "77");
+    EXPECT_EQ(cell(&Tables::rsULCOrder, "ExtNo = 1", "Remarks"), "seen");
+}
+
+TEST_F(ScrutinyULC, PropertyCardLeavesNoOwnershipUntilTheExtractsAreChosenAgain) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    user::click(form.cmdSave);
+    const std::string earlier = proposal.ULCScrutinyXML;
+    user::click(form.optDocCtrlOwn[1]);
+    EXPECT_EQ(tables.rsOwnership->rowCount(), 0);
+    EXPECT_EQ(items(form.cmbExtract), Texts{" Plot A ---  PRC 1 "});  // the walk over the plots does not start anew
+    user::pick(form.cmbExtract, 0);
+    EXPECT_EQ(form.dgdOwner.rowCount(), 0);
+
+    shell.press("mnuAnnexure");
+    fillFirstPage();
+    saveTo("whole.xml");
+    ASSERT_TRUE(ports.files.contents.contains("whole.xml"));
+    EXPECT_EQ(proposal.ULCScrutinyXML, earlier);
+
+    user::click(form.cmdSave);
+    EXPECT_EQ(proposal.ULCScrutinyXML,
+              "<ULCORDER-SCRUTINY><DOCCONTROLLINGOWNERSHIP>2</DOCCONTROLLINGOWNERSHIP><NOOFEXTRACT>0</NOOFEXTRACT>"
+              "</ULCORDER-SCRUTINY>");
+
+    user::click(form.optDocCtrlOwn[0]);
+    EXPECT_EQ(tables.rsOwnership->rowCount(), 3);
+    EXPECT_EQ(form.cmbExtract.listCount(), 3);
+}
+
+TEST_F(ScrutinyULC, AnUnchosenOrderHasNoDetails) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    EXPECT_EQ(cell(&Tables::rsULCOrder, "ExtNo = 1", "ULCOrderSelection"), "0");  // written when the list came up
+    user::click(form.cmdDetails);
+    user::pick(form.cmbExtract, 1);
+    EXPECT_EQ(cell(&Tables::rsULCOrder, "ExtNo = 2", "ULCOrderSelection"), "");
+    user::pick(form.cmbExtract, 1);
+    user::click(form.cmdDetails);
+    for (const std::string_view order : {"frmUS84", "frmULC20aDetails", "frmUS22"})
+        EXPECT_EQ(proposal.forms.loaded(order), nullptr) << order;
+}
+
+TEST_F(ScrutinyULC, EachChoiceOpensItsOwnForm) {
+    saveLandRecords();
+    EXPECT_TRUE(us84().front());
+    EXPECT_TRUE(us20().front());
+    EXPECT_TRUE(us22().front());
+}
+
+TEST_F(ScrutinyULC, ResetDoesNothing) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    user::pick(form.cmbDocStatus, 1);
+    user::click(form.cmdReferesh);
+    EXPECT_EQ(form.cmbExtract.listCount(), 3);
+    EXPECT_EQ(form.cmbDocStatus.listIndex(), 1);
+}
+
+TEST_F(ScrutinyULC, AStatusThatIsNoItemIsToldWhenItsButtonIsPressed) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    tables.rsOwnership->set(OwnershipColumn::DocStatus, "9");
+    user::pressCellButton(form.dgdOwner, 0, OwnershipColumn::DocStatus);
+    EXPECT_EQ(ports.dialogs.take(), (std::vector<Message>{{"", "Error Occured !!  ", Icon::Information}}));
+    tables.rsULCOrder->set(ULCOrderColumn::ULCOrderSelection, "9");
+    user::pressCellButton(form.dgdULCOrderDetails, 0, ULCOrderColumn::ULCOrderSelection);
+    user::pick(form.cmbExtract, 0);
+    EXPECT_TRUE(ports.dialogs.take().empty());
+}
+
+TEST_F(ScrutinyULC, ClosingItKeepsItAndNewUnloadsIt) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    user::click(form.cmdClose);
+    EXPECT_FALSE(form.visible());
+    shell.press("mnuNew");
+    EXPECT_EQ(proposal.forms.loaded("frmScrutinyULC"), nullptr);
+}
+
+}  // namespace
+}  // namespace plandesk::test
