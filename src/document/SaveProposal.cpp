@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/CodePage.h"
+#include "base/RuntimeError.h"
 #include "controls/Meaning.h"
 #include "document/DocumentBlocks.h"
 #include "document/ProposalDocument.h"
@@ -57,7 +58,13 @@ constexpr std::array guards = std::to_array<Guard>({
 
 void writeProposal(Proposal& proposal, const std::string& path) {
     const Meaning meant(proposal.screen, path + " was not written; what the file held before is still there.");
-    proposal.screen.ports.files.writeWhole(path, toCodePage(proposal.proposalText + "\r\n", systemCodePage()));
+    const std::string bytes = toCodePage(proposal.proposalText + "\r\n", systemCodePage());
+    try {
+        proposal.screen.ports.files.writeWhole(path, bytes);
+    } catch (const RuntimeError&) {
+        proposal.commands.fileNotWritten();
+        throw;
+    }
 }
 
 }  // namespace

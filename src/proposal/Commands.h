@@ -15,10 +15,11 @@ struct Commands {
 
     static void nothing() {}
 
-    Action saveProposal = nothing;   ///< every form leaves its answers, then the document is joined and written
-    Action SaveData = nothing;       ///< guards, joins the document and writes it
-    Action CreateXMLFIle = nothing;  ///< writes the joined document to the path of the proposal
-    Action readXml = nothing;        ///< the steps of opening a file, without setting the proposal flags
+    Action saveProposal = nothing;    ///< every form leaves its answers, then the document is joined and written
+    Action SaveData = nothing;        ///< guards, joins the document and writes it
+    Action CreateXMLFIle = nothing;   ///< writes the joined document to the path of the proposal
+    Action fileNotWritten = nothing;  ///< opens Save As, so that the proposal can be saved elsewhere
+    Action readXml = nothing;         ///< the steps of opening a file, without setting the proposal flags
     Action refreshMenus = nothing;
     /// Builds the block of the document whose text is that fragment.
     std::function<void(Fragment)> buildBlock = [](Fragment) {};

@@ -33,9 +33,10 @@ mdiInterface::mdiInterface(Proposal& proposal) : proposal(proposal) {
 
 void mdiInterface::fillCommands() {
     Commands& asked = proposal.commands;
-    asked.saveProposal = [this] { saveProposal(); };
+    asked.saveProposal = [this] { saveProposal(proposal); };
     asked.SaveData = [this] { SaveData(proposal); };
     asked.CreateXMLFIle = [this] { CreateXMLFIle(proposal); };
+    asked.fileNotWritten = [this] { setAvailable("mnuSaveAs", true); };
     asked.readXml = [this] { openFile(); };
     asked.refreshMenus = [this] { refreshMenus(); };
     asked.buildBlock = [this](Commands::Fragment fragment) { buildBlock(proposal, fragment); };

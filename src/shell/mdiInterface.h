@@ -64,7 +64,6 @@ private:
     void fillCommands();
     void openForm(std::string_view name);
     void tellNotThereYet();
-    void saveProposal();
     void setAvailable(std::string_view entry, bool on);
 
     Proposal& proposal;

@@ -106,25 +106,19 @@ void mdiInterface::mnuSave_Click() {
     auto& annexure = proposal.forms.get<frmAnnexureA>();
     annexure.show();
     if (annexure.validateAnnexureFirstPage())
-        saveProposal();
+        saveProposal(proposal);
 }
 
 void mdiInterface::mnuSaveAs_Click() {
     hideDiscretion(proposal);
+    // The proposal counts as open again whatever happens, a run-time error too.
+    struct OpenAgain {
+        bool& flag;
+        ~OpenAgain() { flag = true; }
+    } const openAgain{proposal.isProposalOpen};
     proposal.isProposalOpen = false;
     proposal.isSaveAsRequested = true;
-    saveProposal();
-    proposal.isProposalOpen = true;
-}
-
-void mdiInterface::saveProposal() {
-    try {
-        plandesk::saveProposal(proposal);
-    } catch (const RuntimeError&) {
-        // A proposal that could not be written to its file can be saved elsewhere.
-        setAvailable("mnuSaveAs", true);
-        throw;
-    }
+    saveProposal(proposal);
 }
 
 }  // namespace plandesk
