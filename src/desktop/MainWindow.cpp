@@ -26,16 +26,19 @@ constexpr QSize firstSize{1180, 820};
 constexpr QMargins usualFrame{6, 38, 6, 6};  // before the window is there to be asked
 constexpr int tick = 100;                    // milliseconds, both timers
 
+/// Keys of menu entries. New and Open have none, since they throw away what is open without a question.
 struct Shortcut {
     std::string_view entry;
-    QKeySequence::StandardKey key;
+    QKeySequence keys;
 };
-constexpr std::array<Shortcut, 4> shortcuts = {{
-    {"mnuNew", QKeySequence::New},
-    {"mnuOpen", QKeySequence::Open},
-    {"mnuSave", QKeySequence::Save},
-    {"mnuContent", QKeySequence::HelpContents},
-}};
+
+std::array<Shortcut, 3> shortcuts() {
+    return {{
+        {"mnuSave", QKeySequence::Save},
+        {"mnuSaveAs", Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+        {"mnuContent", QKeySequence::HelpContents},
+    }};
+}
 
 /// A caption as the toolkit takes it for a title, so that the user reads just the caption.
 QString asTitle(std::string_view caption) {
@@ -111,9 +114,9 @@ void MainWindow::makeMenu() {
         action->setObjectName(toQt(item.name));
         entries[std::string(item.name)] = action;
     }
-    for (const Shortcut& shortcut : shortcuts)
+    for (const Shortcut& shortcut : shortcuts())
         if (QAction* action = entry(shortcut.entry))
-            action->setShortcut(shortcut.key);
+            action->setShortcut(shortcut.keys);
 }
 
 void MainWindow::makeStatusBar() {

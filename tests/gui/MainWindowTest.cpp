@@ -127,9 +127,7 @@ private slots:
 
     void shortcutsPressMenuEntries() {
         Session session;
-        QTest::keyClick(&session.window, Qt::Key_N, Qt::ControlModifier);
-        session.settle();
-        QVERIFY(session.form<frmAnnexureA>().visible());
+        session.press("mnuNew");
         QTest::keyClick(&session.window, Qt::Key_F1);
         session.settle();
         QVERIFY(session.proposal.forms.loaded("frmHelp")->visible());
@@ -172,6 +170,23 @@ private slots:
         session.settle();
         QVERIFY(checklist.front());
         QVERIFY(session.window.entry("mnuOpen")->isEnabled());
+    }
+
+    void nothingThrowsAProposalAwayAtAKey() {
+        Session session;
+        session.press("mnuNew");
+        auto& form = session.form<frmAnnexureA>();
+        QTest::keyClicks(&session.widget(form.txtTitle), "kept");
+        for (const Qt::Key key : {Qt::Key_N, Qt::Key_O, Qt::Key_W, Qt::Key_Q}) {
+            QTest::keyClick(session.window.focusWidget(), key, Qt::ControlModifier);
+            session.settle();
+        }
+        QCOMPARE(session.form<frmAnnexureA>().txtTitle.text(), "kept"s);
+        QVERIFY(session.dialogs.messages.empty());
+        QVERIFY(session.window.entry("mnuNew")->shortcut().isEmpty());
+        QVERIFY(session.window.entry("mnuOpen")->shortcut().isEmpty());
+        QCOMPARE(session.window.entry("mnuSave")->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_S));
+        QCOMPARE(session.window.entry("mnuSaveAs")->shortcut(), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
     }
 
     void theCaptionIsTheSystemsCaption_data() {
