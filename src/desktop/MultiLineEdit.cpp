@@ -57,6 +57,13 @@ void MultiLineEdit::show(const QString& text) {
     setTextCursor(cursor);
 }
 
+void MultiLineEdit::breakLine() {
+    if (isReadOnly())
+        return;
+    textCursor().insertBlock();
+    ensureCursorVisible();
+}
+
 void MultiLineEdit::typed() {
     const QString shown = document()->toRawText();
     const QString before = asShown(content);

@@ -15,6 +15,8 @@ public:
 
     /// Shows a text; the caret stays where it was. Nothing happens when it is shown already.
     void show(const QString& text);
+    /// The user breaks the line at the caret.
+    void breakLine();
     /// Told the whole new text after each edit of the user.
     std::function<void(const QString& text)> edited = [](const QString&) {};
 

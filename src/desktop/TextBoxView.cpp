@@ -154,6 +154,12 @@ private:
     }
     bool allSelected() const override { return edit.textCursor().selectedText().size() == edit.toPlainText().size(); }
     bool systemKey(const QKeyEvent& event) override {
+        // Where Enter moves on, a line is broken with Shift or Ctrl.
+        const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+        if (enter && event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) {
+            edit.breakLine();
+            return true;
+        }
         const bool breaksLine = systemKeyName(event) == "Enter" && !box().form().enterActsAsTab();
         return !breaksLine && TextBoxView::systemKey(event);
     }

@@ -288,6 +288,31 @@ private slots:
         }
     }
 
+    void shiftEnterAndCtrlEnterBreakALine() {
+        Stage stage;
+        TextBox& notes = stage.form().notes;
+        notes.setText("onetwo");
+        stage.view.act(Qt::OtherFocusReason, [&] { notes.setFocus(); });
+        auto& edit = stage.widget<QPlainTextEdit>(notes);
+        for (const auto& [key, modifier] :
+             {std::pair(Qt::Key_Return, Qt::ShiftModifier), std::pair(Qt::Key_Return, Qt::ControlModifier),
+              std::pair(Qt::Key_Enter, Qt::ShiftModifier)}) {
+            QTextCursor cursor = edit.textCursor();
+            cursor.setPosition(3);
+            edit.setTextCursor(cursor);
+            QTest::keyClick(&edit, key, modifier);
+            QVERIFY(stage.hasKeyboard(notes));
+        }
+        QCOMPARE(notes.text(), "one\r\n\r\n\r\ntwo"s);
+        notes.locked = true;
+        stage.settle();
+        edit.setReadOnly(true);
+        QTest::keyClick(&edit, Qt::Key_Return, Qt::ShiftModifier);
+        QCOMPARE(notes.text(), "one\r\n\r\n\r\ntwo"s);
+        QTest::keyClick(&stage.widget(stage.form().title), Qt::Key_Return, Qt::ShiftModifier);
+        QCOMPARE(stage.form().title.text(), ""s);
+    }
+
     void enterInABoxOfSeveralLinesMovesOn() {
         Stage stage;
         stage.view.act(Qt::OtherFocusReason, [&] { stage.form().notes.setFocus(); });
