@@ -69,6 +69,8 @@ public:
     virtual std::string_view keyDown(std::string_view key) { return key; }
     /// The focus has gone elsewhere.
     virtual void loseFocus();
+    /// Tab, Shift+Tab or Enter brought the focus here.
+    virtual void tabbedInto() {}
 
     std::string toolTip;
     std::function<void()> gotFocus;

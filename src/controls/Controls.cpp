@@ -206,6 +206,16 @@ void ComboBox::pick(int position) {
     runReaction(click);
 }
 
+void ComboBox::pickNext(std::string_view letter) {
+    for (int step = 1; step <= listCount(); ++step) {
+        const int position = (chosen + step) % listCount();
+        if (!equalsIgnoringCase(std::string_view(item(position)).substr(0, letter.size()), letter))
+            continue;
+        pick(position);
+        return;
+    }
+}
+
 bool ComboBox::fire(std::string_view event) {
     return fires(event, "Click", click) || Control::fire(event);
 }

@@ -171,6 +171,9 @@ public:
     void setText(std::string_view text);
     /// The user: the item is chosen and `click` runs, also for the same item.
     void pick(int position);
+    /// The user typed a letter: picks the next item behind the chosen one, and around, that begins with it in any case.
+    /// Nothing happens when there is none.
+    void pickNext(std::string_view letter);
     bool fire(std::string_view event) override;
 
     std::function<void()> click;

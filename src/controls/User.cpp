@@ -86,10 +86,11 @@ void focusNext(Form& form, bool backwards = false) {
     const std::size_t start = present == order.end() ? beforeFirst : static_cast<std::size_t>(present - order.begin());
     for (std::size_t step = 1; step <= order.size(); ++step) {
         Control& next = *order[(start + (backwards ? order.size() - step : step)) % order.size()];
-        if (next.takesFocus()) {
-            form.screen().moveFocus(next);
-            return;
-        }
+        if (!next.takesFocus())
+            continue;
+        if (form.screen().moveFocus(next))
+            next.tabbedInto();
+        return;
     }
 }
 
@@ -116,6 +117,7 @@ void enter(Form& form, Control* control) {
 
 void keyDown(Form& form, Control* control, std::string_view pressed) {
     auto* box = dynamic_cast<TextBox*>(control);
+    auto* list = dynamic_cast<ComboBox*>(control);
     const std::string_view key = control ? control->keyDown(pressed) : pressed;
     if (key == "Enter")
         enter(form, control);
@@ -131,6 +133,8 @@ void keyDown(Form& form, Control* control, std::string_view pressed) {
         activate(*control);
     else if (box && !box->locked && (key == "Space" || codePoints(key).size() == 1))
         typeKeys(*box, key == "Space" ? " " : key, false);
+    else if (list && codePoints(key).size() == 1)
+        list->pickNext(key);
 }
 
 }  // namespace

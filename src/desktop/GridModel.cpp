@@ -49,13 +49,7 @@ QModelIndex GridModel::current() const {
     const Grid* shown = grid();
     if (!shown)
         return {};
-    return screen.guarded([&] {
-        int place = shown->currentColumn();
-        if (shown->column(place).width == 0)
-            for (place = 0; place < columns && shown->column(place).width == 0;)
-                ++place;
-        return index(shown->currentRow(), place);
-    });
+    return screen.guarded([&] { return index(shown->currentRow(), shown->keyColumn()); });
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {

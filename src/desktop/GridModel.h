@@ -21,8 +21,8 @@ public:
     void look();
     GridColumn column(int column) const;
     ColumnKind kind(int column) const;
-    /// The cell that keys go to: the grid's current one, or the first of its row while that has no width. Invalid while
-    /// the grid has none, or one that came since the last look.
+    /// The cell that keys go to: the grid's current one, or the first useful one of its row while that has no width.
+    /// Invalid while the grid has none, or one that came since the last look.
     QModelIndex current() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -86,8 +86,19 @@ void GridTable::show(GridModel& model) {
     setModel(&model);
 }
 
+void GridTable::showRowHeads() {
+    verticalHeader()->show();
+    verticalHeader()->setSectionsClickable(false);  // the grid's view sees to clicks
+    verticalHeader()->setToolTip(tr("Click to take the whole row. Delete or Ctrl+Delete then deletes it."));
+    fitRows();
+}
+
 int GridTable::headMargin() const {
     return style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, horizontalHeader());
+}
+
+int GridTable::rowHeadWidth() const {
+    return verticalHeader()->isHidden() ? 0 : lineHeight();
 }
 
 int GridTable::lineHeight() const {
@@ -98,6 +109,7 @@ int GridTable::lineHeight() const {
 
 void GridTable::fitRows() {
     verticalHeader()->setDefaultSectionSize(lineHeight());
+    verticalHeader()->setFixedWidth(rowHeadWidth());
     verticalScrollBar()->setSingleStep(1);
 }
 
@@ -120,7 +132,7 @@ std::vector<ColumnNeed> GridTable::needs() const {
 }
 
 int GridTable::wantedWidth() const {
-    int width = 2 * frameWidth();
+    int width = 2 * frameWidth() + rowHeadWidth();
     for (const ColumnNeed& column : needs())
         width += column.wanted;
     return width;
@@ -162,7 +174,7 @@ void GridTable::reset() {
 }
 
 int GridTable::heightFor(int lines, int width) const {
-    const Fit fit = fitFor(width - 2 * frameWidth());
+    const Fit fit = fitFor(width - 2 * frameWidth() - rowHeadWidth());
     const bool scrolls = std::accumulate(fit.widths.begin(), fit.widths.end(), 0) > width;
     const int bar = scrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
     return fit.headHeight + lines * lineHeight() + bar + 2 * frameWidth();

@@ -34,6 +34,8 @@ public:
     int wantedWidth() const;
     /// Height with so many rows in sight when it is as wide as that.
     int heightFor(int lines, int width) const;
+    /// Shows heads of the rows, at which a row can be taken as a whole.
+    void showRowHeads();
     /// Where the button of a cell stands; empty where it has none.
     QRect buttonRect(const QModelIndex& cell) const;
     /// The cell that the key leads to from the current one, invalid in an empty table; none for a key that is no arrow
@@ -60,6 +62,7 @@ private:
     std::vector<ColumnNeed> needs() const;
     int headMargin() const;
     int lineHeight() const;
+    int rowHeadWidth() const;
     void fitRows();
 
     GridModel* grid = nullptr;

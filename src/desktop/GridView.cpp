@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QHeaderView>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -19,6 +20,7 @@
 #include "controls/User.h"
 #include "desktop/FilteredEdit.h"
 #include "desktop/GridTable.h"
+#include "desktop/ListBox.h"
 #include "desktop/LongText.h"
 #include "desktop/QtText.h"
 #include "desktop/ScreenView.h"
@@ -79,6 +81,9 @@ private:
     bool compose(QInputMethodEvent& event);
     bool mouse(const QMouseEvent& event);
     void press(const QModelIndex& cell, bool button);
+    void takeRow(int row);
+    void markRow(int row);
+    void deleteKey(const QKeyEvent& event);
 
     GridTable& table;
     GridModel model{*this, screen};
@@ -86,6 +91,7 @@ private:
     const ViewMaker& maker;
     std::map<const Control*, ControlView*> editors;
     int lines = usualLines;
+    int markedRow = -1;  ///< the one that was taken as a whole
 };
 
 GridView::GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& screen, const ViewMaker& maker)
@@ -102,6 +108,8 @@ GridView::GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& scr
             this->table.scrollTo(model.current());
     });
     table.show(model);
+    if (grid.allowDelete)
+        table.showRowHeads();
     table.cellsMoved = [this] { placeParts(); };
 }
 
@@ -111,6 +119,8 @@ void GridView::syncContent() {
     const QModelIndex current = model.current();
     if (table.currentIndex() != current)
         table.selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+    if (grid().currentRow() != markedRow || grid().editing())
+        markRow(-1);
     placeParts();
     syncLine();
 }
@@ -182,10 +192,17 @@ bool GridView::filterEvent(QObject* watched, QEvent* event) {
     const bool key = event->type() == QEvent::KeyPress;
     if (watched == &line)
         return key && keyInLine(*static_cast<QKeyEvent*>(event));
+    if (watched == &table && event->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason)
+        markRow(-1);
     if (watched == &table && event->type() == QEvent::InputMethod)
         return compose(*static_cast<QInputMethodEvent*>(event));
     if (watched == table.viewport() && isMouse(event->type()))
         return mouse(*static_cast<QMouseEvent*>(event));
+    if (watched == table.verticalHeader()->viewport() && event->type() == QEvent::MouseButtonPress) {
+        takeRow(table.verticalHeader()->logicalIndexAt(static_cast<QMouseEvent*>(event)->pos()));
+        return true;
+    }
     for (const auto& [editor, view] : editors) {
         if (!view || watched != &view->widget())
             continue;
@@ -201,6 +218,8 @@ bool GridView::systemKey(const QKeyEvent& event) {
     // A key that an editor over a cell had no use for is not meant for the cell below it.
     if (!hasKeyboard(table))
         return false;
+    if (event.key() != Qt::Key_Delete)
+        markRow(-1);
     if (opensList(event)) {
         act([this] { user::openCell(grid()); });
     } else if (const std::optional<QModelIndex> cell = table.target(event)) {
@@ -208,11 +227,15 @@ bool GridView::systemKey(const QKeyEvent& event) {
     } else if (event.matches(QKeySequence::Paste)) {
         edit(QGuiApplication::clipboard()->text());
     } else if (event.key() == Qt::Key_Delete) {
-        act([this] { user::deleteRow(grid(), grid().currentRow()); });
+        deleteKey(event);
     } else if (event.key() == Qt::Key_Backspace) {
         act([this] { user::press(*subject, "Backspace"); });
     } else if (const QString text = typedText(event); !text.isEmpty()) {
-        typeKeys(text);
+        // A list that comes up over the cell seeks by letters itself.
+        if (grid().listAt(grid().currentColumn()))
+            act([this] { user::openCell(grid()); });
+        else
+            typeKeys(text);
         handOn(event);
     } else {
         return ControlView::systemKey(event);
@@ -225,6 +248,36 @@ bool GridView::keyInLine(const QKeyEvent& event) {
         return ControlView::systemKey(event);
     goTo(table.target(event).value_or(QModelIndex()));
     return true;
+}
+
+void GridView::deleteKey(const QKeyEvent& event) {
+    const bool wholeRow = event.modifiers() & Qt::ControlModifier || markedRow >= 0;
+    act([&] {
+        if (wholeRow)
+            user::deleteRow(grid(), grid().currentRow());
+        else
+            user::clearCell(grid());
+    });
+    // The next Delete would otherwise mean the row that has come in its place.
+    if (wholeRow)
+        markRow(-1);
+}
+
+void GridView::takeRow(int row) {
+    act([&] { user::goToCell(grid(), row, grid().keyColumn()); }, Qt::MouseFocusReason);
+    if (subject && grid().focused() && grid().currentRow() == row)
+        markRow(row);
+}
+
+/// Marks the row as taken as a whole; -1 for none.
+void GridView::markRow(int row) {
+    if (row == markedRow)
+        return;
+    markedRow = row;
+    QItemSelectionModel& selection = *table.selectionModel();
+    selection.clearSelection();
+    if (row >= 0)
+        selection.select(table.model()->index(row, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
 }
 
 void GridView::goTo(const QModelIndex& cell) {
@@ -247,6 +300,8 @@ void GridView::handOn(const QKeyEvent& event) {
         const ControlView* view = editorView(floating);
         if (!view || !floating.editor->focused())
             continue;
+        if (auto* list = dynamic_cast<ListBox*>(&view->widget()))
+            list->startSearch();
         QKeyEvent same(event.type(), event.key(), event.modifiers(), event.text());
         QCoreApplication::sendEvent(&view->widget(), &same);
         return;
@@ -263,6 +318,8 @@ void GridView::editPresentText() {
     const int column = grid().currentColumn();
     if (row < 0 || column >= grid().columnCount() || grid().editing())
         return;
+    if (grid().listAt(column))
+        return act([this] { user::openCell(grid()); });
     const std::string text = grid().cellText(row, column);
     // What is too long for the line is replaced as a whole or not at all.
     if (fitsEditor(text, false))
@@ -294,6 +351,7 @@ bool GridView::mouse(const QMouseEvent& event) {
 }
 
 void GridView::press(const QModelIndex& cell, bool button) {
+    markRow(-1);
     act(
         [&] {
             if (!cell.isValid())

@@ -26,6 +26,10 @@ bool ListBox::elided() const {
     return fontMetrics().horizontalAdvance(shownText().trimmed()) > field.width();
 }
 
+void ListBox::startSearch() {
+    view()->keyboardSearch({});
+}
+
 void ListBox::showPopup() {
     const int wanted = view()->sizeHintForColumn(0) + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     view()->setMinimumWidth(std::max(width(), wanted));

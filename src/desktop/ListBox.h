@@ -16,6 +16,9 @@ public:
     /// Whether its end had to be left out.
     bool elided() const;
 
+    /// The next letter begins a new search for an item, however soon it comes after the last one.
+    void startSearch();
+
     void showPopup() override;
 
 protected:

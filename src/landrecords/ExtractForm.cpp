@@ -53,6 +53,7 @@ void ExtractForm::wire() {
     };
     DTPicker1.change = [this] { dateChosen(); };
     dgdOwner.buttonClick = dgdOwner.click = [this](int column) { ownerLists.open(column); };
+    dgdOwner.listOf = [this](int column) { return ownerLists.of(column); };
     dgdOwner.rowColumnChange = [this] { ownerCellChanged(); };
     dgdPAH.buttonClick = [this](int) { toggleSign(); };
     cmdSave.click = [this] { cmdSave_Click(); };

@@ -4,7 +4,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
@@ -35,10 +34,8 @@ OwnerLists::OwnerLists(Grid& owners, ComboBox& status, ComboBox& encumbrance, Co
     encumbrance.addItem(noEncumbrance);
     addItems(encumbrance, encumbrances);
     addItems(type, types);
-    for (List& list : lists) {
-        list.choices.click = [this, &list] { list.opened = list.opened || !placing; };
+    for (const List& list : lists)
         list.choices.lostFocus = [this, &list] { leave(list); };
-    }
 }
 
 void OwnerLists::setVisible(bool on) {
@@ -50,24 +47,32 @@ void OwnerLists::open(int column) {
     const auto list = std::ranges::find(lists, column, &List::column);
     if (list == lists.end() || owners.currentRow() < 0)
         return;
-    place(*list);
-    list->opened = true;
+    choose(*list);
+    owners.place(list->choices, column);
     list->choices.setFocus();
 }
 
-void OwnerLists::cellChanged(bool placeOwn) {
+ComboBox* OwnerLists::of(int column) {
+    const auto list = std::ranges::find(lists, column, &List::column);
+    return list == lists.end() ? nullptr : &list->choices;
+}
+
+void OwnerLists::cellChanged(bool place) {
     for (const List& list : lists) {
-        if (list.column != owners.currentColumn())
+        const bool own = list.column == owners.currentColumn();
+        if (!own)
             list.choices.setVisible(false);
-        else if (placeOwn && list.follows)
-            place(list);
+        if (!place || !list.follows)
+            continue;
+        choose(list);
+        if (own)
+            owners.place(list.choices, list.column);
     }
 }
 
-/// Puts the list over the cell with the cell's text chosen. A text that the list does not have leaves the choice as it
+/// Chooses the item that the cell of the current row names. A text that the list does not have leaves the choice as it
 /// was, maybe from another row.
-void OwnerLists::place(const List& list) {
-    placing = true;
+void OwnerLists::choose(const List& list) {
     const std::string text = owners.cellText(owners.currentRow(), list.column);
     const bool anyCase = list.column == OwnerColumn::Encumbrances;  // what was read from a document is in upper case
     for (int item = 0; item < list.choices.listCount(); ++item) {
@@ -77,13 +82,9 @@ void OwnerLists::place(const List& list) {
             break;
         }
     }
-    owners.place(list.choices, list.column);
-    placing = false;
 }
 
-void OwnerLists::leave(List& list) {
-    if (!std::exchange(list.opened, false) || list.choices.listIndex() < 0)
-        return;
+void OwnerLists::leave(const List& list) {
     // The owner type alone is written without a look whether there is a row for it.
     if (list.column != OwnerColumn::OwnerType && owners.currentRow() < 0)
         return;

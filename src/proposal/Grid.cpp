@@ -5,6 +5,7 @@
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "controls/Controls.h"
 #include "controls/User.h"
 
 namespace plandesk {
@@ -105,17 +106,48 @@ bool Grid::editCell(int row, int column, std::string_view text) {
     return true;
 }
 
-void Grid::beginEdit(std::string_view text) {
+bool Grid::beginEdit(std::string_view text) {
+    if (ComboBox* list = listAt(atColumn))
+        return takeItem(*list, text);
     if (!startEdit())
-        return;
+        return false;
     typed = text;
     touched();
+    return true;
 }
 
 bool Grid::startEdit() {
     if (typed)
         return true;
-    return currentRow() >= 0 && editable(atColumn) && (!editStart || editStart(atColumn));
+    return currentRow() >= 0 && editable(atColumn) && !listAt(atColumn) && (!editStart || editStart(atColumn));
+}
+
+bool Grid::takeItem(ComboBox& list, std::string_view text) {
+    int item = 0;
+    while (item < list.listCount() && !equalsIgnoringCase(trim(list.item(item)), trim(text)))
+        ++item;
+    if (item == list.listCount() || currentRow() < 0 || !editable(atColumn))
+        return false;
+    list.setListIndex(item);
+    typed = trim(list.item(item));
+    endEdit();
+    return true;
+}
+
+void Grid::openList(ComboBox& list, std::string_view key) {
+    openCell();
+    const bool chosen = equalsIgnoringCase(std::string_view(list.text()).substr(0, key.size()), key);
+    if (list.focused() && key != " " && !chosen)
+        list.pickNext(key);
+}
+
+bool Grid::clearCell() {
+    settle(column(atColumn).width > 0);
+    if (!startEdit())
+        return false;
+    typed = "";
+    endEdit();
+    return true;
 }
 
 void Grid::endEdit() {
@@ -210,7 +242,7 @@ std::string_view Grid::keyDown(std::string_view key) {
         endEdit();
         return key;
     }
-    const bool settled = settle();
+    const bool settled = settle(column(atColumn).width > 0);
     if (key == "Enter" && enterKey && enterKey())
         return "";
     if (key == "Shift+Tab")
@@ -228,16 +260,34 @@ std::string_view Grid::keyDown(std::string_view key) {
     return "";
 }
 
-/// Keys need a cell that is there to be seen: without one the first visible cell becomes current. Tells whether it did.
-bool Grid::settle() {
-    const bool placed = currentRow() >= 0 && column(atColumn).width > 0;
-    for (int place = 0; !placed && rowCount() > 0 && place < columnCount(); ++place) {
-        if (column(place).width == 0)
-            continue;
-        moveTo(std::max(currentRow(), 0), place);
-        return true;
+/// The first column that can be typed into or has a button, else the first that can be seen; -1 when none can.
+int Grid::firstUsable() const {
+    int seen = -1;
+    for (int place = 0; place < columnCount(); ++place) {
+        if (reachable(place))
+            return place;
+        if (seen < 0 && column(place).width > 0)
+            seen = place;
     }
-    return false;
+    return seen;
+}
+
+int Grid::keyColumn() const {
+    return column(atColumn).width > 0 ? atColumn : firstUsable();
+}
+
+/// Keys need a cell: when there is no current row, or the current column is not `placed` well, the first cell that keys
+/// can use becomes current. Tells whether it did.
+bool Grid::settle(bool placed) {
+    const int usable = firstUsable();
+    if ((placed && currentRow() >= 0) || rowCount() == 0 || usable < 0)
+        return false;
+    moveTo(std::max(currentRow(), 0), usable);
+    return true;
+}
+
+void Grid::tabbedInto() {
+    settle(reachable(atColumn));
 }
 
 /// False when there is no further cell in that direction.
@@ -258,7 +308,14 @@ bool Grid::moveOn(bool forward) {
 
 void Grid::typeKey(char32_t key) {
     const int passed = form().keyPress(static_cast<int>(key));
-    if (passed == 0 || !startEdit())
+    if (passed == 0)
+        return;
+    if (ComboBox* list = listAt(atColumn)) {
+        std::string letter;
+        appendUtf8(letter, static_cast<char32_t>(passed));
+        return openList(*list, letter);
+    }
+    if (!startEdit())
         return;
     std::string text = typed.value_or("");
     appendUtf8(text, static_cast<char32_t>(passed));
@@ -325,15 +382,16 @@ bool openCell(Grid& grid) {
     return act(grid, [&] { return grid.openCell(); });
 }
 
+bool clearCell(Grid& grid) {
+    return act(grid, [&] { return grid.clearCell(); });
+}
+
 bool deleteRow(Grid& grid, int row) {
     return act(grid, [&] { return grid.deleteRow(row); });
 }
 
 bool editText(Grid& grid, std::string_view text) {
-    return act(grid, [&] {
-        grid.beginEdit(text);
-        return grid.editing();
-    });
+    return act(grid, [&] { return grid.beginEdit(text); });
 }
 
 }  // namespace user

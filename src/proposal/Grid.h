@@ -15,6 +15,8 @@
 
 namespace plandesk {
 
+class ComboBox;
+
 /// How one column of a grid stands on the screen. The columns of a grid are those of its table, by place.
 struct GridColumn {
     std::string_view caption;
@@ -48,6 +50,11 @@ public:
     int currentColumn() const { return atColumn; }
     /// Whether the user can type into the column.
     bool editable(int column) const;
+    /// The column that keys go to: the current one, or while that has no width the first that can be typed into or has
+    /// a button, or else the first that can be seen. -1 when none can.
+    int keyColumn() const;
+    /// The list whose items alone the user brings into the cells of the column; null for another column.
+    ComboBox* listAt(int column) const { return listOf ? listOf(column) : nullptr; }
 
     // The user's acts. Each is false where the cell is not there for it; nothing happens then.
 
@@ -59,13 +66,18 @@ public:
     bool pressButton(int row, int column);
     /// Brings up what the current cell has to offer: presses its button, or clicks a cell that has none.
     bool openCell();
+    /// Delete: empties the current cell as an edit does. A cell that a list or another editor fills keeps its value.
+    bool clearCell();
     /// Asks `beforeDelete`, deletes the row, and runs `afterDelete`; the row that came behind is current then, or the
     /// last one.
     bool deleteRow(int row);
-    /// A character starts or continues an edit, Backspace shortens what stands there, Esc gives it back. Tab ends the
-    /// edit and goes to the next cell that can be typed into or has a button, and from the last one out of the grid;
-    /// Enter does the same where `enterKey` leaves it. Space presses the button of a cell that cannot be typed into.
+    /// A character starts or continues an edit, Backspace shortens what stands there, Esc gives it back; in a cell that
+    /// takes the items of a list it opens the list and chooses there. Tab ends the edit and goes to the next cell that
+    /// can be typed into or has a button, and from the last one out of the grid; Enter does the same where `enterKey`
+    /// leaves it. Space presses the button of a cell that cannot be typed into.
     std::string_view keyDown(std::string_view key) override;
+    /// Goes on to the first cell of the row that can be typed into or has a button, unless the current one can.
+    void tabbedInto() override;
 
     /// Moves the current cell as code does or a key would: `rowColumnChange` when it was another.
     void moveTo(int row, int column);
@@ -74,8 +86,10 @@ public:
 
     bool editing() const { return typed.has_value(); }
     const std::string& editText() const { return *typed; }
-    /// Runs `editStart` first. Nothing happens where the current cell cannot be typed into.
-    void beginEdit(std::string_view text);
+    /// Runs `editStart` first. Where the cell takes the items of a list, the text is taken at once when it is one of
+    /// them, blanks around it and case aside. False, and nothing happens, where the current cell does not take the
+    /// text.
+    bool beginEdit(std::string_view text);
     /// Takes what was typed into the table as editCell does.
     void endEdit();
     /// Gives back the old value.
@@ -104,7 +118,8 @@ public:
     std::function<void(int column)> buttonClick;
     /// The user starts to type into a cell; false when the reaction brought up an editor that takes the keys instead.
     std::function<bool(int column)> editStart;
-    std::function<bool()> beforeDelete;  ///< false cancels
+    std::function<ComboBox*(int column)> listOf;  ///< what listAt gives
+    std::function<bool()> beforeDelete;           ///< false cancels
     std::function<void()> afterDelete;
     /// Enter on the current cell; true when the reaction did all, false to act as Tab.
     std::function<bool()> enterKey;
@@ -115,8 +130,11 @@ private:
     /// What the current column makes of a typed text. RuntimeError 13 or 6 for one that it cannot take.
     Value cellValue(const std::string& text) const;
     bool reachable(int column) const;
-    bool settle();
+    int firstUsable() const;
+    bool settle(bool placed);
     bool startEdit();
+    bool takeItem(ComboBox& list, std::string_view text);
+    void openList(ComboBox& list, std::string_view key);
     bool moveOn(bool forward);
     void typeKey(char32_t key);
     void eraseLast();
@@ -157,6 +175,7 @@ bool clickCell(Grid& grid, int row, int column);
 bool goToCell(Grid& grid, int row, int column);
 bool pressCellButton(Grid& grid, int row, int column);
 bool openCell(Grid& grid);
+bool clearCell(Grid& grid);
 bool deleteRow(Grid& grid, int row);
 /// A text editor changed the text of the current cell as a whole (a paste, a cut): no key filter sees it. Starts an
 /// edit where none is under way; false where the cell takes none.

@@ -1,4 +1,7 @@
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHeaderView>
+#include <QInputMethodEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -108,12 +111,12 @@ private slots:
     void aGridThatWasJustFilledShowsTheCellThatKeysWouldGoTo() {
         GridStage stage;
         QCOMPARE(stage.form().grid.currentColumn(), int(GridForm::No));
-        QCOMPARE(stage.shown().currentIndex(), stage.shown().model()->index(0, GridForm::Fixed));
+        QCOMPARE(stage.shown().currentIndex(), stage.shown().model()->index(0, GridForm::Name));
         stage.form().grid.setFocus();
         stage.settle();
-        QCOMPARE(frameColour(stage, 0, GridForm::Fixed), stage.shown().palette().color(QPalette::Highlight));
+        QCOMPARE(frameColour(stage, 0, GridForm::Name), stage.shown().palette().color(QPalette::Highlight));
         stage.press(Qt::Key_Right);
-        QVERIFY(stage.at(0, GridForm::Name));
+        QVERIFY(stage.at(0, GridForm::Area));
     }
 
     void theOtherMouseButtonsDoNothing() {
@@ -169,22 +172,122 @@ private slots:
         QVERIFY(stage.shown().buttonRect(stage.shown().model()->index(0, GridForm::Name)).isNull());
     }
 
-    void theDeleteKeyDeletesTheCurrentRowWhereTheFormLetsIt() {
+    void deleteEmptiesTheCellAndNothingElse() {
+        GridStage stage;
+        for (const int column : {GridForm::Name, GridForm::Area}) {
+            stage.click(1, column);
+            stage.press(Qt::Key_Delete);
+            QCOMPARE(stage.cell(1, column), ""s);
+            QCOMPARE(stage.form().updates.back(), column);
+        }
+        for (const int column : {GridForm::Fixed, GridForm::Done}) {
+            const std::string before = stage.cell(1, column);
+            stage.click(1, column);
+            stage.press(Qt::Key_Delete);
+            QCOMPARE(stage.cell(1, column), before);
+        }
+        QCOMPARE(stage.table->rowCount(), 3);
+        QCOMPARE(stage.text(1, GridForm::Name), QString());
+    }
+
+    void ctrlDeleteDeletesTheCurrentRowWhereTheFormLetsIt() {
         GridStage stage;
         bool sure = false;
         stage.form().grid.beforeDelete = [&] { return sure; };
         stage.click(1, GridForm::Name);
-        stage.press(Qt::Key_Delete);
+        stage.press(Qt::Key_Delete, Qt::ControlModifier);
         QCOMPARE(stage.table->rowCount(), 3);
         sure = true;
-        stage.press(Qt::Key_Delete);
+        stage.press(Qt::Key_Delete, Qt::ControlModifier);
         QCOMPARE(stage.table->rowCount(), 2);
         QCOMPARE(stage.shown().model()->rowCount(), 2);
         QVERIFY(stage.at(1, GridForm::Name));
         QCOMPARE(stage.text(1, GridForm::Name), QString("name 2"));
         stage.form().grid.allowDelete = false;
+        stage.press(Qt::Key_Delete, Qt::ControlModifier);
+        QCOMPARE(stage.table->rowCount(), 2);
+    }
+
+    void aRowTakenByItsHeadIsDeletedByDelete() {
+        GridStage stage;
+        const auto takeRow = [&](int row) {
+            QHeaderView& heads = *stage.shown().verticalHeader();
+            QTest::mouseClick(heads.viewport(), Qt::LeftButton, {}, {3, heads.sectionViewportPosition(row) + 5});
+            stage.settle();
+        };
+        QVERIFY(stage.shown().verticalHeader()->isVisible());
+        takeRow(1);
+        QCOMPARE(stage.form().grid.currentRow(), 1);
+        QVERIFY(stage.form().grid.focused());
+        QVERIFY(stage.form().clicks.empty());
+        QVERIFY(stage.shown().selectionModel()->isRowSelected(1, {}));
         stage.press(Qt::Key_Delete);
         QCOMPARE(stage.table->rowCount(), 2);
+        QVERIFY(!stage.shown().selectionModel()->hasSelection());
+        stage.press(Qt::Key_Delete);  // the row that came in its place was not taken
+        QCOMPARE(stage.table->rowCount(), 2);
+        for (const auto& leave : std::vector<std::function<void()>>{[&] { stage.press(Qt::Key_Right); },
+                                                                    [&] { stage.click(1, GridForm::Area); },
+                                                                    [&] { stage.press(Qt::Key_Tab); },
+                                                                    [&] {
+                                                                        stage.type("x");
+                                                                        stage.press(Qt::Key_Escape);
+                                                                    }}) {
+            takeRow(1);
+            QVERIFY(stage.shown().selectionModel()->hasSelection());
+            leave();
+            stage.settle();
+            QVERIFY(!stage.shown().selectionModel()->hasSelection());
+            stage.click(1, GridForm::Area);
+            stage.press(Qt::Key_Delete);
+            QCOMPARE(stage.table->rowCount(), 2);
+        }
+    }
+
+    void tabIntoTheGridLeadsToTheFirstCellThatCanBeTypedInto() {
+        GridStage stage;
+        stage.view.act(Qt::OtherFocusReason, [&] { stage.form().before.setFocus(); });
+        stage.settle();
+        stage.press(Qt::Key_Tab);
+        QVERIFY(stage.at(0, GridForm::Name));
+        stage.type("Patil");
+        stage.press(Qt::Key_Tab);
+        QCOMPARE(stage.cell(0, GridForm::Name), "Patil"s);
+        QVERIFY(stage.at(0, GridForm::Area));
+    }
+
+    void aCellOfAListTakesItsItemsAlone() {
+        GridStage stage;
+        GridForm& form = stage.form();
+        form.grid.listOf = [&](int column) { return column == GridForm::Kind ? &form.list : nullptr; };
+        stage.click(1, GridForm::Name);
+        stage.press(Qt::Key_Right);
+        stage.press(Qt::Key_Right);
+        stage.press(Qt::Key_Right);
+        QVERIFY(stage.at(1, GridForm::Kind));
+        for (const char* text : {"Other", "", "N"}) {
+            QGuiApplication::clipboard()->setText(text);
+            stage.press(Qt::Key_V, Qt::ControlModifier);
+            QVERIFY(!stage.line());
+            QCOMPARE(stage.cell(1, GridForm::Kind), "New"s);
+        }
+        stage.press(Qt::Key_Delete);
+        stage.press(Qt::Key_Backspace);
+        QCOMPARE(stage.cell(1, GridForm::Kind), "New"s);
+        QGuiApplication::clipboard()->setText(" old");
+        stage.press(Qt::Key_V, Qt::ControlModifier);
+        QCOMPARE(stage.cell(1, GridForm::Kind), "Old"s);
+        QVERIFY(!stage.shown().viewport()->acceptDrops());
+        QInputMethodEvent composed;
+        composed.setCommitString("N");
+        QCoreApplication::sendEvent(&stage.keyboard(), &composed);
+        stage.settle();
+        QVERIFY(form.list.focused());
+        QVERIFY(!stage.line());
+        QCOMPARE(stage.cell(1, GridForm::Kind), "Old"s);
+        stage.press(Qt::Key_N);
+        stage.press(Qt::Key_Tab);
+        QCOMPARE(stage.cell(1, GridForm::Kind), "New"s);
     }
 
     void aGridWithoutRowsTakesKeysAndClicks() {

@@ -74,7 +74,6 @@ private slots:
         press(Qt::Key_Tab);
         press(Qt::Key_Tab);
         QVERIFY(form.dgd712ExtractRelation.focused());
-        press(Qt::Key_Tab);
         type("North");
         press(Qt::Key_Return);
         type("3");
@@ -94,15 +93,72 @@ private slots:
         Records session;
         auto& form = session.form<frmPlotExtractRelation>();
         const Grid& plots = form.dgd712ExtractRelation;
+        const auto deleteRow = [&] {
+            QTest::keyClick(session.window.focusWidget(), Qt::Key_Delete, Qt::ControlModifier);
+            session.settle();
+        };
         session.click(plots, 0, plotName);
-        session.key(Qt::Key_Delete);
+        deleteRow();
         QCOMPARE(plots.rowCount(), 2);
         QCOMPARE(session.dialogs.take().size(), 1U);
         session.dialogs.answers = {"yes"};
-        session.key(Qt::Key_Delete);
+        deleteRow();
         QCOMPARE(plots.rowCount(), 1);
         QCOMPARE(session.table(plots).model()->rowCount(), 1);
         QCOMPARE(form.txtNoOfExtract712.text(), "1"s);
+    }
+
+    void deleteInACellOfThePrcPlotsEmptiesTheCell() {
+        Records session;
+        auto& form = session.form<frmPlotExtractRelation>();
+        session.key(Qt::Key_F3);
+        const Grid& plots = form.dgdPRCPlotRel;
+        session.click(plots, 0, plotName);
+        session.key(Qt::Key_Delete);
+        QCOMPARE(plots.rowCount(), 1);
+        QCOMPARE(plots.cellText(0, plotName), ""s);
+        QVERIFY(session.dialogs.take().empty());
+    }
+
+    void aLetterOnAnOwnersListCellChoosesAnItem() {
+        Records session;
+        enterExtracts(session);
+        session.settle();
+        auto& form = session.form<frmMain712>();
+        session.click(form.dgdOwner, 3, land::name);
+        session.key(Qt::Key_Tab);
+        QCOMPARE(form.dgdOwner.currentColumn(), ownerStatus);
+        session.type("S");
+        QVERIFY(form.cmbOwnSingingStatus.focused());
+        session.key(Qt::Key_Tab);
+        QCOMPARE(form.dgdOwner.cellText(3, ownerStatus), "Signed"s);
+        QCOMPARE(form.dgdOwner.currentColumn(), ownerEncumbrance);
+        session.type("b");
+        session.key(Qt::Key_Return);
+        QCOMPARE(form.dgdOwner.cellText(3, ownerEncumbrance), "Bank Loan"s);
+        session.click(form.dgdOwner, 2, land::name);
+        session.key(Qt::Key_Tab);
+        session.key(Qt::Key_Tab);
+        session.type("w");  // however soon after the letter before
+        session.key(Qt::Key_Tab);
+        QCOMPARE(form.dgdOwner.cellText(2, ownerEncumbrance), "Watan"s);
+    }
+
+    void theFirstTabInTheOwnersGridIsNotSwallowed() {
+        Records session;
+        enterExtracts(session);
+        session.settle();
+        auto& form = session.form<frmMain712>();
+        session.window.forms().act(Qt::OtherFocusReason, [&] { user::pick(form.cmbExtract, 0); });
+        session.click(form.dgdInfoOfExtract, 0, land::infoHolders);
+        session.key(Qt::Key_Tab);
+        QVERIFY(form.dgdOwner.focused());
+        QCOMPARE(form.dgdOwner.currentColumn(), 1);
+        session.key(Qt::Key_Tab);
+        QCOMPARE(form.dgdOwner.currentColumn(), land::name);
+        session.type("Rao");
+        session.key(Qt::Key_Return);
+        QCOMPARE(form.dgdOwner.cellText(0, land::name), "Rao"s);
     }
 
     void f3GoesToTheOtherTabFromWithinTheGrid() {

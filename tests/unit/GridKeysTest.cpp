@@ -272,6 +272,61 @@ TEST_F(GridKeys, TabAndEnterInAFloatingEditorGoOnInItsGrid) {
     EXPECT_EQ(grid.currentColumn(), 2);
 }
 
+TEST_F(GridKeys, TabIntoTheGridLeadsToTheFirstCellThatCanBeUsed) {
+    EXPECT_EQ(grid.currentColumn(), 0);
+    EXPECT_EQ(grid.keyColumn(), 2);
+    user::press(form.before, "Tab");
+    EXPECT_TRUE(grid.focused());
+    EXPECT_EQ(take(), Log{"cell 0 2"});
+    press({"Tab"});
+    EXPECT_EQ(grid.currentColumn(), 3);
+    user::clickCell(grid, 1, 1);
+    user::press(form.before, "Tab");
+    EXPECT_EQ(grid.currentRow(), 1);
+    EXPECT_EQ(grid.currentColumn(), 2);
+}
+
+TEST_F(GridKeys, TheFirstTabInAGridLeadsToTheFirstCellThatCanBeUsed) {
+    press({"Tab"});
+    EXPECT_EQ(grid.currentColumn(), 2);
+    press({"Tab"});
+    EXPECT_EQ(grid.currentColumn(), 3);
+}
+
+TEST_F(GridKeys, AGridWithoutAUsableCellIsPassedOver) {
+    static constexpr GridColumn hidden{.caption = "", .width = 0};
+    static constexpr GridColumn fixed{.caption = "Fixed", .locked = true};
+    static constexpr std::array<GridColumn, 6> locked = {hidden, fixed, fixed, hidden, hidden, hidden};
+    grid.setColumns(locked);
+    EXPECT_EQ(grid.keyColumn(), 1);
+    user::press(form.before, "Tab");
+    press({"Tab"});
+    EXPECT_TRUE(form.behind.focused());
+}
+
+TEST_F(GridKeys, DeleteEmptiesACellThatCanBeTypedInto) {
+    user::goToCell(grid, 0, 2);
+    take();
+    EXPECT_TRUE(user::clearCell(grid));
+    EXPECT_EQ(cell(0, 2), "");
+    EXPECT_EQ(take(), Log{"updated 2"});
+    EXPECT_EQ(grid.rowCount(), 2);
+    user::editCell(grid, 0, 3, "12.5");
+    EXPECT_TRUE(user::clearCell(grid));
+    EXPECT_TRUE(std::holds_alternative<std::monostate>(table->get("Area")));
+    for (const int column : {1, 5}) {
+        user::goToCell(grid, 1, column);
+        EXPECT_FALSE(user::clearCell(grid));
+    }
+    EXPECT_EQ(cell(1, 5), "No");
+    grid.editStart = [](int) { return false; };  // an editor of the form fills the cell
+    user::goToCell(grid, 1, 2);
+    EXPECT_FALSE(user::clearCell(grid));
+    EXPECT_EQ(cell(1, 2), "second");
+    grid.bind(nullptr);
+    EXPECT_FALSE(user::clearCell(grid));
+}
+
 TEST_F(GridKeys, TypingIntoAGridWithoutACurrentRowStartsInTheFirst) {
     table->setAbsolutePosition(2);
     table->moveNext();

@@ -29,10 +29,61 @@ TEST_F(Owners, AClickPlacesTheListAndLeavingItWritesTheChoice) {
     EXPECT_EQ(cell(1, 4), "For Govt. matter");
 }
 
-TEST_F(Owners, AListLeftWithoutAChoiceWritesNothing) {
+TEST_F(Owners, AListLeftWithoutAChoiceWritesItsEmptyText) {
     user::clickCell(form.dgdOwner, 0, 3);
     user::leave(form.cmbOwnSingingStatus);
+    EXPECT_EQ(cell(0, 3), "");
+}
+
+TEST_F(Owners, OnACellChangeBothListsTakeTheItemsOfTheNewRow) {
+    user::editCell(form.dgdOwner, 1, 3, "PAH Given");
+    user::editCell(form.dgdOwner, 1, 4, "WATAN");
+    user::editCell(form.dgdOwner, 2, 3, "Signed");
+    user::editCell(form.dgdOwner, 2, 4, "Easement");
+    user::goToCell(form.dgdOwner, 1, 2);
+    EXPECT_EQ(form.cmbOwnSingingStatus.listIndex(), 2);
+    EXPECT_EQ(form.cmbEncumber.listIndex(), 8);
+    EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
+    EXPECT_FALSE(form.cmbEncumber.visible());
+    user::goToCell(form.dgdOwner, 2, 2);
+    EXPECT_EQ(form.cmbOwnSingingStatus.listIndex(), 1);
+    EXPECT_EQ(form.cmbEncumber.listIndex(), 9);
+    EXPECT_EQ(form.cmbOwnType.listIndex(), -1);
+}
+
+TEST_F(Owners, ALetterOpensTheListAndChoosesByIt) {
+    user::goToCell(form.dgdOwner, 0, 3);
+    user::press(form.dgdOwner, "s");
+    EXPECT_TRUE(form.cmbOwnSingingStatus.focused());
+    EXPECT_FALSE(form.dgdOwner.editing());
+    user::press(form.cmbOwnSingingStatus, "Tab");
+    EXPECT_EQ(cell(0, 3), "Signed");
+    EXPECT_EQ(form.dgdOwner.currentColumn(), 4);
+    for (const char* key : {"F", "f", "F"}) {
+        user::press(form.dgdOwner.focused() ? static_cast<Control&>(form.dgdOwner) : form.cmbEncumber, key);
+    }
+    user::press(form.cmbEncumber, "Tab");
+    EXPECT_EQ(cell(0, 4), "fOR Govt EWS");
+    user::goToCell(form.dgdOwner, 1, 4);
+    user::press(form.dgdOwner, "x");
+    user::press(form.cmbEncumber, "Enter");
+    EXPECT_EQ(cell(1, 4), "----------- Select----------");
+}
+
+TEST_F(Owners, NothingButItemsIsPastedOrTypedIntoACellOfAList) {
+    user::goToCell(form.dgdOwner, 0, 3);
+    EXPECT_FALSE(user::editText(form.dgdOwner, "S"));
+    EXPECT_FALSE(user::editText(form.dgdOwner, ""));
+    user::press(form.dgdOwner, "Backspace");
+    EXPECT_FALSE(user::clearCell(form.dgdOwner));
+    EXPECT_FALSE(form.dgdOwner.editing());
     EXPECT_EQ(cell(0, 3), " -- Select -- ");
+    EXPECT_TRUE(user::editText(form.dgdOwner, " signed "));
+    EXPECT_EQ(cell(0, 3), "Signed");
+    EXPECT_EQ(form.cmbOwnSingingStatus.listIndex(), 1);
+    user::goToCell(form.dgdOwner, 0, 4);
+    EXPECT_TRUE(user::editText(form.dgdOwner, "BANK LOAN"));
+    EXPECT_EQ(cell(0, 4), "Bank Loan");
 }
 
 TEST_F(Owners, AChoiceLeftOverFromAnotherRowIsWritten) {
@@ -45,15 +96,14 @@ TEST_F(Owners, AChoiceLeftOverFromAnotherRowIsWritten) {
     EXPECT_EQ(cell(1, 3), "Signed");
 }
 
-TEST_F(Owners, AMoveOfTheCellPlacesTheListButDoesNotOpenIt) {
+TEST_F(Owners, AMoveOfTheCellPlacesTheListWithoutTheFocus) {
     user::clickCell(form.dgdOwner, 0, 3);
     user::pick(form.cmbOwnSingingStatus, 1);
     user::goToCell(form.dgdOwner, 1, 3);
     EXPECT_TRUE(form.cmbOwnSingingStatus.visible());
     EXPECT_TRUE(form.dgdOwner.focused());
     EXPECT_EQ(form.dgdOwner.floating(form.cmbOwnSingingStatus).row, 1);
-    user::focus(form.cmbOwnSingingStatus);
-    user::leave(form.cmbOwnSingingStatus);
+    user::focus(form.txtRemark);
     EXPECT_EQ(cell(1, 3), " -- Select -- ");
     user::goToCell(form.dgdOwner, 1, 4);
     EXPECT_FALSE(form.cmbOwnSingingStatus.visible());
