@@ -31,6 +31,8 @@ public:
 
     /// Shows what the control holds now. Lets no exception out.
     void sync();
+    /// What the control shows has changed without a word of the control: another form changed its table.
+    virtual bool stale() const { return false; }
     /// Whether code shows the control, wherever it stands.
     bool shownByCode() const { return subject && subject->visible(); }
     /// Whether the page shows the place of the control at all; a hidden group or row takes all of its controls away.

@@ -111,6 +111,15 @@ void FormView::syncAll() {
         view->sync();
 }
 
+void FormView::syncStale() {
+    Views stale;
+    for (const auto& [control, view] : drawn)
+        if (view->stale())
+            stale.push_back(view);
+    for (ControlView* view : stale)
+        view->sync();
+}
+
 void FormView::detach() {
     form = nullptr;
     for (const auto& [control, view] : drawn)

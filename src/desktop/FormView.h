@@ -25,6 +25,8 @@ public:
     void sync(Control& control);
     /// Shows everything anew that was drawn.
     void syncAll();
+    /// Shows anew what others changed behind the controls' backs.
+    void syncStale();
     /// The form is gone; this is only a dead picture now.
     void detach();
 

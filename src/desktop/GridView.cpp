@@ -65,6 +65,8 @@ private:
     Grid& grid() const { return static_cast<Grid&>(*subject); }
     bool filterEvent(QObject* watched, QEvent* event) override;
     void syncContent() override;
+    bool stale() const override { return subject && changesOf(grid()) != shownChanges; }
+    static std::uint64_t changesOf(const Grid& grid) { return grid.table() ? grid.table()->changes() : 0; }
     QPalette::ColorRole backRole() const override { return QPalette::Base; }
     void syncLine();
     void placeParts();
@@ -92,6 +94,7 @@ private:
     std::map<const Control*, ControlView*> editors;
     int lines = usualLines;
     int markedRow = -1;  ///< the one that was taken as a whole
+    std::uint64_t shownChanges = 0;  ///< of the table, when it was shown last
 };
 
 GridView::GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& screen, const ViewMaker& maker)
@@ -114,6 +117,7 @@ GridView::GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& scr
 }
 
 void GridView::syncContent() {
+    shownChanges = changesOf(grid());
     model.look();
     table.fitColumns();
     const QModelIndex current = model.current();

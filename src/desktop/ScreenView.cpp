@@ -111,6 +111,8 @@ void ScreenView::showControls() {
     for (Control* control : std::exchange(changedControls, {}))
         if (FormView* view = viewOf(control->form()))
             view->sync(*control);
+    for (const auto& [form, window] : windows)
+        window->view().syncStale();
 }
 
 bool ScreenView::onTurnedPage(const Control& control) const {
