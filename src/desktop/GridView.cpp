@@ -93,7 +93,7 @@ private:
     const ViewMaker& maker;
     std::map<const Control*, ControlView*> editors;
     int lines = usualLines;
-    int markedRow = -1;  ///< the one that was taken as a whole
+    int markedRow = -1;              ///< the one that was taken as a whole
     std::uint64_t shownChanges = 0;  ///< of the table, when it was shown last
 };
 

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QToolButton>
 #include <QWheelEvent>
 #include <array>
 
@@ -219,7 +220,15 @@ QPoint RandomHands::placeIn(const QWidget& widget) {
     return {dice.below(widget.width() + 1), dice.below(widget.height() + 1)};
 }
 
+/// The button of a menu bar that is too narrow waits for a choice that nobody makes.
+static bool waitsForChoice(const QWidget& widget) {
+    const auto* button = qobject_cast<const QToolButton*>(&widget);
+    return button && button->popupMode() == QToolButton::InstantPopup;
+}
+
 void RandomHands::click(QWidget& widget) {
+    if (waitsForChoice(widget))
+        return;
     const QPoint place = placeIn(widget);
     const Qt::MouseButton button = dice.of(mouseButtons);
     const Qt::KeyboardModifiers held = dice.oneIn(10) ? Qt::ShiftModifier : Qt::NoModifier;
@@ -231,6 +240,8 @@ void RandomHands::click(QWidget& widget) {
 }
 
 void RandomHands::drag(QWidget& widget) {
+    if (waitsForChoice(widget))
+        return;
     QPointer<QWidget> there = &widget;
     QTest::mousePress(&widget, Qt::LeftButton, {}, placeIn(widget));
     for (int move = dice.below(4); move > 0 && there; --move)
