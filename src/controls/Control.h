@@ -54,6 +54,8 @@ public:
     Colour backColor() const { return back; }
     void setBackColor(Colour colour);
 
+    /// Whether a control like this takes the focus at all.
+    virtual bool kindTakesFocus() const { return true; }
     /// Whether a user can move the focus here: the kind takes it and the control is visible and enabled.
     bool takesFocus() const { return kindTakesFocus() && isVisible && isEnabled; }
     bool focused() const;
@@ -83,7 +85,6 @@ protected:
     static bool fires(std::string_view event, std::string_view name, const std::function<void()>& reaction);
     /// Tells the views that something of the control is to be painted anew.
     void touched();
-    virtual bool kindTakesFocus() const { return true; }
 
 private:
     Form& owner;

@@ -4,6 +4,8 @@
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
+#include "controls/Form.h"
+#include "controls/Screen.h"
 
 namespace plandesk {
 
@@ -125,6 +127,40 @@ void OptionButton::turnOn() {
     touched();
 }
 
+std::vector<OptionButton*> OptionButton::others() const {
+    std::vector<OptionButton*> round = siblings.members;
+    std::ranges::rotate(round, std::ranges::find(round, this) + 1);
+    std::erase_if(round, [](const OptionButton* option) { return !option->takesFocus(); });
+    return round;
+}
+
+std::string_view OptionButton::keyDown(std::string_view key) {
+    const bool back = key == "Left" || key == "Up";
+    const bool forwards = key == "Right" || key == "Down";
+    const bool letter = codePoints(key).size() == 1;
+    if (!back && !forwards && !letter)
+        return key;
+    const std::vector<OptionButton*> round = others();
+    const auto begins = [key](const OptionButton* option) {
+        return equalsIgnoringCase(trim(option->caption()).substr(0, key.size()), key);
+    };
+    // The last of the round is this option itself.
+    const auto wanted = letter             ? std::ranges::find_if(round, begins)
+                        : round.size() < 2 ? round.end()
+                        : forwards         ? round.begin()
+                                           : round.end() - 2;
+    if (wanted != round.end() && form().screen().moveFocus(**wanted) && letter && (*wanted)->takesFocus())
+        (*wanted)->choose();
+    return "";
+}
+
+OptionButton* OptionGroup::stop() const {
+    const auto there = [](const OptionButton* option) { return option->takesFocus(); };
+    const auto on = std::ranges::find_if(members, [&](auto* option) { return option->value() && there(option); });
+    const auto stop = on != members.end() ? on : std::ranges::find_if(members, there);
+    return stop == members.end() ? nullptr : *stop;
+}
+
 CheckBox::CheckBox(Form& form, std::string_view name, std::string_view caption, int index)
     : Captioned(form, ControlKind::CheckBox, name, index, caption) {}
 
@@ -244,6 +280,7 @@ void TabStrip::setTab(int tab) {
     if (tab == current)
         return;
     current = tab;
+    form().pageTurned();
     touched();
     runReaction(click);
 }

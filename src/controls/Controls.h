@@ -73,12 +73,11 @@ private:
     Colour fore = black;
 };
 
+/// A label that can be clicked is a link.
 class Label : public Captioned {
 public:
     Label(Form& form, std::string_view name, std::string_view caption, int index = noIndex);
-
-protected:
-    bool kindTakesFocus() const override { return false; }
+    bool kindTakesFocus() const override { return static_cast<bool>(click); }
 };
 
 class Button : public Captioned {
@@ -90,17 +89,12 @@ public:
 class Image : public Captioned {
 public:
     Image(Form& form, std::string_view name, int index = noIndex);
-
-protected:
-    bool kindTakesFocus() const override { return false; }
 };
 
 /// A frame with its title. What stands inside it is told by the layout.
 class Frame : public Captioned {
 public:
     Frame(Form& form, std::string_view name, std::string_view caption, int index = noIndex);
-
-protected:
     bool kindTakesFocus() const override { return false; }
 };
 
@@ -116,6 +110,9 @@ class OptionButton;
 /// The options of which at most one is on.
 struct OptionGroup {
     std::vector<OptionButton*> members;
+
+    /// The member where Tab stops: the one that is on, or else the first that takes the focus; null when none does.
+    OptionButton* stop() const;
 };
 
 class OptionButton : public Captioned {
@@ -128,9 +125,15 @@ public:
     void setValue(bool value);
     /// The user: as setValue(true), but `click` runs also when it was on already.
     void choose();
+    /// An arrow ("Left", "Up", "Right", "Down") moves the focus round the group and chooses nothing; a character
+    /// chooses the next member whose caption begins with it, in any case.
+    std::string_view keyDown(std::string_view key) override;
+    const OptionGroup& group() const { return siblings; }
 
 private:
     void turnOn();
+    /// The members that take the focus, from the one behind this on round the group to this.
+    std::vector<OptionButton*> others() const;
 
     OptionGroup& siblings;
     bool on = false;

@@ -105,34 +105,67 @@ void Form::appendNamed(std::vector<Control*>& order, std::string_view keys) cons
             order.push_back(control);
 }
 
+void Form::functionKey(std::string_view key) {
+    if (key == "Esc")
+        pressClose();
+}
+
 std::vector<Control*> Form::tabOrder() const {
     std::vector<Control*> order;
+    appendGroups(order, layout().top);
+    const std::vector<Control*> page = pageOrder();
+    order.insert(order.end(), page.begin(), page.end());
+    appendNamed(order, layout().buttons);
     appendNamed(order, layout().head);
-    const std::vector<Control*> behind = tabOrderBehindHead();
-    order.insert(order.end(), behind.begin(), behind.end());
     return order;
 }
 
-std::vector<Control*> Form::tabOrderBehindHead() const {
+std::vector<Control*> Form::pageOrder() const {
     std::vector<Control*> order;
-    const auto appendGroups = [&](std::span<const LayoutGroup> groups) {
-        for (const LayoutGroup& group : groups) {
-            const Control* frame = findKey(group.frame);
-            if (frame && !frame->visible())
-                continue;
-            for (const LayoutRow& row : group.rows)
-                appendNamed(order, row.controls);
-        }
-    };
     const Layout& sheet = layout();
-    appendGroups(sheet.top);
     const auto* strip = dynamic_cast<const TabStrip*>(findKey(sheet.tabs));
-    for (std::size_t page = 0; page < sheet.pages.size(); ++page) {
+    for (std::size_t page = 0; page < sheet.pages.size(); ++page)
         if (!strip || static_cast<int>(page) == strip->tab())
-            appendGroups(sheet.pages[page].groups);
-    }
-    appendNamed(order, sheet.buttons);
+            appendGroups(order, sheet.pages[page].groups);
     return order;
+}
+
+void Form::appendGroups(std::vector<Control*>& order, std::span<const LayoutGroup> groups) const {
+    for (const LayoutGroup& group : groups) {
+        const Control* frame = findKey(group.frame);
+        if (frame && !frame->visible())
+            continue;
+        for (const LayoutRow& row : group.rows)
+            appendNamed(order, row.controls);
+    }
+}
+
+namespace {
+
+bool answers(const Control* control) {
+    return control->takesFocus() && control->kind() != ControlKind::Button && control->kind() != ControlKind::Label &&
+           control->kind() != ControlKind::Image;
+}
+
+Control* firstOf(const std::vector<Control*>& order) {
+    auto first = std::ranges::find_if(order, answers);
+    if (first == order.end())
+        first = std::ranges::find_if(order, &Control::takesFocus);
+    if (first == order.end())
+        return nullptr;
+    const auto* option = dynamic_cast<const OptionButton*>(*first);
+    return option ? option->group().stop() : *first;
+}
+
+}  // namespace
+
+Control* Form::firstAnswer() const {
+    return firstOf(tabOrder());
+}
+
+Control* Form::firstOfPage() const {
+    Control* first = firstOf(pageOrder());
+    return first ? first : firstAnswer();
 }
 
 void Form::procedure(std::string_view procedureName, std::function<void()> body) {

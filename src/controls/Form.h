@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "controls/Control.h"
@@ -50,8 +51,9 @@ public:
     virtual bool enterActsAsTab() const { return false; }
     /// Runs on Enter before the focus moves.
     virtual void enterPressed() {}
-    /// F2, F3, Esc with the focus anywhere on the form; `key` is the name that the driver uses.
-    virtual void functionKey(std::string_view /*key*/) {}
+    /// F2, F3, Esc with the focus anywhere on the form; `key` is the name that the driver uses. Esc closes the form as
+    /// its close button does, unless the form makes something else of it.
+    virtual void functionKey(std::string_view key);
     /// The close button of its frame: hides, so that the form keeps its values.
     virtual void pressClose() { hide(); }
 
@@ -92,10 +94,18 @@ public:
                 action(*wanted);
     }
 
-    /// The controls that Tab walks on the page now shown, in screen order, able to take the focus or not.
+    /// The controls that Tab walks, able to take the focus or not: the rows above the tabs and the page now shown, in
+    /// screen order, the row of buttons below, and the row of links and buttons at the head.
     std::vector<Control*> tabOrder() const;
-    /// The same without the row above the pages: the page now shown, then the row below.
-    std::vector<Control*> tabOrderBehindHead() const;
+    /// The part of them that stands on the page.
+    std::vector<Control*> pageOrder() const;
+    /// Where the form begins: its first answer, or what else can take the focus; null when nothing can.
+    Control* firstAnswer() const;
+    /// The same of the page now shown.
+    Control* firstOfPage() const;
+    void pageTurned() { turned = true; }
+    /// Whether the page was turned and the focus has not moved on this form since. True once for each turn.
+    bool takePageTurn() { return std::exchange(turned, false); }
     /// The control that has, or last had, the focus on this form; null before the first.
     Control* activeControl() const { return active; }
 
@@ -116,7 +126,7 @@ protected:
 private:
     friend class Control;
     friend class Screen;
-
+    void appendGroups(std::vector<Control*>& order, std::span<const LayoutGroup> groups) const;
     void appendNamed(std::vector<Control*>& order, std::string_view keys) const;
 
     Screen& desk;
@@ -129,6 +139,7 @@ private:
     std::pmr::unordered_map<ControlKey, Control*, ControlKey::Hash> byKey{&keyMemory};
     std::map<std::string, std::function<void()>, IgnoringCase> procedures;
     Control* active = nullptr;
+    bool turned = false;
 };
 
 }  // namespace plandesk

@@ -47,7 +47,11 @@ struct Layout {
     std::span<const std::string_view> tabCaptions{};  ///< empty: see `firstTabNumber`
     std::span<const LayoutPage> pages{};
     std::string_view buttons{};  ///< names of the controls in the row below the pages
-    bool centred = false;        ///< the form stands in the middle of the desk
+    /// Names of the buttons that lead to the page before the first one and to the page behind the last one, when those
+    /// pages stand on other forms.
+    std::string_view pageBefore{};
+    std::string_view pageBehind{};
+    bool centred = false;  ///< the form stands in the middle of the desk
     /// Tabs without captions of their own are called by their frame, or by numbers that run on from this one.
     int firstTabNumber = 1;
 };

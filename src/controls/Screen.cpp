@@ -104,8 +104,10 @@ void Screen::runFocusMove(Control* old, Control* to) {
     const bool oldHadFocus = focusArrived;
     focus = to;
     focusArrived = false;
-    if (to)
+    if (to) {
         to->form().active = to;
+        to->form().turned = false;
+    }
     // A control that a reaction took the focus from before it arrived has not lost anything.
     if (old && oldHadFocus)
         event([this, old] {

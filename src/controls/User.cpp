@@ -77,16 +77,35 @@ void eraseLast(TextBox& box) {
     box.edit(content.substr(0, content.size() - lastCharacterSize(content)));
 }
 
+const OptionGroup* groupOf(const Control* control) {
+    const auto* option = dynamic_cast<const OptionButton*>(control);
+    return option ? &option->group() : nullptr;
+}
+
+/// Tab stops once in a group of options, and leaves it with its next step.
+bool stopsTab(const Control& control, const Control* present) {
+    const OptionGroup* group = groupOf(&control);
+    return control.takesFocus() && (!group || (group->stop() == &control && group != groupOf(present)));
+}
+
 void focusNext(Form& form, bool backwards = false) {
     const std::vector<Control*> order = form.tabOrder();
     if (order.empty())
         return;
-    const auto present = std::ranges::find(order, form.activeControl());
+    const Control* active = form.activeControl();
+    const std::vector<Control*> page = form.pageOrder();
+    // From a button that has turned the page one wants to go on with what it shows.
+    if (form.takePageTurn() && !backwards && std::ranges::find(page, active) == page.end()) {
+        if (Control* first = form.firstOfPage(); first && form.screen().moveFocus(*first))
+            first->tabbedInto();
+        return;
+    }
+    const auto present = std::ranges::find(order, active);
     const std::size_t beforeFirst = backwards ? 0 : order.size() - 1;
     const std::size_t start = present == order.end() ? beforeFirst : static_cast<std::size_t>(present - order.begin());
     for (std::size_t step = 1; step <= order.size(); ++step) {
         Control& next = *order[(start + (backwards ? order.size() - step : step)) % order.size()];
-        if (!next.takesFocus())
+        if (!stopsTab(next, active))
             continue;
         if (form.screen().moveFocus(next))
             next.tabbedInto();
@@ -103,9 +122,16 @@ void activate(Control& control) {
         captioned->press();
 }
 
+/// A link, icon or frame: no part of the system's own round of the focus, so Enter has no other meaning there.
+bool isPicture(ControlKind kind) {
+    return kind == ControlKind::Label || kind == ControlKind::Image || kind == ControlKind::Frame;
+}
+
 void enter(Form& form, Control* control) {
     auto* box = dynamic_cast<TextBox*>(control);
-    if (form.enterActsAsTab()) {
+    if (control && isPicture(control->kind())) {
+        activate(*control);
+    } else if (form.enterActsAsTab()) {
         form.enterPressed();
         focusNext(form);
     } else if (dynamic_cast<Button*>(control)) {
@@ -177,8 +203,7 @@ bool pressForm(Form& form, std::string_view key) {
 }
 
 bool click(Control& control) {
-    const ControlKind kind = control.kind();
-    if (kind != ControlKind::Label && kind != ControlKind::Image && kind != ControlKind::Frame)
+    if (!isPicture(control.kind()))
         return onFocused(control, [&] { activate(control); });
     const bool there = control.visible() && control.enabled() && inReach(control.form());
     if (there)
@@ -196,6 +221,18 @@ bool pickDate(DatePicker& picker, Date date) {
 
 bool showTab(TabStrip& strip, int tab) {
     return onFocused(strip, [&] { strip.setTab(tab); });
+}
+
+bool turnPage(Form& form, bool forwards) {
+    const Layout& sheet = form.layout();
+    auto* strip = dynamic_cast<TabStrip*>(form.findKey(sheet.tabs));
+    if (!strip)
+        return false;
+    const int wanted = strip->tab() + (forwards ? 1 : -1);
+    if (wanted >= 0 && wanted < strip->count())
+        return showTab(*strip, wanted);
+    Control* button = form.findKey(forwards ? sheet.pageBehind : sheet.pageBefore);
+    return button && click(*button);
 }
 
 bool leave(Control& control) {

@@ -33,8 +33,8 @@ bool edit(TextBox& box, std::string_view text);
 /// What the form's and the box's filters make of one key; 0 when they swallow it.
 int filteredKey(const TextBox& box, int key);
 
-/// One key with that control focused: "Enter", "Tab", "Shift+Tab", "Esc", "Space", "Backspace", "F2", "F3" or one
-/// character, which goes to the end of what a box holds.
+/// One key with that control focused: "Enter", "Tab", "Shift+Tab", "Esc", "Space", "Backspace", "F2", "F3", "Left",
+/// "Right", "Up", "Down" or one character, which goes to the end of what a box holds.
 bool press(Control& control, std::string_view key);
 /// The same with whatever control of the form has the focus.
 bool pressForm(Form& form, std::string_view key);
@@ -45,6 +45,9 @@ bool click(Control& control);
 bool pick(ComboBox& list, int position);
 bool pickDate(DatePicker& picker, Date date);
 bool showTab(TabStrip& strip, int tab);
+/// Turns to the next page of a form with pages, or to the one before: by the tab, and beyond the first or last one by
+/// the button that leads on to the next form. False when there is no further page.
+bool turnPage(Form& form, bool forwards);
 /// Moves the focus from the control to nowhere.
 bool leave(Control& control);
 /// Moves the focus to the control; false also when a leave check held it elsewhere.

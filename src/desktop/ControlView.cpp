@@ -17,7 +17,8 @@ namespace plandesk::desktop {
 
 namespace {
 
-bool kindTakesFocus(ControlKind kind) {
+/// Links and icons are clicked without taking the focus; the keyboard alone moves it there.
+bool clickMovesFocus(ControlKind kind) {
     return kind != ControlKind::Label && kind != ControlKind::Image && kind != ControlKind::Frame;
 }
 
@@ -31,7 +32,7 @@ ControlView::ControlView(Control& control, QWidget& widget, ScreenView& screen)
         watch(*part);
     watch(picture);
     // The mouse gives no focus by itself: the system's leave checks decide first whether it may move.
-    if (kindTakesFocus(control.kind()))
+    if (control.kindTakesFocus())
         picture.setFocusPolicy(Qt::TabFocus);
 }
 
@@ -113,9 +114,9 @@ bool ControlView::filterEvent(QObject* watched, QEvent* event) {
     case QEvent::ToolTip:
         return watched == &picture && showTip(*static_cast<QHelpEvent*>(event));
     case QEvent::Wheel:
-        if (picture.hasFocus() || !changesByWheel())
+        if (!changesByWheel())
             return false;
-        // Turning the wheel over an answer scrolls the page and leaves the answer alone.
+        // Turning the wheel scrolls the page and leaves the answer alone, also the one that has the focus.
         event->ignore();
         return true;
     default:
@@ -124,7 +125,7 @@ bool ControlView::filterEvent(QObject* watched, QEvent* event) {
 }
 
 bool ControlView::mousePressed() {
-    if (!kindTakesFocus(subject->kind()) || subject->focused())
+    if (!clickMovesFocus(subject->kind()) || subject->focused())
         return false;
     act([this] { user::focus(*subject); }, Qt::MouseFocusReason);
     return !subject || !subject->focused();

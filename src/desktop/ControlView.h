@@ -56,6 +56,8 @@ public:
     virtual void showLines(int /*lines*/) {}
     /// The part of it that takes the keyboard now.
     virtual QWidget& keyboardPart() { return picture; }
+    /// The focus came to it otherwise than by the mouse: what it holds is selected, so that typing replaces it.
+    virtual void selectContent() {}
 
     /// Hands on to filterEvent, and lets no exception out into the toolkit.
     bool eventFilter(QObject* watched, QEvent* event) final;
@@ -68,6 +70,7 @@ protected:
     virtual Colour foreColor() const { return black; }
     /// Its text when that does not fit in; a tip shows it then.
     virtual QString hiddenText() const { return {}; }
+    /// Whether the toolkit would change the control by the wheel.
     virtual bool changesByWheel() const { return false; }
     /// Handles a key of the system's own. True when the widget is not to see it.
     virtual bool systemKey(const QKeyEvent& event);
@@ -95,6 +98,9 @@ private:
     std::optional<Colours> shown;
     bool onPage = true;
 };
+
+/// Captions of more characters than this may be broken over lines.
+constexpr int leastCaptionCharacters = 24;
 
 /// Makes the view of a control of the form by its name in the layout; null when the form has no such control.
 using ViewMaker = std::function<ControlView*(std::string_view key, QWidget& parent)>;

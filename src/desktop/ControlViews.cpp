@@ -1,8 +1,6 @@
 #include <QCheckBox>
 #include <QDateEdit>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
@@ -17,6 +15,8 @@
 #include "desktop/ControlView.h"
 #include "desktop/FormNames.h"
 #include "desktop/GridView.h"
+#include "desktop/Keys.h"
+#include "desktop/LabelViews.h"
 #include "desktop/ListBox.h"
 #include "desktop/LongText.h"
 #include "desktop/Pictures.h"
@@ -28,9 +28,6 @@
 namespace plandesk::desktop {
 
 namespace {
-
-/// Captions of more characters than this may be broken over lines.
-constexpr int leastCharacters = 24;
 
 /// Breaks a caption at blanks so that no line is wider than `width`, where its words allow.
 QString brokenOverLines(const QString& caption, const QFontMetrics& metrics, int width) {
@@ -58,7 +55,7 @@ public:
 
     int naturalWidth(bool /*alone*/) const override { return markWidth() + textWidth(words()); }
     int leastWidth() const override {
-        return std::min(naturalWidth(false), leastCharacters * button.fontMetrics().averageCharWidth());
+        return std::min(naturalWidth(false), leastCaptionCharacters * button.fontMetrics().averageCharWidth());
     }
     QSize sizeFor(int available, bool /*alone*/) override {
         button.setText(brokenOverLines(words(), button.fontMetrics(), available - markWidth()));
@@ -74,14 +71,6 @@ private:
     QString words() const { return subject ? beginning(static_cast<Captioned&>(*subject).caption()) : button.text(); }
     int markWidth() const { return button.sizeHint().width() - textWidth(button.text()); }
     int textWidth(const QString& text) const { return button.fontMetrics().size(Qt::TextShowMnemonic, text).width(); }
-    bool systemKey(const QKeyEvent& event) override {
-        const bool back = event.key() == Qt::Key_Left || event.key() == Qt::Key_Up;
-        if (back || event.key() == Qt::Key_Right || event.key() == Qt::Key_Down) {
-            act([&] { user::press(*subject, back ? "Shift+Tab" : "Tab"); }, Qt::TabFocusReason);
-            return true;
-        }
-        return ControlView::systemKey(event);
-    }
     void syncContent() override {
         const QString caption = words();
         if (caption != shownCaption)
@@ -100,6 +89,14 @@ public:
     }
 
 private:
+    bool systemKey(const QKeyEvent& event) override {
+        const QString typed = typedText(event);
+        const std::string key(typed.trimmed().isEmpty() ? arrowKeyName(event) : fromQt(typed));
+        if (key.empty())
+            return ControlView::systemKey(event);
+        act([&] { user::press(*subject, key); }, Qt::TabFocusReason);
+        return true;
+    }
     bool checked() const override { return static_cast<OptionButton&>(*subject).value(); }
 };
 
@@ -108,6 +105,14 @@ public:
     using ToggleView::ToggleView;
 
 private:
+    bool systemKey(const QKeyEvent& event) override {
+        const std::string_view arrow = arrowKeyName(event);
+        if (arrow.empty())
+            return ControlView::systemKey(event);
+        const bool back = arrow == "Left" || arrow == "Up";
+        act([&] { user::press(*subject, back ? "Shift+Tab" : "Tab"); }, Qt::TabFocusReason);
+        return true;
+    }
     bool checked() const override { return static_cast<CheckBox&>(*subject).value() != 0; }
 };
 
@@ -175,47 +180,6 @@ private:
     }
 
     QDateEdit& edit;
-};
-
-class LabelView : public ControlView {
-public:
-    LabelView(Captioned& captioned, QLabel& label, ScreenView& screen)
-        : ControlView(captioned, label, screen), label(label) {
-        label.setTextFormat(Qt::PlainText);
-        if (captioned.click) {
-            label.setCursor(Qt::PointingHandCursor);
-            QFont font = label.font();
-            font.setUnderline(true);
-            label.setFont(font);
-        }
-    }
-
-    bool filterEvent(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::MouseButtonRelease) {
-            const auto& mouse = *static_cast<QMouseEvent*>(event);
-            if (mouse.button() == Qt::LeftButton && label.rect().contains(mouse.pos()))
-                act([this] { user::click(*subject); });
-        }
-        return ControlView::filterEvent(watched, event);
-    }
-    void name(const QString&, const QString&) override {}
-    QSize sizeFor(int available, bool /*alone*/) override {
-        const bool breaks = naturalWidth(false) > available;
-        if (breaks != label.wordWrap())
-            label.setWordWrap(breaks);
-        return breaks ? QSize(available, label.heightForWidth(available)) : label.sizeHint();
-    }
-    int naturalWidth(bool /*alone*/) const override { return label.fontMetrics().size(0, label.text()).width() + 1; }
-    int leastWidth() const override {
-        return std::min(naturalWidth(false), leastCharacters * label.fontMetrics().averageCharWidth());
-    }
-
-private:
-    Colour foreColor() const override { return static_cast<Captioned&>(*subject).foreColor(); }
-    /// Blanks around a caption would only push it out of its column.
-    void syncContent() override { label.setText(beginning(trim(static_cast<Captioned&>(*subject).caption()))); }
-
-    QLabel& label;
 };
 
 class ButtonView : public ControlView {
@@ -335,7 +299,7 @@ ControlView& makeControlView(Control& control, QWidget& parent, ScreenView& scre
         return *new RichTextView(static_cast<RichText&>(control), *new QTextBrowser(&parent), screen);
     case ControlKind::Label:
     case ControlKind::Frame:
-        return *new LabelView(static_cast<Captioned&>(control), *new QLabel(&parent), screen);
+        return makeLabelView(static_cast<Captioned&>(control), parent, screen);
     case ControlKind::Grid:
         return makeGridView(static_cast<Grid&>(control), parent, screen, maker);
     }

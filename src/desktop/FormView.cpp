@@ -76,6 +76,7 @@ void FormView::showChosenPage() {
         if (pages[number].area)
             pages[number].area->setVisible(number == current);
     arrange();
+    pages[current].area->verticalScrollBar()->setValue(0);
 }
 
 void FormView::drawPage(std::size_t number) {
@@ -143,19 +144,36 @@ bool FormView::onTurnedPage(const Control& control) const {
            });
 }
 
-void FormView::takeKeys(const Control* control, Qt::FocusReason reason) {
+void FormView::takeKeys(const Control* control, Qt::FocusReason reason, bool arrived) {
     ControlView* view = control && control->takesFocus() ? viewOf(*control) : nullptr;
     QWidget* widget = view ? &view->keyboardPart() : nullptr;
     if (!widget || !widget->isVisibleTo(this))
         widget = this;
-    if (window()->focusWidget() == widget)
+    const bool keyboardMoves = window()->focusWidget() != widget;
+    if (keyboardMoves)
+        widget->setFocus(reason);
+    // What the mouse has under it neither moves nor loses the place where it was clicked.
+    if (reason == Qt::MouseFocusReason)
         return;
-    widget->setFocus(reason);
+    if (arrived && view)
+        view->selectContent();
+    if (arrived || keyboardMoves)
+        scrollTo(*widget);
+}
+
+void FormView::scrollTo(const QWidget& widget) {
     const Page& page = pages[current];
-    if (!page.view->isAncestorOf(widget))
+    if (!page.view->isAncestorOf(&widget))
         return;
     QCoreApplication::sendPostedEvents(page.view, QEvent::LayoutRequest);
-    page.area->ensureWidgetVisible(widget, gap(), 3 * gap());
+    const auto show = [&](const QRect& part) {
+        QScrollBar& bar = *page.area->verticalScrollBar();
+        // Where not all of it fits, its beginning is what one wants to see.
+        bar.setValue(std::max(bar.value(), part.bottom() + gap() - page.area->viewport()->height()));
+        bar.setValue(std::min(bar.value(), part.top() - gap()));
+    };
+    show(page.view->rowOf(widget));
+    show(QRect(widget.mapTo(page.view, QPoint(0, 0)), widget.size()));
 }
 
 int FormView::gap() const {

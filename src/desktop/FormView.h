@@ -32,8 +32,9 @@ public:
 
     /// Whether the control stands on a page that was turned away.
     bool onTurnedPage(const Control& control) const;
-    /// Gives the keyboard to the control, or to the form when the control is not there.
-    void takeKeys(const Control* control, Qt::FocusReason reason);
+    /// Gives the keyboard to the control, or to the form when the control is not there. `arrived`: the focus has just
+    /// come to the control; its row is brought into sight then, and its text selected, unless the mouse brought it.
+    void takeKeys(const Control* control, Qt::FocusReason reason, bool arrived);
     /// Widget of the control; null when it has not been drawn.
     QWidget* widgetOf(const Control& control) const;
     /// Size that shows the page without scrolling, as far as `limit` allows.
@@ -63,6 +64,7 @@ private:
     /// Puts the views into lines of that width; tells where the last one ends.
     int placeViews(const Views& views, int margin, int width, int top) const;
     void arrange();
+    void scrollTo(const QWidget& widget);
     int gap() const;
 
     Form* form;

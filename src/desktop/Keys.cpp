@@ -35,6 +35,22 @@ std::string_view systemKeyName(const QKeyEvent& event) {
     return {};
 }
 
+std::string_view arrowKeyName(const QKeyEvent& event) {
+    const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    switch (plain ? event.key() : 0) {
+    case Qt::Key_Left:
+        return "Left";
+    case Qt::Key_Right:
+        return "Right";
+    case Qt::Key_Up:
+        return "Up";
+    case Qt::Key_Down:
+        return "Down";
+    default:
+        return {};
+    }
+}
+
 QString typedText(const QKeyEvent& event) {
     const QString text = event.text();
     if (text.isEmpty() || event.modifiers() & Qt::ControlModifier)

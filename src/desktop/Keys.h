@@ -11,6 +11,10 @@ namespace plandesk::desktop {
 /// "Esc". Empty for any other key.
 std::string_view systemKeyName(const QKeyEvent& event);
 
+/// Name of an arrow key without modifiers, as user::press takes it: "Left", "Right", "Up" or "Down". Empty for any
+/// other key.
+std::string_view arrowKeyName(const QKeyEvent& event);
+
 /// The characters that an editor would put in for this key; empty when the key types nothing.
 QString typedText(const QKeyEvent& event);
 

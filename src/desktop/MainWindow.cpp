@@ -136,7 +136,9 @@ void MainWindow::makeShortcuts() {
         if (ChildWindow* window = front ? screenView.windowOf(*front) : nullptr)
             what(*window);
     };
-    on(Qt::CTRL | Qt::Key_F4, [this] { closeFrontForm(); });
+    onKeys(Qt::CTRL | Qt::Key_F4, [](Form& front) { user::close(front); });
+    onKeys(Qt::CTRL | Qt::Key_PageDown, [](Form& front) { user::turnPage(front, true); });
+    onKeys(Qt::CTRL | Qt::Key_PageUp, [](Form& front) { user::turnPage(front, false); });
     on(Qt::CTRL | Qt::Key_Tab, [this] { openForms->step(false); });
     on(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { openForms->step(true); });
     // The keys that windows within a window have always had.
@@ -165,13 +167,6 @@ void MainWindow::showState() {
     for (const auto& [name, action] : entries)
         action->setEnabled(shell.available(name));
     openForms->sync();
-}
-
-void MainWindow::closeFrontForm() {
-    screenView.act(Qt::OtherFocusReason, [this] {
-        if (Form* front = proposal.screen.frontForm())
-            user::close(*front);
-    });
 }
 
 void MainWindow::showEvent(QShowEvent* event) {
@@ -206,6 +201,22 @@ void MainWindow::closeIfAsked() {
         closeAsked = false;
         close();
     }
+}
+
+void MainWindow::onKeys(QKeyCombination keys, const std::function<void(Form& front)>& reaction) {
+    const auto* shortcut = new QShortcut(QKeySequence(keys), this);
+    connect(shortcut, &QShortcut::activated, this, [this, reaction] {
+        screenView.act(Qt::OtherFocusReason, [&] {
+            if (Form* front = proposal.screen.frontForm())
+                reaction(*front);
+        });
+    });
+}
+
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowUnblocked)
+        screenView.dialogClosed();
+    return QMainWindow::event(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

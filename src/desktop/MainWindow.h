@@ -2,6 +2,7 @@
 
 #include <QMainWindow>
 #include <QTimer>
+#include <functional>
 #include <map>
 #include <string>
 
@@ -12,6 +13,7 @@
 class QAction;
 
 namespace plandesk {
+class Form;
 class Proposal;
 class mdiInterface;
 }  // namespace plandesk
@@ -35,6 +37,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -45,8 +48,9 @@ private:
     void showState();
     /// Makes the window fit the screen together with its frame, while it has the size that it was given at first.
     void fitScreen();
-    void closeFrontForm();
     void closeIfAsked();
+    /// Lets the keys act on the front form.
+    void onKeys(QKeyCombination keys, const std::function<void(Form& front)>& reaction);
 
     Proposal& proposal;
     mdiInterface& shell;

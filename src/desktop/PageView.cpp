@@ -187,6 +187,32 @@ void PageView::setShown(const Row& row) {
         row.options->setVisible(row.shown);
 }
 
+std::vector<QWidget*> PageView::parts(const Row& row) {
+    std::vector<QWidget*> parts;
+    for (QLabel* label : {row.item, row.question, row.mark, row.unit})
+        if (label)
+            parts.push_back(label);
+    for (const ControlView* view : row.controls)
+        parts.push_back(&view->widget());
+    return parts;
+}
+
+QRect PageView::rowOf(const QWidget& widget) const {
+    for (const Group& group : groups) {
+        for (const Row& row : group.rows) {
+            const std::vector<QWidget*> all = parts(row);
+            if (std::ranges::none_of(all, [&](auto* part) { return part == &widget || part->isAncestorOf(&widget); }))
+                continue;
+            QRect place;
+            for (const QWidget* part : all)
+                if (!part->isHidden())
+                    place |= part->geometry();
+            return place;
+        }
+    }
+    return {widget.mapTo(this, QPoint(0, 0)), widget.size()};
+}
+
 bool PageView::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::FontChange)
         if (lastWidth > 0)

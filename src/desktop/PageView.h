@@ -28,6 +28,8 @@ public:
     /// Distance of the contents from both sides of a page of that width: beyond readable lines they stand in the
     /// middle.
     int marginFor(int width);
+    /// Place of the row in which the widget stands, its question included; that of the widget alone outside of rows.
+    QRect rowOf(const QWidget& widget) const;
 
 protected:
     bool event(QEvent* event) override;
@@ -81,6 +83,8 @@ private:
     void updateShown();
     /// A label of the form whose caption is a question here; null when there is none.
     const Control* liveQuestion() const;
+    /// Every widget of the row, shown or not.
+    static std::vector<QWidget*> parts(const Row& row);
     static void setShown(const Row& row);
 
     Columns columnsFor(int width) const;

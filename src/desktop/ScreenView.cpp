@@ -120,26 +120,23 @@ bool ScreenView::onTurnedPage(const Control& control) const {
     return view && view->onTurnedPage(control);
 }
 
-Control* ScreenView::keyboardTarget(const Form& form) const {
-    if (Control* last = form.activeControl(); last && last->takesFocus() && !onTurnedPage(*last))
-        return last;
-    const std::vector<Control*> order = form.tabOrder();
-    const auto firstOf = [&order](const auto& condition) {
-        const auto found = std::ranges::find_if(order, condition);
-        return found == order.end() ? nullptr : *found;
-    };
-    // One wants to begin with the answers, not with the buttons above them.
-    Control* answer =
-        firstOf([](const Control* control) { return control->takesFocus() && control->kind() != ControlKind::Button; });
-    return answer ? answer : firstOf([](const Control* control) { return control->takesFocus(); });
+Control* ScreenView::keyboardTarget(const Form& form, bool atFirst) const {
+    Control* last = form.activeControl();
+    if (atFirst || (last && onTurnedPage(*last)))
+        return form.firstOfPage();
+    return last && last->takesFocus() ? last : form.firstAnswer();
 }
 
 bool ScreenView::giveFocus() {
-    const Form* front = screen.frontForm();
+    Form* front = screen.frontForm();
     const Control* focused = screen.focused();
-    if (underWay > 0 || !front || (focused && !onTurnedPage(*focused)))
+    if (underWay > 0 || !front)
         return false;
-    Control* target = keyboardTarget(*front);
+    // A page that was turned by a button or a tab starts in its first answer.
+    const bool turned = front->takePageTurn() && (!focused || &focused->form() == front);
+    if (focused && !turned && !onTurnedPage(*focused))
+        return false;
+    Control* target = keyboardTarget(*front, turned);
     if (!target || target == focused)
         return false;
     const Counted running(underWay);
@@ -155,7 +152,7 @@ void ScreenView::placeKeyboard() {
     const Control* focused = screen.focused();
     const Form* form = focused ? &focused->form() : screen.frontForm();
     if (FormView* view = form ? viewOf(*form) : nullptr)
-        view->takeKeys(focused, reason);
+        view->takeKeys(focused, reason, std::exchange(arrived, false));
     reason = Qt::OtherFocusReason;
 }
 
@@ -170,6 +167,12 @@ void ScreenView::fitWindows() {
     for (const auto& [form, window] : windows)
         if (!window->isHidden())
             window->fit();
+}
+
+void ScreenView::dialogClosed() {
+    reason = Qt::OtherFocusReason;
+    focusMoved = arrived = true;
+    later();
 }
 
 void ScreenView::focusStrayed() {
@@ -231,7 +234,7 @@ void ScreenView::formUnloading(Form& form) {
 }
 
 void ScreenView::focusChanged(Control* /*focused*/) {
-    focusMoved = true;
+    focusMoved = arrived = true;
     later();
 }
 

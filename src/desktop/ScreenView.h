@@ -57,6 +57,8 @@ public:
     void fillDesk(bool on);
     /// The desk has another size.
     void fitWindows();
+    /// A box or file dialog has closed and given the keyboard back.
+    void dialogClosed();
     /// The toolkit moved the focus by itself; it is put back in a moment.
     void focusStrayed();
 
@@ -81,8 +83,9 @@ private:
     void showControls();
     /// Whether the control stands on a page of its form that is not the one shown.
     bool onTurnedPage(const Control& control) const;
-    /// The control of the form that keys go to when none has the focus; null when none can take it.
-    Control* keyboardTarget(const Form& form) const;
+    /// The control of the form that keys go to when none has the focus; null when none can take it. `atFirst`: the
+    /// first answer, wherever the focus was last.
+    Control* keyboardTarget(const Form& form, bool atFirst) const;
     /// Gives the focus to the front form when nothing has it. True when that ran reactions.
     bool giveFocus();
     void placeKeyboard();
@@ -96,7 +99,8 @@ private:
     std::unordered_set<Control*> changedControls;
     bool deskFilled = false;
     bool mainChanged = false;
-    bool focusMoved = false;
+    bool focusMoved = false;  ///< the keyboard may not be where the focus is
+    bool arrived = false;     ///< the focused control has not had the keyboard since it got the focus
     bool posted = false;
     int underWay = 0;
     std::set<std::string> failures;  ///< since the user's last act

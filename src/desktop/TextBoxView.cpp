@@ -49,7 +49,8 @@ protected:
         return screen.guarded([&] { return subject ? user::filteredKey(box(), key) : 0; });
     }
     void hand(const std::string& text) {
-        act([&] { user::edit(box(), text); });
+        // A text dropped in from elsewhere brings the focus, and is not to be selected with all the rest.
+        act([&] { user::edit(box(), text); }, box().focused() ? Qt::OtherFocusReason : Qt::MouseFocusReason);
     }
     /// Whether the user can edit the text here. A longer one shows its beginning; Backspace takes a character from its
     /// end, and Delete with all of it selected empties the box.
@@ -91,6 +92,7 @@ public:
         }
         return TextBoxView::filterEvent(watched, event);
     }
+    void selectContent() override { line.selectAll(); }
     int naturalWidth(bool alone) const override {
         return (alone && !takesNumber() ? textWidth : numberWidth) * characterWidth();
     }

@@ -171,6 +171,7 @@ constexpr Layout sheet{
     .tabs = "SectFourDet",
     .pages = pages,
     .buttons = "cmdPrevious cmdNext cmdSave cmdSaveALL Command5 Command9 cmdClose",
+    .pageBefore = "cmdFormNo(3)",
     .firstTabNumber = 5,
 };
 

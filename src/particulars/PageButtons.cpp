@@ -1,7 +1,5 @@
 #include "particulars/PageButtons.h"
 
-#include <algorithm>
-
 #include "controls/Form.h"
 #include "proposal/Proposal.h"
 
@@ -34,10 +32,8 @@ void PageButtons::paint(const Proposal& proposal, int current) {
 }
 
 void focusFirstOfPage(const Form& form) {
-    const std::vector<Control*> order = form.tabOrderBehindHead();
-    const auto first = std::ranges::find_if(order, &Control::takesFocus);
-    if (first != order.end())
-        (*first)->setFocus();
+    if (Control* first = form.firstOfPage())
+        first->setFocus();
 }
 
 }  // namespace plandesk

@@ -169,6 +169,7 @@ constexpr Layout sheet{
     .tabs = "PropTab",
     .pages = pages,
     .buttons = "cmdPrevious cmdNext cmdSave cmdSaveALL cmdPrint Command1 cmdClose",
+    .pageBehind = "cmdFormNo(4)",
 };
 
 }  // namespace

@@ -146,7 +146,7 @@ private:
     std::vector<Floating> editors;
 };
 
-/// A control that floats over the cells of a grid: Tab and Enter go on to the grid's next cell.
+/// A control that floats over the cells of a grid: Tab and Enter go on to the grid's next cell, Esc back to the grid.
 template <class Kind>
 class GridEditor : public Kind {
 public:
@@ -154,11 +154,11 @@ public:
     GridEditor(Grid& grid, std::string_view name, More... more) : Kind(grid.form(), name, more...), grid(grid) {}
 
     std::string_view keyDown(std::string_view key) override {
-        if (key != "Tab" && key != "Shift+Tab" && key != "Enter")
+        if (key != "Tab" && key != "Shift+Tab" && key != "Enter" && key != "Esc")
             return Kind::keyDown(key);
         if (!grid.takesFocus())
             return key;
-        return grid.form().screen().moveFocus(grid) ? grid.keyDown(key) : "";
+        return grid.form().screen().moveFocus(grid) && key != "Esc" ? grid.keyDown(key) : "";
     }
 
 private:

@@ -315,9 +315,11 @@ TEST_F(ControlsTest, ControlIsWhatCodeSetWhateverHidesItOnScreen) {
 TEST_F(ControlsTest, FocusIsTakenByVisibleEnabledControlsOfTheKindsThatTakeIt) {
     EXPECT_TRUE(form.txtFirst.takesFocus());
     EXPECT_TRUE(form.cmdSave.takesFocus());
-    EXPECT_FALSE(form.lblLink.takesFocus());
-    EXPECT_FALSE(form.imgIcon.takesFocus());
+    EXPECT_TRUE(form.lblLink.takesFocus()) << "a label that can be clicked is a link";
+    EXPECT_TRUE(form.imgIcon.takesFocus());
     EXPECT_FALSE(form.fraMore.takesFocus());
+    form.lblLink.click = nullptr;
+    EXPECT_FALSE(form.lblLink.takesFocus());
     form.txtFirst.setVisible(false);
     EXPECT_FALSE(form.txtFirst.takesFocus());
     form.cmdSave.setEnabled(false);

@@ -86,15 +86,39 @@ TEST_F(FormTest, WalkOfOneKindSeesThatKindAlone) {
     EXPECT_EQ(keys, (Log{"txtFirst", "txtSecond", "txtPage(0)", "txtPage(1)", "txtNotes"}));
 }
 
-TEST_F(FormTest, TabOrderIsScreenOrderOfThePageShown) {
-    EXPECT_EQ(tabOrder(), (Log{"lblLink", "txtFirst", "txtSecond", "Opt1Y", "Opt1N", "chkDone", "cboZone", "cmdSave"}));
+TEST_F(FormTest, TabOrderIsThePageShownInScreenOrderThenTheButtonsBelowAndTheLinksAbove) {
+    EXPECT_EQ(tabOrder(), (Log{"txtFirst", "txtSecond", "Opt1Y", "Opt1N", "chkDone", "cboZone", "cmdSave", "lblLink"}));
     form.strip.setTab(1);
-    EXPECT_EQ(tabOrder(), (Log{"lblLink", "txtPage(0)", "txtPage(1)", "IsNarrow(1)", "IsNarrow(0)", "cmdSave"}));
+    EXPECT_EQ(tabOrder(), (Log{"txtPage(0)", "txtPage(1)", "IsNarrow(1)", "IsNarrow(0)", "cmdSave", "lblLink"}));
 }
 
 TEST_F(FormTest, TabOrderLeavesOutWhatAHiddenFrameHides) {
     form.fraMore.setVisible(false);
-    EXPECT_EQ(tabOrder(), (Log{"lblLink", "txtFirst", "txtSecond", "Opt1Y", "Opt1N", "cmdSave"}));
+    EXPECT_EQ(tabOrder(), (Log{"txtFirst", "txtSecond", "Opt1Y", "Opt1N", "cmdSave", "lblLink"}));
+}
+
+TEST_F(FormTest, APageBeginsWithItsFirstAnswerAndWithoutOneWithItsFirstControl) {
+    EXPECT_EQ(form.firstAnswer(), &form.txtFirst);
+    form.txtFirst.setEnabled(false);
+    form.txtSecond.setVisible(false);
+    EXPECT_EQ(form.firstAnswer(), &form.Opt1.yes);
+    form.Opt1.no.setValue(true);
+    EXPECT_EQ(form.firstAnswer(), &form.Opt1.no) << "a group begins with the option that is on";
+    form.forEach<Control>([&](Control& control) { control.setEnabled(&control == &form.lblLink); });
+    EXPECT_EQ(form.firstAnswer(), &form.lblLink);
+    form.lblLink.setEnabled(false);
+    EXPECT_EQ(form.firstAnswer(), nullptr);
+}
+
+TEST_F(FormTest, EscClosesAFormThatMakesNothingElseOfIt) {
+    struct Plain : Form {
+        using Form::Form;
+    } plain{screen, "frmPlain", "Plain"};
+    plain.show();
+    plain.functionKey("F2");
+    EXPECT_TRUE(plain.visible());
+    plain.functionKey("Esc");
+    EXPECT_FALSE(plain.visible());
 }
 
 TEST_F(FormTest, FormWithoutALayoutHasNoTabOrder) {

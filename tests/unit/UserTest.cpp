@@ -279,25 +279,27 @@ TEST_F(UserTest, FunctionKeysAndEscGoToTheForm) {
     EXPECT_EQ(form.txtFirst.text(), "");
 }
 
-TEST_F(UserTest, TabMovesOnInScreenOrderAndRoundAtTheEnd) {
+TEST_F(UserTest, TabMovesOnWithOneStopInAGroupOfOptionsAndRoundAtTheEnd) {
     user::focus(form.txtFirst);
     Log reached;
     for (int step = 0; step < 8; ++step) {
         user::pressForm(form, "Tab");
         reached.push_back(form.activeControl()->key());
     }
-    EXPECT_EQ(reached, (Log{"txtSecond", "Opt1Y", "Opt1N", "chkDone", "cboZone", "cmdSave", "txtFirst", "txtSecond"}));
+    EXPECT_EQ(reached,
+              (Log{"txtSecond", "Opt1Y", "chkDone", "cboZone", "cmdSave", "lblLink", "txtFirst", "txtSecond"}));
 }
 
 TEST_F(UserTest, ShiftTabMovesBackInScreenOrderAndRoundAtTheStart) {
     EXPECT_TRUE(user::press(form.txtSecond, "Shift+Tab"));
     EXPECT_TRUE(form.txtFirst.focused());
     form.cmdSave.setEnabled(false);
+    form.lblLink.setVisible(false);
     user::pressForm(form, "Shift+Tab");
     EXPECT_TRUE(form.cboZone.focused());
     test::SampleForm other{screen, "frmOther"};
     user::pressForm(other, "Shift+Tab");
-    EXPECT_TRUE(other.cmdSave.focused()) << "without a focus it goes to the last control";
+    EXPECT_TRUE(other.lblLink.focused()) << "without a focus it goes to the last control";
 }
 
 TEST_F(UserTest, TabPassesOverHiddenAndDisabledControls) {
@@ -340,7 +342,109 @@ TEST_F(UserTest, EnterActsAsTabAfterTheFormsOwnReaction) {
     EXPECT_TRUE(user::press(form.txtFirst, "Enter"));
     EXPECT_EQ(log, (Log{"txtFirst GotFocus", "Enter", "txtFirst LostFocus", "txtSecond GotFocus"}));
     EXPECT_TRUE(user::press(form.cmdSave, "Enter"));
-    EXPECT_TRUE(form.txtFirst.focused()) << "a button is left, not pressed";
+    EXPECT_TRUE(form.lblLink.focused()) << "a button is left, not pressed";
+}
+
+TEST_F(UserTest, EnterAndSpacePressALinkAndAnIcon) {
+    for (const bool enterIsTab : {true, false}) {
+        form.tabOnEnter = enterIsTab;
+        for (Control* control : {static_cast<Control*>(&form.lblLink), static_cast<Control*>(&form.imgIcon)}) {
+            user::focus(*control);
+            log.clear();
+            user::press(*control, "Enter");
+            user::press(*control, "Space");
+            EXPECT_EQ(log, (Log{control->key() + " Click", control->key() + " Click"}));
+            EXPECT_TRUE(control->focused());
+        }
+    }
+}
+
+TEST_F(UserTest, AClickOnALinkLeavesTheFocusWhereItIs) {
+    user::focus(form.txtFirst);
+    user::click(form.lblLink);
+    EXPECT_TRUE(form.txtFirst.focused());
+}
+
+TEST_F(UserTest, TabStopsAtTheOptionThatIsOnAndLeavesTheGroupFromAnyOfThem) {
+    form.Opt1.no.setValue(true);
+    user::press(form.txtSecond, "Tab");
+    EXPECT_TRUE(form.Opt1.no.focused());
+    user::press(form.Opt1.no, "Shift+Tab");
+    EXPECT_TRUE(form.txtSecond.focused());
+    user::press(form.chkDone, "Shift+Tab");
+    EXPECT_TRUE(form.Opt1.no.focused());
+    form.Opt1.clear();
+    user::press(form.Opt1.no, "Shift+Tab");
+    EXPECT_TRUE(form.txtSecond.focused()) << "the other option is no stop of its own";
+    user::press(form.Opt1.yes, "Tab");
+    EXPECT_TRUE(form.chkDone.focused());
+}
+
+TEST_F(UserTest, TheFirstLetterChoosesAnOptionOfTheGroupWithTheEventsOfAClick) {
+    user::focus(form.Opt1.yes);
+    log.clear();
+    user::press(form.Opt1.yes, "n");
+    EXPECT_TRUE(form.Opt1.no.value());
+    EXPECT_EQ(log, (Log{"Opt1Y LostFocus", "Opt1N GotFocus", "Opt1N Click"}));
+    log.clear();
+    user::press(form.Opt1.no, "N");
+    EXPECT_EQ(log, Log{"Opt1N Click"}) << "as a click on the option that is on";
+    user::press(form.Opt1.no, "Y");
+    EXPECT_TRUE(form.Opt1.yes.value());
+    EXPECT_TRUE(form.Opt1.yes.focused());
+    user::press(form.Opt1.yes, "x");
+    EXPECT_EQ(form.Opt1.code(), 1);
+}
+
+TEST_F(UserTest, ALetterOfSeveralOptionsChoosesOneAfterTheOther) {
+    form.Opt1.yes.setCaption("Structural");
+    form.Opt1.no.setCaption(" surveyor");
+    user::press(form.Opt1.yes, "s");
+    EXPECT_TRUE(form.Opt1.no.value());
+    user::press(form.Opt1.no, "s");
+    EXPECT_TRUE(form.Opt1.yes.value());
+    form.Opt1.yes.setEnabled(false);
+    user::press(form.Opt1.no, "s");
+    EXPECT_TRUE(form.Opt1.no.value()) << "an option that is closed is not chosen";
+}
+
+TEST_F(UserTest, ArrowsMoveRoundAGroupAndChooseNothing) {
+    form.Opt1.yes.setValue(true);
+    user::focus(form.Opt1.yes);
+    for (const std::string_view key : {"Right", "Right", "Left", "Down", "Up"})
+        user::pressForm(form, key);
+    EXPECT_TRUE(form.Opt1.no.focused());
+    EXPECT_TRUE(form.Opt1.yes.value());
+    EXPECT_EQ(std::ranges::count(log, "Opt1N Click"), 0);
+    form.Opt1.yes.setEnabled(false);
+    user::press(form.Opt1.no, "Left");
+    EXPECT_TRUE(form.Opt1.no.focused());
+}
+
+TEST_F(UserTest, TabFromTheButtonThatTurnedThePageGoesToItsFirstAnswer) {
+    form.cmdSave.click = [&] { form.strip.setTab(1); };
+    user::click(form.cmdSave);
+    user::pressForm(form, "Tab");
+    EXPECT_TRUE(form.txtPage0.focused());
+    user::press(form.cmdSave, "Tab");
+    EXPECT_TRUE(form.lblLink.focused()) << "once the page has been entered, the order holds";
+    user::showTab(form.strip, 0);
+    user::pressForm(form, "Shift+Tab");
+    EXPECT_TRUE(form.lblLink.focused()) << "backwards the order holds";
+}
+
+TEST_F(UserTest, PagesAreTurnedByTheirTabsAndBeyondThemByTheButtonsThatLeadOn) {
+    EXPECT_TRUE(user::turnPage(form, true));
+    EXPECT_EQ(form.strip.tab(), 1);
+    EXPECT_FALSE(user::turnPage(form, true)) << "there is no button that leads on";
+    EXPECT_TRUE(user::turnPage(form, false));
+    EXPECT_EQ(form.strip.tab(), 0);
+    form.txtFirst.leaveCheck = [] { return false; };
+    user::focus(form.txtFirst);
+    user::turnPage(form, true);
+    EXPECT_EQ(form.strip.tab(), 0) << "a leave check holds the page too";
+    Form bare{screen, "frmBare", "Bare"};
+    EXPECT_FALSE(user::turnPage(bare, true));
 }
 
 TEST_F(UserTest, EnterWhereItIsNoTabPressesAButtonAndEndsALine) {

@@ -181,7 +181,7 @@ TEST_F(frmAnnexureATest, EnterOnAnotherKindOfControlRewritesNothing) {
     first().OptArch.setFocus();
     user::press(first().OptArch, "Enter");
     EXPECT_EQ(first().txtTitle.text(), "as typed");
-    EXPECT_TRUE(first().OptLE.focused());
+    EXPECT_TRUE(first().txtArchNm.focused());
 }
 
 TEST_F(frmAnnexureATest, EnterRewritesAlsoWhereTheFocusIsHeld) {

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QLabel>
+
+namespace plandesk::desktop {
+
+/// A label that is a link: underlined, with a hand over it, and with the style's mark around it while it has the focus.
+class LinkLabel : public QLabel {
+public:
+    explicit LinkLabel(QWidget& parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace plandesk::desktop
