@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QString>
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -13,23 +14,34 @@
 #include "driver/Script.h"
 #include "proposal/Grid.h"
 #include "proposal/Proposal.h"
+#include "session/KeyCount.h"
 
 namespace plandesk::session {
 
 /// Does what a script of the driver's grammar says, on the real window with keyboard and mouse. It knows the commands
 /// that are a user's doing, `answer` and `expect-message`, and takes a picture of the screen at each
-/// comment "# screenshot NAME". With `keyboardAlone` it never touches the mouse.
+/// comment "# screenshot NAME".
 class Robot {
 public:
-    Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFolder, bool keyboardAlone);
+    enum class Manner {
+        MouseAndKeyboard,
+        KeyboardAlone,  ///< it never touches the mouse
+        Hurried         ///< nor presses a key that is not needed: its keys are counted, and too many are a failure
+    };
+    Robot(Proposal& proposal, desktop::MainWindow& window, QString pictureFolder, Manner manner);
 
     /// Runs the script; throws at the first thing that does not come about.
     void run(std::istream& script);
+    /// How many keys a hurried run took; throws when the last answer took too many.
+    std::string summary();
 
 private:
     using Words = std::vector<driver::Word>;
 
     void activate();
+    void key(const QString& name);
+    void count(const Words& words);
+    static bool isPageButton(const Words& words);
     void runLine(const std::string& line);
     void menu(const Words& words);
     void type(const Words& words);
@@ -37,6 +49,8 @@ private:
     void pressForm(const Words& words);
     void click(const Words& words);
     void pick(const Words& words);
+    void tab(const Words& words);
+    void turnPage(bool forwards, const std::function<bool()>& turned);
     void date(const Words& words);
     void cell(const Words& words);
     void openCell(const Words& words);
@@ -55,6 +69,8 @@ private:
     /// Makes the cell that the words name the current one, with the arrow keys or a click.
     Grid& goToCell(const Words& words);
     void menuByKeyboard(QAction& entry);
+    void pickByLetter(ComboBox& list, const std::string& item);
+    void tabToCell(const Grid& grid, int row, int column);
     void pickByKeyboard(ComboBox& list, const driver::Word& item);
     /// Answers the boxes and file dialogs that are open or about to open.
     void attendDialogs();
@@ -64,6 +80,8 @@ private:
     desktop::MainWindow& window;
     QString pictures;
     bool keyboardAlone;
+    bool hurried;
+    KeyCount keyCount;
     std::deque<std::string> answers;
     std::deque<Message> messages;
     std::map<std::string, void (Robot::*)(const Words&), std::less<>> commands;

@@ -1,12 +1,13 @@
-// plandesk-session SCRIPT PICTURES [keyboard]: shows the whole program on the present display, lets a robot work it
-// with keyboard and mouse, or by keyboard alone, as the driver's script SCRIPT says, and leaves pictures in the folder
-// PICTURES.
+// plandesk-session SCRIPT PICTURES [keyboard|hurried]: shows the whole program on the present display, lets a robot
+// work it with keyboard and mouse, by keyboard alone, or so with counted keys, as the driver's script SCRIPT says, and
+// leaves pictures in the folder PICTURES.
 
 #include <QApplication>
 #include <QThread>
 #include <clocale>
 #include <fstream>
 #include <iostream>
+#include <map>
 #include <memory>
 #include <string_view>
 
@@ -19,9 +20,12 @@
 
 int main(int argc, char* argv[]) {
     using namespace plandesk;
-    const bool keyboardAlone = argc == 4 && std::string_view(argv[3]) == "keyboard";
-    if (argc != 3 && !keyboardAlone) {
-        std::cerr << "usage: plandesk-session SCRIPT PICTURES [keyboard]\n";
+    using Manner = session::Robot::Manner;
+    const std::map<std::string_view, Manner> manners = {
+        {"", Manner::MouseAndKeyboard}, {"keyboard", Manner::KeyboardAlone}, {"hurried", Manner::Hurried}};
+    const auto manner = manners.find(argc == 4 ? argv[3] : "");
+    if ((argc != 3 && argc != 4) || manner == manners.end()) {
+        std::cerr << "usage: plandesk-session SCRIPT PICTURES [keyboard|hurried]\n";
         return 2;
     }
     QApplication application(argc, argv);
@@ -46,7 +50,10 @@ int main(int argc, char* argv[]) {
             std::ifstream script(argv[1]);
             if (!script)
                 throw std::runtime_error(std::string("cannot read ") + argv[1]);
-            session::Robot(proposal, window, argv[2], keyboardAlone).run(script);
+            session::Robot robot(proposal, window, argv[2], manner->second);
+            robot.run(script);
+            if (const std::string summary = robot.summary(); !summary.empty())
+                std::cout << summary << '\n';
         } catch (const std::exception& error) {
             std::cerr << error.what() << '\n';
             status = 1;
