@@ -69,7 +69,7 @@ void frmDRCTransfer::load() {
 
 void frmDRCTransfer::functionKey(std::string_view key) {
     if (key != "F3")
-        return;
+        return Form::functionKey(key);
     const bool onFirst = SSTab1.tab() == 0;
     SSTab1.setTab(onFirst ? 1 : 0);
     if (onFirst)

@@ -70,7 +70,7 @@ void frmIssuOfDRc::load() {
 
 void frmIssuOfDRc::functionKey(std::string_view key) {
     if (key != "F3")
-        return;
+        return Form::functionKey(key);
     const bool onFirst = SSTab1.tab() == 0;
     SSTab1.setTab(onFirst ? 1 : 0);
     (onFirst ? txtTotalAreaOfLand : txtCSCTSNo).setFocus();

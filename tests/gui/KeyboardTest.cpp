@@ -172,10 +172,11 @@ private slots:
             auto& form = session.form<AnnexureACont>();
             form.show();
             session.settle();
-            QWidget& link = session.widget(form.lblPayment);
+            const Control& payment = *form.findKey("lblPayment");
+            QWidget& link = session.widget(payment);
             const QImage before = link.grab().toImage();
             session.key(Qt::Key_Backtab, Qt::ShiftModifier);
-            QVERIFY(session.hasKeyboard(form.lblPayment));
+            QVERIFY(session.hasKeyboard(payment));
             QVERIFY(link.grab().toImage() != before);
             session.key(key);
             QVERIFY(session.form<frmPayDetail>().front());

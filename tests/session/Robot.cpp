@@ -14,6 +14,7 @@
 #include <QTableView>
 #include <QThread>
 #include <QToolButton>
+#include <algorithm>
 #include <atomic>
 #include <stdexcept>
 
@@ -219,10 +220,15 @@ void Robot::clickOn(const Control& control) {
 
 void Robot::tabTo(const Control& control) {
     constexpr int most = 300;
+    const auto* option = dynamic_cast<const OptionButton*>(&control);
     for (int turn = 0; turn < most; ++turn) {
         if (Hands::holds([&] { return control.focused(); }))
             return;
-        key("Tab");
+        // A group of options is one stop; arrows lead on in it.
+        const bool inGroup = option && Hands::holds([&] {
+                                 return std::ranges::any_of(option->group().members, &OptionButton::focused);
+                             });
+        key(inGroup ? "Right" : "Tab");
         QThread::msleep(20);
     }
     throw std::runtime_error("no Tab leads to it");
