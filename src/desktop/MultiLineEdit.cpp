@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 #include <QTextBlock>
 #include <algorithm>
+#include <utility>
 
 namespace plandesk::desktop {
 
@@ -39,7 +40,30 @@ qsizetype placeInText(const QString& text, qsizetype shownPlace) {
 
 MultiLineEdit::MultiLineEdit(QWidget& parent) : FilteredEdit(&parent) {
     setTabChangesFocus(true);
-    connect(this, &QPlainTextEdit::textChanged, this, [this] { typed(); });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] {
+        if (editing)
+            changed = true;
+        else
+            typed();
+    });
+}
+
+// A reaction to a key may set another text, which must not happen while the toolkit is still putting the key in.
+void MultiLineEdit::edit(const std::function<void()>& act) {
+    {
+        const QScopedValueRollback underWay(editing, true);
+        act();
+    }
+    if (std::exchange(changed, false))
+        typed();
+}
+
+void MultiLineEdit::keyPressEvent(QKeyEvent* event) {
+    edit([&] { FilteredEdit::keyPressEvent(event); });
+}
+
+void MultiLineEdit::inputMethodEvent(QInputMethodEvent* event) {
+    edit([&] { FilteredEdit::inputMethodEvent(event); });
 }
 
 void MultiLineEdit::show(const QString& text) {
@@ -60,7 +84,7 @@ void MultiLineEdit::show(const QString& text) {
 void MultiLineEdit::breakLine() {
     if (isReadOnly())
         return;
-    textCursor().insertBlock();
+    edit([this] { textCursor().insertBlock(); });
     ensureCursorVisible();
 }
 

@@ -21,15 +21,21 @@ public:
     std::function<void(const QString& text)> edited = [](const QString&) {};
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
+    /// Tells of what the act changed once the act is done.
+    void edit(const std::function<void()>& act);
     void typed();
     /// Puts `piece` in place of the characters from `from` up to `to`, counted as the editor counts them.
     void replace(qsizetype from, qsizetype to, const QString& piece);
 
     QString content;
     bool showing = false;
+    bool editing = false;
+    bool changed = false;
 };
 
 }  // namespace plandesk::desktop

@@ -201,6 +201,19 @@ private slots:
         QCOMPARE(line.cursorPosition(), 2);
     }
 
+    void aReactionMayTakeAwayALineThatIsBeingTyped() {
+        Stage stage;
+        TextBox& notes = stage.form().notes;
+        notes.change = [&] {
+            if (notes.text().size() > 2)
+                notes.setText("");
+        };
+        auto& edit = stage.widget<QPlainTextEdit>(notes);
+        QTest::keyClicks(&edit, "abcde");
+        QCOMPARE(notes.text(), "de"s);
+        QCOMPARE(edit.toPlainText(), QString("de"));
+    }
+
     void aScriptOfKeysGivesTheSameTextHereAndInTheDriver_data() {
         QTest::addColumn<std::string>("keys");
         for (const char* keys : {"125", "12.5", "0.07", "1000000", "12x34", ".5", "00", "1.2.3", "अआ"})
