@@ -37,7 +37,9 @@ private:
     void look() {
         const bool stuck = events == seen && !QApplication::activeModalWidget();
         seen = events;
-        if (QWidget* window = QApplication::activeWindow(); stuck && window)
+        // A menu may have come up while no window was active.
+        QWidget* popup = QApplication::activePopupWidget();
+        if (QWidget* window = popup ? popup : QApplication::activeWindow(); stuck && window)
             QTest::keyClick(window->windowHandle(), Qt::Key_Escape);
     }
     int seen = -1;
