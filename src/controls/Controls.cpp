@@ -129,7 +129,7 @@ void OptionButton::turnOn() {
 
 std::vector<OptionButton*> OptionButton::others() const {
     std::vector<OptionButton*> round = siblings.members;
-    std::ranges::rotate(round, std::ranges::find(round, this) + 1);
+    std::rotate(round.begin(), std::ranges::find(round, this) + 1, round.end());
     std::erase_if(round, [](const OptionButton* option) { return !option->takesFocus(); });
     return round;
 }
