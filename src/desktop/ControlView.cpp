@@ -5,6 +5,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QTextDocument>
 #include <QToolTip>
 
 #include "controls/Form.h"

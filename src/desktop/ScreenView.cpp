@@ -20,6 +20,9 @@ ScreenView::ScreenView(Screen& screen, QWidget& desk) : screen(screen), desk(des
 
 ScreenView::~ScreenView() {
     screen.observer = nullptr;
+    // The windows belong to the desk and still get events while it ends.
+    for (const auto& [form, window] : windows)
+        window->detach();
 }
 
 void ScreenView::act(Qt::FocusReason howFocusMoves, const std::function<void()>& what) {

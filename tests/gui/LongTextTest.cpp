@@ -1,6 +1,7 @@
 #include "desktop/LongText.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 

@@ -164,7 +164,7 @@ std::string RandomHands::act() {
         {"resize", 1, [this](QWidget&) { resize(); }},
         {"desktop", 1, [this](QWidget& widget) { desktopEvent(widget); }},
         {"let time pass", 12, [](QWidget&) { QCoreApplication::processEvents(); }},
-        {"tick", 1, [this](QWidget&) { QTest::qWait(1); }},
+        {"tick", 1, [](QWidget&) { QTest::qWait(1); }},
     }};
     int total = 0;
     for (const Act& each : acts)
