@@ -115,7 +115,7 @@ public:
     /// The same for whoever cannot go on without it. RuntimeError 3265 that tells its name when there is none.
     void call(std::string_view procedure);
     /// Raises the RuntimeError 3265 of a control or procedure that the form lacks.
-    [[noreturn]] void missing(std::string_view name) const;
+    [[noreturn]] void missing(std::string_view wanted) const;
 
     Screen& screen() const { return desk; }
 

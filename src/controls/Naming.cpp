@@ -50,7 +50,7 @@ std::string questionOf(const Form& form, const LayoutGroup& group, const LayoutR
     if (!row.spoken.empty())
         return std::string(row.spoken);
     const std::string live = captionOf(form.findKey(row.label));
-    const std::string question = live.empty() ? std::string(trim(row.question)) : live;
+    std::string question = live.empty() ? std::string(trim(row.question)) : live;
     if (!question.empty() || controls.empty())
         return question;
     // A check box that begins a row asks for what stands behind it, too.

@@ -129,12 +129,11 @@ bool isPicture(ControlKind kind) {
 
 void enter(Form& form, Control* control) {
     auto* box = dynamic_cast<TextBox*>(control);
-    if (control && isPicture(control->kind())) {
-        activate(*control);
-    } else if (form.enterActsAsTab()) {
+    const bool picture = control && isPicture(control->kind());
+    if (!picture && form.enterActsAsTab()) {
         form.enterPressed();
         focusNext(form);
-    } else if (dynamic_cast<Button*>(control)) {
+    } else if (picture || dynamic_cast<Button*>(control)) {
         activate(*control);
     } else if (box && box->multiLine && !box->locked) {
         box->edit(box->text() + "\r\n");

@@ -116,6 +116,7 @@ void buildAnnexureB(Proposal& proposal) {
     for (const Row& row : rows)
         appendElement(block, row.element, value(row.sheet == Sheet::First ? first : second, row));
     std::vector<std::string> parts;
+    parts.reserve(streetsAndTreesParts.size());
     for (const Part& part : streetsAndTreesParts)
         parts.push_back(answer(part.sheet == Sheet::First ? first : second, part.control));
     appendElement(block, streetsAndTrees, join(parts, "#"));

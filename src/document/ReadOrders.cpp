@@ -84,9 +84,9 @@ void readPlot(Tables& tables, std::string_view content, int number, std::int32_t
 /// The pieces before ("^" piece 0) or behind ("^" piece 1) the "^" of the pairs.
 void readFigures(Recordset& row, const Pieces& pieces, std::size_t side, std::int32_t extract) {
     row.addNew();
+    std::size_t next = US20a1::ExtNo;
     for (int pair = 0; pair < schemePairs; ++pair)
-        row.set(SchemeColumn::FLD1 + pair,
-                std::string(piece(at(pieces, static_cast<std::size_t>(US20a1::ExtNo + pair)), "^", side)));
+        row.set(SchemeColumn::FLD1 + pair, std::string(piece(at(pieces, next++), "^", side)));
     row.set(SchemeColumn::ExtNo, extract);
     row.update();
 }

@@ -70,7 +70,7 @@ std::string wordsOf(std::string_view x) {
     const std::string hundreds = named(DigitWord((three - two) / 100), " Hundred");
     const double five = right(number, 5);
     const std::string thousands = named(TwoDigitWords((five - three) / 1000), " Thousand");
-    const std::string belowLakh = joined(thousands, " ", hundreds, " ", tensPart, " ", units);
+    std::string belowLakh = joined(thousands, " ", hundreds, " ", tensPart, " ", units);
     if (!hasMoreDigitsThan(5))
         return belowLakh;
 

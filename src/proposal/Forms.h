@@ -36,7 +36,7 @@ public:
     explicit Forms(Proposal& proposal) : proposal(proposal) {}
 
     /// Makes the forms of the catalogue, which outlives this, known by name, so that menus and scripts can touch them.
-    void declare(std::span<const FormRow> catalogue);
+    void declare(std::span<const FormRow> all);
     /// The same for one form, which New and Open keep.
     template <class T>
     void declare() {
