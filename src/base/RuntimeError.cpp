@@ -30,6 +30,7 @@ constexpr Description descriptions[] = {
     {ErrorNumber::ObjectNotSet, "Object variable or With block variable not set"},
     {ErrorNumber::InvalidPropertyValue, "Invalid property value"},
     {ErrorNumber::InvalidPropertyArrayIndex, "Invalid property array index"},
+    {ErrorNumber::PrinterError, "Printer error"},
     {ErrorNumber::ArgumentsOfWrongType,
      "Arguments are of the wrong type, are out of acceptable range, or are in conflict with one another."},
     {ErrorNumber::NoCurrentRecord,

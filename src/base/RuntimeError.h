@@ -22,6 +22,7 @@ enum class ErrorNumber {
     ObjectNotSet = 91,
     InvalidPropertyValue = 380,
     InvalidPropertyArrayIndex = 381,
+    PrinterError = 482,
     ArgumentsOfWrongType = 3001,
     NoCurrentRecord = 3021,
     ItemNotFound = 3265,

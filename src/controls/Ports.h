@@ -12,6 +12,7 @@
 namespace plandesk {
 
 class Control;
+struct Paper;
 
 enum class Icon { None, Information, Question, Critical };
 
@@ -48,6 +49,8 @@ public:
     /// The chosen path, or what `dialog.fileName` held when the user cancelled.
     virtual std::string openFile(const FileDialog& dialog) = 0;
     virtual std::string saveFile(const FileDialog& dialog) = 0;
+    /// The chosen folder; empty when the user cancelled, or where folders cannot be asked for.
+    virtual std::string chooseFolder(const std::string& /*title*/) { return {}; }
 };
 
 class Clock {
@@ -79,6 +82,20 @@ public:
     virtual bool startSystemInformation() = 0;
     /// Ends the program at once, without any save. Returns to the caller, after which no event reaches the system.
     virtual void end() = 0;
+};
+
+/// Puts filled reports on paper.
+class Printer {
+public:
+    virtual ~Printer() = default;
+    /// Whether there is a printer to print on.
+    virtual bool ready() = 0;
+    /// Prints on the default printer, without a dialog. RuntimeError 482 when it cannot.
+    virtual void print(const Paper& paper) = 0;
+    /// Writes the PDF whole or not at all. RuntimeErrors as `Files::writeWhole`.
+    virtual void writePdf(const Paper& paper, const std::filesystem::path& file) = 0;
+
+    static Printer& none();  ///< there is no printer, and no PDF either: 482
 };
 
 /// Hears how far a piece of work has come. Whether it takes long enough to be shown is for the platform to judge; the
@@ -116,6 +133,7 @@ struct Ports {
     Files& files;
     Program& program;
     Progress& progress = Progress::unheard();
+    Printer& printer = Printer::none();
 };
 
 }  // namespace plandesk
