@@ -9,7 +9,18 @@ namespace plandesk {
 
 std::span<const Paper> reportLayouts() {
     static const std::vector<Paper> layouts = {
+        rptPaymentDetails(),
+        rptPaymentDetails123(),
+        rptReciept(),
+        rptDocChecklist(),
         rptDiscretionNewCase(),
+        rptDiscretionRevCase(),
+        rptFormofSupervision(),
+        rptNoticeforcommencementofwork(),
+        rptformforintimationofcompletionofworkuptoplinthlevel(),
+        forbldgcompletion(),
+        rptforpartoccupancycertificate(),
+        rptTDRfortransferringownership(),
     };
     return layouts;
 }

@@ -1,0 +1,71 @@
+#include "reports/layouts/Layouts.h"
+#include "reports/layouts/Parts.h"
+
+namespace plandesk {
+
+using namespace layouts;
+
+Paper rptformforintimationofcompletionofworkuptoplinthlevel() {
+    return {
+        .name = "rptformforintimationofcompletionofworkuptoplinthlevel",
+        .title = "Intimation of completion up to plinth level",
+        .body =
+            {
+                {SectionKind::Heading,
+                 {line({text("FORM FOR INTIMATION OF COMPLETION OF WORK UPTO PLINTH LEVEL")}),
+                  line({text("APPENDIX-G")}), line({text("(Regulation No.34)")})}},
+                {SectionKind::Letter,
+                 {
+                     line({text("To,")}),
+                     line({text("Municipal Corporation of the City of Sindhavali,")}),
+                     line({text("Sindhavali .")}),
+                     line({text("Sir ,")}),
+                     line({
+                         text("The construction upto plinth column upto plinth level has been completed"),
+                         text("in Building No."),
+                         field("FLD1"),
+                         text("S.No./C.T.S.No./F.P.No."),
+                         field("FLD2"),
+                         text("Village No."),
+                         field("FLD3"),
+                         text("Town planning scheme No"),
+                         field("FLD4"),
+                         text("Sector No."),
+                         field("FLD5"),
+                         text("Road/"),
+                         text("Street"),
+                         field("FLD6"),
+                         text("Ward"),
+                         text("No."),
+                         field("FLD7"),
+                         text("accordance  with  your  permission "),
+                         text("No."),
+                         field("FLD8"),
+                         text("dated"),
+                         field("FLD9"),
+                         text("under my  supervision and in accordance "),
+                         text("with the sactioned plan."),
+                     }),
+                     line({
+                         text("Please  check  the  completed  work  and  permit  work  and permit me to "),
+                         text("proceed with the rest of the work."),
+                     }),
+                     line({text("Your's faithfully")}, RowStyle::Right),
+                     line({text("Signature of licenced Surveyor / "), text("Supervisor or Architect")},
+                          RowStyle::Right),
+                     line({text("Surveyor/Engineer/Structural Engineer or Architect")}, RowStyle::Right),
+                 }},
+                {SectionKind::Pairs,
+                 {
+                     {{{text("Name : "), text("(In block Letters)")}, {field("FLD10")}}},
+                     pair("Address: ", {field("FLD11")}),
+                     pair("Date :", {field("FLD12")}),
+                     pair("Whether record of right is transferred on time name(7/12 extract\\P.R.Card) :",
+                          {field("FLD13")}),
+                     pair("Remarks  :", {field("FLD14")}),
+                 }},
+            },
+    };
+}
+
+}  // namespace plandesk
