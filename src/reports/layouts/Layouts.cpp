@@ -9,6 +9,12 @@ namespace plandesk {
 
 std::span<const Paper> reportLayouts() {
     static const std::vector<Paper> layouts = {
+        rptAnnexutreA(),
+        rptAnnexutreA1(),
+        rptAnnexutreA2(),
+        rptAnnexutreA3(),
+        rptAnnexutreA4(),
+        rptAnnexutreA5(),
         rptPaymentDetails(),
         rptPaymentDetails123(),
         rptReciept(),
