@@ -51,6 +51,7 @@ struct PaperSection {
     SectionKind kind = SectionKind::Letter;
     std::vector<PaperRow> rows;
     std::vector<int> widths{};  ///< of a table's columns, in hundredths of the sheet
+    int figures = 0;            ///< how many of a table's last columns hold figures, which stand at the right
     bool repeats = false;       ///< the last row stands once for each row of the report's data
 };
 
