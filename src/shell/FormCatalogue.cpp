@@ -16,6 +16,7 @@
 #include "landrecords/frmPlotExtractRelation.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
+#include "reports/letters/StatutoryLetters.h"
 #include "shell/frmAbout.h"
 #include "shell/frmHelp.h"
 #include "ulc/frmScrutinyULC.h"
@@ -41,19 +42,19 @@ void openPlotRelation(Proposal& proposal) {
 constexpr std::array catalogue = std::to_array<FormRow>({
     formRow<AnnexureACont>(dropped),
     formRow<frmAnnexureA>(dropped),
-    toCome("frmbuildingcompletioncertificate", dropped),
-    toCome("frmcompletionuptoplinthlevel", dropped),
+    formRow<frmbuildingcompletioncertificate>(dropped),
+    formRow<frmcompletionuptoplinthlevel>(dropped),
     formRow<frmDocCheckList>(dropped),
-    toCome("frmforpartoccupancycertificate", dropped),
+    formRow<frmforpartoccupancycertificate>(dropped),
     formRow<frmMain712>(dropped),
     formRow<frmNaOrder>(dropped),
-    toCome("frmnoticeofcommencementofwork", dropped),
-    toCome("frmofsupervision", dropped),
+    formRow<frmnoticeofcommencementofwork>(dropped),
+    formRow<frmofsupervision>(dropped),
     formRow<frmPayDetail>(dropped, showPayment),
     formRow<frmPlotExtractRelation>(dropped, openPlotRelation),
     formRow<frmPRCEXT>(dropped),
     formRow<frmScrutinyULC>(dropped),
-    toCome("frmtdrfortransferringownership", dropped),
+    formRow<frmtdrfortransferringownership>(dropped),
     formRow<frmULC20aDetails>(dropped),
     formRow<frmUS22>(dropped),
     formRow<frmUS84>(dropped),

@@ -32,7 +32,13 @@ inline constexpr std::array formNames = {"frmAnnexureA",
                                          "frmIssuOfDRc",
                                          "frmDRCTransfer",
                                          "frmDRCTransferCont",
-                                         "frmDRCUtilisationForm"};
+                                         "frmDRCUtilisationForm",
+                                         "frmofsupervision",
+                                         "frmnoticeofcommencementofwork",
+                                         "frmcompletionuptoplinthlevel",
+                                         "frmbuildingcompletioncertificate",
+                                         "frmforpartoccupancycertificate",
+                                         "frmtdrfortransferringownership"};
 
 /// The form with something in it, where it has grids.
 inline Form& filledForm(Session& session, const QString& name) {

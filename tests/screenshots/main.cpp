@@ -73,7 +73,9 @@ void takeAll(const std::filesystem::path& folder, const std::string& suffix) {
     session.press("mnuNew");
     for (const std::string_view name :
          {"frmAnnexureA", "AnnexureACont", "frmPayDetail", "frmDocCheckList", "frmDocCheckList1", "frmHelp", "frmAbout",
-          "frmIssuOfDRc", "frmDRCTransfer", "frmDRCTransferCont", "frmDRCUtilisationForm"})
+          "frmIssuOfDRc", "frmDRCTransfer", "frmDRCTransferCont", "frmDRCUtilisationForm", "frmofsupervision",
+          "frmnoticeofcommencementofwork", "frmcompletionuptoplinthlevel", "frmbuildingcompletioncertificate",
+          "frmforpartoccupancycertificate", "frmtdrfortransferringownership"})
         if (Form* form = session.proposal.forms.touch(name))
             camera.takePages(*form);
 }
