@@ -12,8 +12,15 @@ Paper particularsPage(std::string_view name, std::string_view title, std::vector
     };
 }
 
-PaperSection lastQuestions(const LastNumbers& numbers, std::string_view materials) {
-    return questions({
+PaperSection questions(const std::vector<Questions>& groups) {
+    PaperSection section{.kind = SectionKind::Questions, .rows = {}};
+    for (const Questions& group : groups)
+        section.rows.insert(section.rows.end(), group.begin(), group.end());
+    return section;
+}
+
+Questions lastQuestions(const LastNumbers& numbers, std::string_view materials) {
+    return {
         question(numbers.materials, "", "", materials, {}),
         further("Roofs", {field("txtRoofs")}),
         further("Floors", {field("txtFloor")}),
@@ -37,7 +44,7 @@ PaperSection lastQuestions(const LastNumbers& numbers, std::string_view material
                  {field("txtMuncipalLand")}),
         question("35.", "", "", "How many trees on the site ?", {field("txtHowManyTrees")}),
         question("36.", "", "", "No of trees affected by proposed structure", {field("txtNoOfTreesAffected")}),
-    });
+    };
 }
 
 PaperSection declaration() {

@@ -9,9 +9,10 @@ namespace plandesk::layouts {
 /// A page with these sections, and at each foot the sentence on dimensions.
 Paper particularsPage(std::string_view name, std::string_view title, std::vector<PaperSection> body);
 
-inline PaperSection questions(std::vector<PaperRow> rows) {
-    return {SectionKind::Questions, std::move(rows)};
-}
+using Questions = std::vector<PaperRow>;
+
+/// Groups of questions, without a gap between them.
+PaperSection questions(const std::vector<Questions>& groups);
 
 /// A question that goes on under the marks of the one before it.
 inline PaperRow further(std::string_view words, PaperCell answer = {}) {
@@ -33,7 +34,7 @@ struct LastNumbers {
 };
 
 /// The questions from the materials to the trees.
-PaperSection lastQuestions(const LastNumbers& numbers, std::string_view materials);
+Questions lastQuestions(const LastNumbers& numbers, std::string_view materials);
 
 PaperSection declaration();
 PaperSection signature();

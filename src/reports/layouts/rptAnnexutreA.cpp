@@ -7,8 +7,8 @@ using namespace layouts;
 
 namespace {
 
-PaperSection applicantToPlot() {
-    return questions({
+Questions applicantToPlot() {
+    return {
         further("Village Name", {field("cboSector")}),
         further("Proposed F.A.R(In Sq.Mtrs)", {field("txtTikaNo")}),
         question("1.", "a.", "i.", "Full Name Of Applicant", {field("NameOfApplcant")}),
@@ -40,11 +40,11 @@ PaperSection applicantToPlot() {
                  "If so, what is the area allowed for development? (Permission will be based on the minimum of areas "
                  "in (a),(c) or (f) above)",
                  {field("txtAreaAllowed")}),
-    });
+    };
 }
 
-PaperSection plansToUse() {
-    return questions({
+Questions plansToUse() {
+    return {
         question("4.", "", "", "Area all plans as required under Rull No. 16.2 enclosed?", {field("Opt3Y")}),
         // Item 5: the paper has its letters and not its number.
         question(
@@ -69,7 +69,7 @@ PaperSection plansToUse() {
         further("NOC from Commissioner of Police, Sindhavali obtained?", {field("Opt6Y")}),
         further("NOC from Collector, Sindhavali obtained?", {field("Opt7Y")}),
         further("Attached with proposal?", {field("Opt8Y")}),
-    });
+    };
 }
 
 }  // namespace
@@ -78,9 +78,9 @@ Paper rptAnnexutreA() {
     Paper paper = particularsPage(
         "rptAnnexutreA", "Particulars of Development, page 1",
         {
-            applicantToPlot(),
+            questions({applicantToPlot()}),
             note("NOTE : INDICATE DETAILS ON THE SITE/BUILDING PLAN AS IN PROFORMA 1 ENCLOSED HEREWITH "),
-            plansToUse(),
+            questions({plansToUse()}),
         });
     paper.header = {{SectionKind::Heading,
                      {

@@ -7,8 +7,8 @@ using namespace layouts;
 
 namespace {
 
-PaperSection industry() {
-    return questions({
+Questions industry() {
+    return {
         question("8.", "", "", "Is the work in connection with in Industry?", {field("Opt9Y")}),
         question("", "a.", "", "Please briefly describe the main and accessory process", {field("txtMainProcess")}),
         question("", "b.", "", "Maximum number of workmen employed per shift in factory ", {field("txtWorkmen")}),
@@ -30,11 +30,11 @@ PaperSection industry() {
         further("Is plot reserved for industrial zone? ", {field("Opt17Y")}),
         question("", "g.", "", "Nature and quantum of industrial waste/effluents and methods of disposal be stated.",
                  {field("txtWaste")}),
-    });
+    };
 }
 
-PaperSection streets() {
-    return questions({
+Questions streets() {
+    return {
         question("9.", "a.", "", "Is plot abutting in two or more street ?", {field("Opt77Y")}),
         question("", "", "i.", "What is the Average?", {field("txtAverage")}),
         further("Pescribed width",
@@ -46,11 +46,11 @@ PaperSection streets() {
         question("", "", "i.", "Above the center of street", {field("txtAbvCentStreet")}),
         question("", "", "ii.", "Above the average ground level of the plot", {field("txtAboveAverageGrndLevel")}),
         question("", "c.", "", "Does it comply with Rule No. 13.5?", {field("IsComplyWith83RegulationNEW")}),
-    });
+    };
 }
 
-PaperSection structures() {
-    return questions({
+Questions structures() {
+    return {
         question("10.", "a.", "", "Is there are existing structures on the plot?", {field("IsAnyStructureOnPlot")}),
         question("", "", "i.", "Are they correctly marked and numbered on the site plan?",
                  {field("IsCorrectlyMarkedOnSitePlanNEW")}),
@@ -63,7 +63,7 @@ PaperSection structures() {
         question("", "b.", "", "What is plinth area and total floor area of the proposed work?",
                  {field("txtPlinthTotFloorArea")}),
         question("", "c.", "", "What is the No. of tenements proposed?", {field("txtTenePropose")}),
-    });
+    };
 }
 
 }  // namespace
@@ -71,9 +71,7 @@ PaperSection structures() {
 Paper rptAnnexutreA1() {
     return particularsPage("rptAnnexutreA1", "Particulars of Development, page 2",
                            {
-                               industry(),
-                               streets(),
-                               structures(),
+                               questions({industry(), streets(), structures()}),
                                note("NOTE : INDICATE DETAILS ON THE BUILDING PLAN AS IN PROFORM A1 "),
                            });
 }

@@ -7,8 +7,8 @@ using namespace layouts;
 
 namespace {
 
-PaperSection floorAreas() {
-    return questions({
+Questions floorAreas() {
+    return {
         question("11.", "a.", "", "Existing Plinth Area", {field("txtPlinthArea")}),
         further("Existing total Floor Area", {field("txtFloorArea")}),
         further("Proposed Plinth area", {field("txtAnnexBPlinthArea")}),
@@ -25,11 +25,11 @@ PaperSection floorAreas() {
                  {field("txtTotalNoOfTenements")}),
         // Asked a second time on paper, with nothing to answer it.
         question("", "f.", "", "What is the total number of tenements ?", {}),
-    });
+    };
 }
 
-PaperSection openSpaces() {
-    return questions({
+Questions openSpaces() {
+    return {
         question("12.", "a.", "", "What is the width of the front open space?", {field("txtWidthOfFrontOpenSpace")}),
         question("", "", "i.", "If the building abuts two or more streets ?", {field("IsAbutsTwoMoreStreets")}),
         further("does the front open space comply with Rule No. 13.1,2? ", {field("IsComplyWithRegul74")}),
@@ -49,11 +49,11 @@ PaperSection openSpaces() {
         further("Is the plot is narrow?", {field("IsPlotNarrow")}),
         // The wings have no column of their own and show the answer on regulation 75 again.
         further("Are there two or more wings to the building?", {field("IsComplyWithRegul75")}),
-    });
+    };
 }
 
-PaperSection chowksAndLifts() {
-    return questions({
+Questions chowksAndLifts() {
+    return {
         question("14.", "a.", "", "Dimension of inner chowk", {field("txtDiaInnerChowk")}),
         // A letter b more than there are items: the outer chowk reads well with one of its own.
         question("", "b.", "", "Dimension of Outer chowk", {field("txtDiaOuterChowk")}),
@@ -71,7 +71,7 @@ PaperSection chowksAndLifts() {
         further("No. of Lifts", {field("txtNoLift")}),
         further("Types of Doors", {field("txtDoorTyp")}),
         question("", "c.", "", "Details of the fire lift", {field("txtFireDetail")}),
-    });
+    };
 }
 
 }  // namespace
@@ -79,10 +79,9 @@ PaperSection chowksAndLifts() {
 Paper rptAnnexutreA2() {
     return particularsPage("rptAnnexutreA2", "Particulars of Development, page 3",
                            {
-                               floorAreas(),
+                               questions({floorAreas()}),
                                note("NOTE : INDICATE DETAILS ON THE BUILDING PLAN AS IN PROFORM A1 "),
-                               openSpaces(),
-                               chowksAndLifts(),
+                               questions({openSpaces(), chowksAndLifts()}),
                            });
 }
 

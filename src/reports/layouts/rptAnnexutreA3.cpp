@@ -7,8 +7,8 @@ using namespace layouts;
 
 namespace {
 
-PaperSection fireAndParking() {
-    return questions({
+Questions fireAndParking() {
+    return {
         question("16.", "a.", "", "Does the building fall under the purview of Rule No. 6.2,6.1? ", {field("Opt27Y")}),
         question("", "b.", "", "Do the proposed fire protection requirements conform to Appendix-P?",
                  {field("Opt28Y")}),
@@ -21,11 +21,11 @@ PaperSection fireAndParking() {
         question("", "", "ii.", "What is requirement?", {field("txtRequirement")}),
         question("", "", "iii.", "How many are proposed for loading and unloading spaces?",
                  {field("txtProposedSpaceForLoadUnLoading")}),
-    });
+    };
 }
 
-PaperSection projections() {
-    return questions({
+Questions projections() {
+    return {
         question("18.", "a.", "i.", "What are the maximum widths of balconies?", {field("txtMaxWidthOfBalcony")}),
         question("", "", "ii.",
                  "Will they reduce the required open space to less than that required under the regulations?",
@@ -38,11 +38,11 @@ PaperSection projections() {
                  {field("txtMaxWidthOtherProjection")}),
         question("", "c.", "i.", "Are any porches proposed?", {field("IsCanopiesProposed")}),
         question("", "", "ii.", "Are they in compliance with Rule No. 13.4.2.1?", {field("IsComplyWithRegula80")}),
-    });
+    };
 }
 
-PaperSection accessToAccessoryBuildings() {
-    return questions({
+Questions accessToAccessoryBuildings() {
+    return {
         question("19.", "a.", "", "What is the width of the means of access?", {field("txtWidthMeanAccess")}),
         question("", "b.", "i.", "If there is no access, whether there is right of way?", {field("txtRightWay")}),
         question("", "", "ii.", "Attach necessary plans and documents in support of right of way.",
@@ -58,7 +58,7 @@ PaperSection accessToAccessoryBuildings() {
         question("", "c.", "", "Are they 7.5 away from street or front boundary and 1.5 m from other boundary?",
                  {field("IsAwayFrom75Or15")}),
         question("", "d.", "", "Is their are calculated in F.A.R.? ", {field("Opt31Y")}),
-    });
+    };
 }
 
 }  // namespace
@@ -66,10 +66,9 @@ PaperSection accessToAccessoryBuildings() {
 Paper rptAnnexutreA3() {
     return particularsPage("rptAnnexutreA3", "Particulars of Development, page 4",
                            {
-                               fireAndParking(),
+                               questions({fireAndParking()}),
                                note("NOTE : INDICATE DETAILS ON THE BUILDING PLAN AS IN PROFORMA 1 "),
-                               projections(),
-                               accessToAccessoryBuildings(),
+                               questions({projections(), accessToAccessoryBuildings()}),
                            });
 }
 

@@ -7,8 +7,8 @@ using namespace layouts;
 
 namespace {
 
-PaperSection wallToWaterCourse() {
-    return questions({
+Questions wallToWaterCourse() {
+    return {
         question("22.", "a.", "", "What is the proposed height of the compound wall?", {field("txtCompWallHgt")}),
         question("", "b.", "", "Is it at the junction?", {field("Opt32Y")}),
         further("Is it in compliance with Rule 15.16? ", {field("Opt33Y")}),
@@ -26,11 +26,11 @@ PaperSection wallToWaterCourse() {
                  {field("IsNaturalWaterCoursePassNEW")}),
         question("", "b.", "", "Is the necessary set-back provided as per Rule No.9.1?",
                  {field("IsSetbackProvideRegula43")}),
-    });
+    };
 }
 
-PaperSection deviationsAndLevels() {
-    return questions({
+Questions deviationsAndLevels() {
+    return {
         question("26.", "", "",
                  "Please explain in detail in what respect the proposal does not comply with D.C Rules and the "
                  "reasons, thereof, attaching a separate sheet if necessary.",
@@ -41,7 +41,7 @@ PaperSection deviationsAndLevels() {
         further("To what level?", {field("txtFillLevel")}),
         question("", "c.", "", "What is the level above the surrounding/abutting road?", {field("txtLevelRoad")}),
         further("What is the Plinth height above the surrounding/abutting road ?", {field("txtPlinthHgtRoad")}),
-    });
+    };
 }
 
 }  // namespace
@@ -50,10 +50,10 @@ Paper rptAnnexutreA4() {
     return particularsPage(
         "rptAnnexutreA4", "Particulars of Development, page 5",
         {
-            wallToWaterCourse(),
-            deviationsAndLevels(),
-            lastQuestions({.materials = "28.", .closets = "29.", .water = "30.", .sewer = "31.", .stacking = "32."},
-                          "Materials to be used in construction with specifications"),
+            questions({wallToWaterCourse(), deviationsAndLevels(),
+                       lastQuestions(
+                           {.materials = "28.", .closets = "29.", .water = "30.", .sewer = "31.", .stacking = "32."},
+                           "Materials to be used in construction with specifications")}),
             declaration(),
             signature(),
         });

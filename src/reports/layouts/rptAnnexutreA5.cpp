@@ -10,8 +10,9 @@ Paper rptAnnexutreA5() {
     return particularsPage(
         "rptAnnexutreA5", "Particulars of Development, page 6",
         {
-            lastQuestions({.materials = "30.", .closets = "31.", .water = "32.", .sewer = "33.", .stacking = "34."},
-                          "Materials to be used in construction with specification"),
+            questions({lastQuestions(
+                {.materials = "30.", .closets = "31.", .water = "32.", .sewer = "33.", .stacking = "34."},
+                "Materials to be used in construction with specification")}),
             declaration(),
             signature(),
         });
