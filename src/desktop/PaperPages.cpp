@@ -64,7 +64,7 @@ qreal PaperPages::needed(std::size_t strip) const {
     qreal height = 0;
     for (std::size_t next = strip; next < body.size(); ++next) {
         height += body[next].spaceBefore;
-        if (body[next].breakable)
+        if (body[next].breakable && !body[next].keepWithNext)
             return height + body[next].cut(0, body[next].height() / 2);
         height += body[next].height();
         if (!body[next].keepWithNext)

@@ -131,9 +131,9 @@ private:
     }
 
     void question(const PaperRow& row) {
-        constexpr qreal number = 10 * mm;
-        constexpr qreal letter = 8 * mm;
-        constexpr qreal smallNumber = 8 * mm;
+        constexpr qreal number = 9 * mm;
+        constexpr qreal letter = 6 * mm;
+        constexpr qreal smallNumber = 7 * mm;
         constexpr qreal answer = 64 * mm;
         const bool bold = row.style == RowStyle::Bold;
         const TextLook look{smallText, bold, FieldLook::Bold};
@@ -229,8 +229,11 @@ qreal widestLabel(const std::vector<PaperSection>& sections, const Date& date) {
 std::vector<PaperStrip> stripsOf(const std::vector<PaperSection>& sections, const Date& date, qreal width) {
     std::vector<PaperStrip> strips;
     const qreal label = widestLabel(sections, date);
-    for (const PaperSection& section : sections)
+    for (const PaperSection& section : sections) {
+        if (section.kind == SectionKind::Pairs && !strips.empty())
+            strips.back().keepWithNext = true;  // what is signed stands on the sheet of the signature
         SectionWriter(section, date, width, label, strips).write();
+    }
     return strips;
 }
 

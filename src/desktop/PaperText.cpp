@@ -3,6 +3,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QPainter>
 #include <QTextOption>
+#include <algorithm>
 
 #include "desktop/QtText.h"
 
@@ -34,6 +35,10 @@ QString asText(std::string_view value) {
 QString labelText(const PaperItem& item, const Date& date) {
     QString text = asText(item.text).trimmed();
     return text.replace(QStringLiteral("%D"), toQt(date.text()));
+}
+
+bool isEmptyField(const PaperItem& item) {
+    return item.isField() && asText(item.value).trimmed().isEmpty();
 }
 
 bool closesUp(const QString& text) {
@@ -72,13 +77,17 @@ void insertItems(QTextCursor& cursor, const PaperCell& items, const TextLook& lo
     QTextCharFormat plain;
     plain.setFont(paperFont(look.points, look.bold));
     bool begun = false;
+    // A question that has an answer needs no rule beside it, and one that has none needs one.
+    const bool answered = !std::ranges::all_of(items, isEmptyField);
     for (const PaperItem& item : items) {
         const QString text = item.isField() ? asText(item.value) : labelText(item, date);
+        if (look.field != FieldLook::Blank && isEmptyField(item) && (answered || begun))
+            continue;
         if (begun && !closesUp(text))
             cursor.insertText(QStringLiteral(" "), plain);
         begun = true;
         QTextCharFormat format = plain;
-        if (item.isField() && text.trimmed().isEmpty()) {
+        if (isEmptyField(item)) {
             if (look.field != FieldLook::Plain)
                 cursor.insertText(QString(QChar::ObjectReplacementCharacter), EmptyField::format(look.field, plain));
             continue;

@@ -21,7 +21,7 @@ constexpr qreal paperUnitsPerMillimetre = paperUnitsPerInch / 25.4;
 /// How a field shows its value, and that it has none.
 enum class FieldLook {
     Plain,  ///< as it is; nothing
-    Bold,   ///< an answer among questions; a light rule
+    Bold,   ///< an answer among questions; a light rule when all of the cell is empty
     Blank,  ///< underlined; a rule that has room for the pen
 };
 
