@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <utility>
 
 #include <fcntl.h>
 #include <libxml/SAX2.h>
@@ -31,18 +32,31 @@ class XmlBuilder {
 public:
     explicit XmlBuilder(XmlDocument& document) : document(document) {}
 
+    /// Whether anything was read since this was asked last.
+    bool takeProgress() { return std::exchange(progress, false); }
+    /// Whether what was read last was the text of a CDATA section, perhaps the first part of it.
+    bool characterDataLast() const { return characterData; }
+    void passedOver() { heard(); }
+    void characterDataRead(std::string_view part) {
+        text(part);
+        characterData = true;
+    }
+
     void startElement(std::string_view name) {
+        heard();
         flush(!blank(pending));
         open.push_back({add(name), XmlDocument::none});
     }
 
     void endElement() {
+        heard();
         flush(open.back().lastChild == XmlDocument::none || !blank(pending));
         document.nodes[open.back().element].end = static_cast<XmlDocument::Node>(document.nodes.size());
         open.pop_back();
     }
 
     void text(std::string_view text) {
+        heard();
         if (!open.empty())
             pending += text;
     }
@@ -53,6 +67,11 @@ public:
     }
 
 private:
+    void heard() {
+        progress = true;
+        characterData = false;
+    }
+
     struct Open {
         XmlDocument::Node element;
         XmlDocument::Node lastChild;
@@ -83,6 +102,8 @@ private:
     XmlDocument& document;
     std::vector<Open> open;
     std::string pending;
+    bool progress = false;
+    bool characterData = false;
 };
 
 namespace {
@@ -105,6 +126,18 @@ void onCharacters(void* context, const xmlChar* text, int length) {
     builderOf(context).text({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
 }
 
+void onCharacterData(void* context, const xmlChar* text, int length) {
+    builderOf(context).characterDataRead({reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)});
+}
+
+void onComment(void* context, const xmlChar* /*text*/) {
+    builderOf(context).passedOver();
+}
+
+void onInstruction(void* context, const xmlChar* /*target*/, const xmlChar* /*data*/) {
+    builderOf(context).passedOver();
+}
+
 /// Keeps a declared entity, so that a reference to it is well-formed, without what it stands for.
 void onEntity(void* context, const xmlChar* name, int type, const xmlChar* publicId, const xmlChar* systemId,
               xmlChar* content) {
@@ -120,15 +153,15 @@ xmlSAXHandler handlers() {
     sax.endElement = onEndElement;
     sax.characters = onCharacters;
     sax.ignorableWhitespace = onCharacters;
-    sax.cdataBlock = onCharacters;
+    sax.cdataBlock = onCharacterData;
     sax.entityDecl = onEntity;
     sax.attributeDecl = nullptr;
     sax.elementDecl = nullptr;
     sax.notationDecl = nullptr;
     sax.unparsedEntityDecl = nullptr;
     sax.reference = nullptr;
-    sax.comment = nullptr;
-    sax.processingInstruction = nullptr;
+    sax.comment = onComment;
+    sax.processingInstruction = onInstruction;
     sax.externalSubset = nullptr;
     sax.error = nullptr;
     sax.warning = nullptr;
@@ -155,14 +188,43 @@ struct Descriptor {
     Descriptor& operator=(const Descriptor&) = delete;
 };
 
-/// Whether the parser waits for the end of a tag or document type that is longer than any we take. Character data,
-/// comments and processing instructions, which cost nothing, are waited for longer.
-bool waitsTooLong(const xmlParserCtxt& parser) {
-    const auto* begin = reinterpret_cast<const char*>(parser.input->cur);
-    const std::string_view waiting(begin, static_cast<std::size_t>(parser.input->end - parser.input->cur));
-    return waiting.size() > XmlDocument::longestTag && parser.instate != XML_PARSER_CDATA_SECTION &&
-           !waiting.starts_with("<!--") && !waiting.starts_with("<?");
-}
+/// Watches for a tag or document type that is longer than any we take: the parser is fed and reads nothing. Comments,
+/// processing instructions and CDATA sections, which cost nothing, are waited for longer.
+class Waiting {
+public:
+    bool tooLong(xmlParserCtxtPtr parser, std::string_view chunk, XmlBuilder& builder) {
+        if (builder.takeProgress()) {
+            const std::size_t passed = unread.size() - std::min(unread.size(), kept);
+            unread.erase(0, passed);
+            begin += static_cast<long>(passed);
+            askAt = XmlDocument::longestTag;
+        }
+        unread += chunk;
+        if (unread.size() <= askAt)
+            return false;
+        askAt = 2 * unread.size();  // asking costs as much as is unread where the file has another encoding
+        const long inside = xmlByteConsumed(parser) - begin;
+        if (inside < 0 || inside > static_cast<long>(unread.size()))
+            return true;
+        const auto at = static_cast<std::size_t>(inside);
+        const std::string construct = plain(unread.substr(at, kept));
+        const bool withinCharacterData = builder.characterDataLast() && !plain(unread.substr(0, at)).ends_with("]]>");
+        return !withinCharacterData && !construct.starts_with("<!--") && !construct.starts_with("<?");
+    }
+
+private:
+    static constexpr std::size_t kept = 16;  // bytes: enough for the marks, in every encoding
+
+    /// The marks as they are in an encoding of one byte a character.
+    static std::string plain(std::string bytes) {
+        std::erase(bytes, '\0');
+        return bytes;
+    }
+
+    std::string unread;  ///< the file from shortly before the chunk in which something was read last
+    long begin = 0;      ///< where that is in the file
+    std::size_t askAt = XmlDocument::longestTag;
+};
 
 bool parse(int file, XmlBuilder& builder) {
     // The parser would tell of broken encodings on the program's error output; the messages of the reader tell of them.
@@ -175,15 +237,19 @@ bool parse(int file, XmlBuilder& builder) {
     parser->_private = &builder;
     xmlCtxtUseOptions(parser.get(), XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
     std::array<char, XmlDocument::longestTag / 2> chunk;
-    while (builder.fits() && !waitsTooLong(*parser)) {
+    Waiting waiting;
+    for (;;) {
         const ssize_t length = read(file, chunk.data(), chunk.size());
         if (length < 0)
             return false;
         xmlParseChunk(parser.get(), chunk.data(), static_cast<int>(length), length == 0);
-        if (!parser->wellFormed || length == 0)
-            return parser->wellFormed && builder.fits();
+        if (!parser->wellFormed || !builder.fits())
+            return false;
+        if (length == 0)
+            return true;
+        if (waiting.tooLong(parser.get(), {chunk.data(), static_cast<std::size_t>(length)}, builder))
+            return false;
     }
-    return false;
 }
 
 }  // namespace

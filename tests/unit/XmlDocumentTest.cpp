@@ -232,6 +232,22 @@ TEST(XmlDocument, aLongTextCommentOrInstructionIsTaken) {
     EXPECT_EQ(loaded("<!--" + text + "--><?p " + text + "?><r>a</r><!--" + text + "-->"), "r=a");
 }
 
+TEST(XmlDocument, whatIsTakenAndRefusedIsTheSameInAnEncodingOfTwoBytes) {
+    const std::u16string text(3 * XmlDocument::longestTag, u'x');
+    EXPECT_EQ(loaded(utf16(u"\uFEFF<r><!--" + text + u"-->a</r>", true)), "r=a");
+    EXPECT_EQ(loaded(utf16(u"\uFEFF<r><?p " + text + u"?>a</r>", false)), "r=a");
+    EXPECT_EQ(loaded(utf16(u"\uFEFF<r><" + text + u"/></r>", true)), "none");
+}
+
+TEST(XmlDocument, aLongTagIsRefusedBehindWhateverWasWaitedFor) {
+    const std::string text(3 * XmlDocument::longestTag, 'x');
+    const std::string tag = "<" + text + "/>";
+    EXPECT_EQ(loaded("<r><!--" + text + "-->" + tag + "</r>"), "none");
+    EXPECT_EQ(loaded("<r><![CDATA[" + text + "]]>" + tag + "</r>"), "none");
+    EXPECT_EQ(loaded("<r>" + text + tag + "</r>"), "none");
+    EXPECT_EQ(loaded("<!--" + text + "-->" + tag), "none");
+}
+
 TEST(XmlDocument, aSecondLoadForgetsTheFirst) {
     const ScratchFolder folder;
     XmlDocument document;
