@@ -189,14 +189,14 @@ std::optional<QModelIndex> GridTable::target(const QKeyEvent& key) {
         int key;
         CursorAction action;
     };
-    static constexpr std::array<Move, 8> moves = {{{Qt::Key_Left, MoveLeft},
-                                                   {Qt::Key_Right, MoveRight},
-                                                   {Qt::Key_Up, MoveUp},
-                                                   {Qt::Key_Down, MoveDown},
-                                                   {Qt::Key_Home, MoveHome},
-                                                   {Qt::Key_End, MoveEnd},
-                                                   {Qt::Key_PageUp, MovePageUp},
-                                                   {Qt::Key_PageDown, MovePageDown}}};
+    static constexpr std::array moves = std::to_array<Move>({{Qt::Key_Left, MoveLeft},
+                                                             {Qt::Key_Right, MoveRight},
+                                                             {Qt::Key_Up, MoveUp},
+                                                             {Qt::Key_Down, MoveDown},
+                                                             {Qt::Key_Home, MoveHome},
+                                                             {Qt::Key_End, MoveEnd},
+                                                             {Qt::Key_PageUp, MovePageUp},
+                                                             {Qt::Key_PageDown, MovePageDown}});
     for (const Move& move : moves)
         if (move.key == key.key())
             return moveCursor(move.action, key.modifiers());

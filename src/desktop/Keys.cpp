@@ -14,7 +14,7 @@ struct SystemKey {
     std::string_view name;
 };
 
-constexpr std::array<SystemKey, 7> systemKeys = {{
+constexpr std::array systemKeys = std::to_array<SystemKey>({
     {Qt::Key_Return, "Enter"},
     {Qt::Key_Enter, "Enter"},
     {Qt::Key_Tab, "Tab"},
@@ -22,7 +22,7 @@ constexpr std::array<SystemKey, 7> systemKeys = {{
     {Qt::Key_F2, "F2"},
     {Qt::Key_F3, "F3"},
     {Qt::Key_Escape, "Esc"},
-}};
+});
 
 }  // namespace
 

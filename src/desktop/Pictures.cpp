@@ -11,7 +11,7 @@ namespace {
 constexpr QSize planSize{520, 360};
 
 // Walls of the plan, with gaps where doors and windows are.
-constexpr std::array<QLine, 18> outerWalls = {{
+constexpr std::array outerWalls = std::to_array<QLine>({
     {40, 40, 150, 40},
     {210, 40, 330, 40},
     {390, 40, 480, 40},
@@ -30,8 +30,8 @@ constexpr std::array<QLine, 18> outerWalls = {{
     {330, 40, 330, 130},
     {330, 175, 330, 300},
     {330, 190, 400, 190},
-}};
-constexpr std::array<QLine, 7> windows = {{
+});
+constexpr std::array windows = std::to_array<QLine>({
     {150, 40, 210, 40},
     {330, 40, 390, 40},
     {480, 120, 480, 180},
@@ -39,20 +39,20 @@ constexpr std::array<QLine, 7> windows = {{
     {60, 300, 120, 300},
     {40, 160, 40, 220},
     {445, 190, 480, 190},
-}};
+});
 
 struct Door {
     QPoint hinge;
     int leaf;
     int startAngle;  ///< degrees, the leaf swings a quarter circle from here
 };
-constexpr std::array<Door, 5> doors = {{
+constexpr std::array doors = std::to_array<Door>({
     {{270, 300}, 50, 90},
     {{200, 160}, 50, 90},
     {{165, 190}, 45, 180},
     {{330, 175}, 45, 0},
     {{400, 190}, 45, 270},
-}};
+});
 
 void drawDoor(QPainter& painter, const Door& door) {
     constexpr int quarter = 90;

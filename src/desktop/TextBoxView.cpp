@@ -49,6 +49,8 @@ protected:
         return screen.guarded([&] { return subject ? user::filteredKey(box(), key) : 0; });
     }
     void hand(const std::string& text) {
+        if (!subject)  // its filter may have ended it, and the widget types on
+            return;
         // A text dropped in from elsewhere brings the focus, and is not to be selected with all the rest.
         act([&] { user::edit(box(), text); }, box().focused() ? Qt::OtherFocusReason : Qt::MouseFocusReason);
     }

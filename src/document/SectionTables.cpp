@@ -174,13 +174,13 @@ std::vector<FieldRow> packedFields(std::span<const PackedRow> rows, int firstFie
 std::span<const SectionTable> sectionTables() {
     static const std::vector<FieldRow> sectionFour = packedFields(sectionFourRows);
     static const std::vector<FieldRow> sectionFive = packedFields(sectionFiveRows);
-    static const std::array<SectionTable, 5> tables = {{
+    static const std::array tables = std::to_array<SectionTable>({
         {frmAnnexureA::formName, sectionOne},
         {frmAnnexureA::formName, sectionTwo},
         {frmAnnexureA::formName, sectionThree},
         {AnnexureACont::formName, sectionFour},
         {AnnexureACont::formName, sectionFive},
-    }};
+    });
     return tables;
 }
 

@@ -12,13 +12,13 @@ namespace plandesk {
 namespace {
 
 // The misspelled and the lower-case words belong to the forms that the approval system knows.
-constexpr std::array<std::string_view, 10> digits = {"",     "One", "Two",   "Three", "Four",
-                                                     "Five", "Six", "Seven", "Eight", "Nine"};
-constexpr std::array<std::string_view, 11> fromTen = {"Ten",      "Elevan",  "Twelve",  "Thirteen",
-                                                      "Fourteen", "fifteen", "Sixteen", "Seventeen",
-                                                      "Eighteen", "Ninteen", "Twenty"};
-constexpr std::array<std::string_view, 10> tens = {"",      "",      "Twenty",  "Thirty", "Forty",
-                                                   "Fifty", "Sixty", "Seventy", "Eighty", "Ninety"};
+constexpr std::array digits =
+    std::to_array<std::string_view>({"", "One", "Two", "Three", "Four", "Five", "Six", "Seven", "Eight", "Nine"});
+constexpr std::array fromTen =
+    std::to_array<std::string_view>({"Ten", "Elevan", "Twelve", "Thirteen", "Fourteen", "fifteen", "Sixteen",
+                                     "Seventeen", "Eighteen", "Ninteen", "Twenty"});
+constexpr std::array tens = std::to_array<std::string_view>(
+    {"", "", "Twenty", "Thirty", "Forty", "Fifty", "Sixty", "Seventy", "Eighty", "Ninety"});
 
 std::string_view last(std::string_view text, std::size_t count) {
     return text.size() > count ? text.substr(text.size() - count) : text;

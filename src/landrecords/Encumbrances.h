@@ -11,9 +11,9 @@ namespace plandesk {
 inline constexpr std::string_view noEncumbrance = "  ----------- Select----------  ";
 
 /// The encumbrances by their number in the document, from 1, as the list shows them.
-inline constexpr std::array<std::string_view, 9> encumbrances = {
-    "Bank Loan",      "Kulache Nav", "Wahiwat", "Family Member Mortgage", "For Govt. matter ", "fOR Govt EWS",
-    "Lease Pendance", "Watan",       "Easement"};
+inline constexpr std::array encumbrances =
+    std::to_array<std::string_view>({"Bank Loan", "Kulache Nav", "Wahiwat", "Family Member Mortgage",
+                                     "For Govt. matter ", "fOR Govt EWS", "Lease Pendance", "Watan", "Easement"});
 
 /// Number of the encumbrance, blanks around it and case aside; 0 for any other text.
 std::int16_t encumbranceCode(std::string_view text);

@@ -9,8 +9,10 @@ namespace plandesk {
 
 namespace {
 
-constexpr std::array<Tables::Member, 3> dropped712 = {&Tables::rsExtract712, &Tables::rsOwner712, &Tables::rsPAH712};
-constexpr std::array<Tables::Member, 2> droppedPRC = {&Tables::rsPAHPRC, &Tables::rsOwnerPRC};  // the PRCs stay
+constexpr std::array dropped712 =
+    std::to_array<Tables::Member>({&Tables::rsExtract712, &Tables::rsOwner712, &Tables::rsPAH712});
+constexpr std::array droppedPRC =
+    std::to_array<Tables::Member>({&Tables::rsPAHPRC, &Tables::rsOwnerPRC});  // the PRCs stay
 
 constexpr GridColumn hidden = {.caption = "", .width = 0};
 

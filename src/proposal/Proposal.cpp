@@ -1,10 +1,12 @@
 #include "proposal/Proposal.h"
 
+#include <array>
+
 namespace plandesk {
 
-Proposal::Proposal(const Ports& ports) : screen(ports) {}
+namespace {
 
-const std::array<Proposal::FlagName, 9> Proposal::flags = {{
+constexpr std::array flagNames = std::to_array<Proposal::FlagName>({
     {"isNewProposal", &Proposal::isNewProposal},
     {"isProposalOpen", &Proposal::isProposalOpen},
     {"isSaveRequested", &Proposal::isSaveRequested},
@@ -14,16 +16,16 @@ const std::array<Proposal::FlagName, 9> Proposal::flags = {{
     {"ownershipRelationSaved", &Proposal::ownershipRelationSaved},
     {"noReportReturn", &Proposal::noReportReturn},
     {"isDirectPrint", &Proposal::isDirectPrint},
-}};
+});
 
-const std::array<Proposal::NumberName, 4> Proposal::numbers = {{
+constexpr std::array numberNames = std::to_array<Proposal::NumberName>({
     {"currentFormNo", &Proposal::currentFormNo},
     {"feeArea", &Proposal::feeArea},
     {"noOfExtract712", &Proposal::noOfExtract712},
     {"noOfPRC", &Proposal::noOfPRC},
-}};
+});
 
-const std::array<Proposal::FragmentName, 15> Proposal::fragments = {{
+constexpr std::array fragmentNames = std::to_array<Proposal::FragmentName>({
     {"annexureBXML", &Proposal::annexureBXML},
     {"extractOwnerXML", &Proposal::extractOwnerXML},
     {"prcOwnerXML", &Proposal::prcOwnerXML},
@@ -39,6 +41,14 @@ const std::array<Proposal::FragmentName, 15> Proposal::fragments = {{
     {"secondScrutinyFees", &Proposal::secondScrutinyFees},
     {"mandatoryDocList", &Proposal::mandatoryDocList},
     {"conditionalDocList", &Proposal::conditionalDocList},
-}};
+});
+
+}  // namespace
+
+Proposal::Proposal(const Ports& ports) : screen(ports) {}
+
+const std::span<const Proposal::FlagName> Proposal::flags = flagNames;
+const std::span<const Proposal::NumberName> Proposal::numbers = numberNames;
+const std::span<const Proposal::FragmentName> Proposal::fragments = fragmentNames;
 
 }  // namespace plandesk

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -98,9 +98,9 @@ public:
         std::string_view name;
         std::string Proposal::*text;
     };
-    static const std::array<FlagName, 9> flags;
-    static const std::array<NumberName, 4> numbers;
-    static const std::array<FragmentName, 15> fragments;
+    static const std::span<const FlagName> flags;
+    static const std::span<const NumberName> numbers;
+    static const std::span<const FragmentName> fragments;
 };
 
 }  // namespace plandesk

@@ -9,13 +9,13 @@ namespace plandesk {
 
 namespace {
 
-constexpr std::array<CodedText, 5> olderProjects = {{
+constexpr std::array olderProjects = std::to_array<CodedText>({
     {"AMALGAMATION", "AMLG"},
     {"LAND DIVISION", "SD"},
     {"LAND DIVISION + AMALGAMATION", "SD + AMLG"},
     {"AMALGAMATION + LAND DIVISION", "AMLG + SD"},
     {"DEVELOPMENT", "Development"},
-}};
+});
 
 /// Code of the first row whose text is this one, in any case and without the blanks around the row's; else empty.
 std::string_view codeOf(std::span<const CodedText> rows, std::string_view text) {

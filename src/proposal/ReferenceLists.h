@@ -15,7 +15,7 @@ struct CodedText {
 
 /// Villages with their three-letter codes. The running list comes from VILLAGENAMES.txt, and the document carries the
 /// number that stands there.
-inline constexpr std::array<CodedText, 28> villages = {{
+inline constexpr std::array villages = std::to_array<CodedText>({
     {"Tervale", "TRV"},        {"Balundi", "BLN"},     {"Hosavel", "HSV"},       {"Goravad", "GRV"},
     {"Sovan", "SVN"},          {"Odhal Nagar", "ODN"}, {"Elpuri", "ELP"},        {"Jamdi", "JMD"},
     {"Sarwade Mokhli", "SMK"}, {"Lokad", "LKD"},       {"Khandri", "KND"},       {"Ruvhi", "RVH"},
@@ -23,10 +23,10 @@ inline constexpr std::array<CodedText, 28> villages = {{
     {"Velodi", "VLD"},         {"Umarwadi", "UMW"},    {"Toghewadi", "TGW"},     {"Harkhel", "HRK"},
     {"Ondel Malekh", "OML"},   {"Javle Surav", "JSV"}, {"Dehatani", "DHT"},      {"Odhal Gaon", "ODG"},
     {"Murgaon", "MRG"},        {"Bendvi", "BDV"},      {"Ondle Koragar", "OKG"}, {"Odhal", "ODL"},
-}};
+});
 
 /// Zones in the order of their list; two of the texts end with a blank.
-inline constexpr std::array<CodedText, 8> zones = {{
+inline constexpr std::array zones = std::to_array<CodedText>({
     {"R1(purely residential)", "R1"},
     {"R2(Residential with shop line) ", "R2"},
     {"C1(Commercial zone) ", "C1"},
@@ -35,7 +35,7 @@ inline constexpr std::array<CodedText, 8> zones = {{
     {"G2(Green belt)", "G2"},
     {"I(Industrial)", "I"},
     {"I1(Service Industrial Zone)", "G3"},  // a code of the G zones, not an industrial one
-}};
+});
 
 struct CaseType {
     std::string_view text;
@@ -55,7 +55,7 @@ inline constexpr std::array caseTypes = std::to_array<CaseType>({
 });
 
 /// Proposed projects in the order of their list.
-inline constexpr std::array<CodedText, 9> projects = {{
+inline constexpr std::array projects = std::to_array<CodedText>({
     {"Building Development", "Development"},
     {"Amalgamation", "AMLG"},
     {"Sub Division", "SD"},
@@ -65,19 +65,12 @@ inline constexpr std::array<CodedText, 9> projects = {{
     {"Sub Division + Proposed Development", "SD + Development"},
     {"Sub Division + Amalgamation + Proposed Development", "SD + AMLG + Dev"},
     {"Amalgamation + Sub Division + Proposed Development", "AMLG + SD + Dev"},
-}};
+});
 
 /// Major uses of a plot in the order of their list; two of the texts end with a blank, which the document keeps.
-inline constexpr std::array<std::string_view, 10> plotUses = {"Residential",
-                                                              "Resi+Comm ",
-                                                              "Industrial",
-                                                              "Educational ",
-                                                              "Assembly/Public",
-                                                              "Institutional",
-                                                              "Merchantile/Commercial",
-                                                              "Business",
-                                                              "Utility/services",
-                                                              "Storage"};
+inline constexpr std::array plotUses = std::to_array<std::string_view>(
+    {"Residential", "Resi+Comm ", "Industrial", "Educational ", "Assembly/Public", "Institutional",
+     "Merchantile/Commercial", "Business", "Utility/services", "Storage"});
 
 /// Three-letter code of the village, its name in any case; empty for an unknown one.
 std::string_view GetSectorNm(std::string_view name);

@@ -6,13 +6,14 @@ namespace plandesk {
 
 namespace {
 
-constexpr std::array<Tables::Member, 2> plotTables = {&Tables::rsPlotPRC, &Tables::rsPlot712};
-constexpr std::array<Tables::Member, 5> plotAndOrderTables = {
-    &Tables::rsPlot712, &Tables::rsULCOrderUS22, &Tables::rsOwnershipPRC, &Tables::rsULCOrder, &Tables::rsSchemeGrid};
-constexpr std::array<Tables::Member, 1> ownershipTable = {&Tables::rsOwnership};
+constexpr std::array plotTables = std::to_array<Tables::Member>({&Tables::rsPlotPRC, &Tables::rsPlot712});
+constexpr std::array plotAndOrderTables = std::to_array<Tables::Member>(
+    {&Tables::rsPlot712, &Tables::rsULCOrderUS22, &Tables::rsOwnershipPRC, &Tables::rsULCOrder, &Tables::rsSchemeGrid});
+constexpr std::array ownershipTable = std::to_array<Tables::Member>({&Tables::rsOwnership});
 
-constexpr std::array<std::span<const Tables::Member>, 8> allTables = {
-    plotTables, extractTables, ownerTables, holderTables, orderTables, plotAndOrderTables, orderTables, ownershipTable};
+constexpr std::array allTables =
+    std::to_array<std::span<const Tables::Member>>({plotTables, extractTables, ownerTables, holderTables, orderTables,
+                                                    plotAndOrderTables, orderTables, ownershipTable});
 
 }  // namespace
 

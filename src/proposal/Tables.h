@@ -82,12 +82,13 @@ struct TableDefinition {
 std::span<const TableDefinition> tableDefinitions();
 
 // Tables that are always created together: whoever needs one of them empty gets all of them empty.
-inline constexpr std::array<Tables::Member, 2> extractTables = {&Tables::rsExtract712, &Tables::rsExtractPRC};
-inline constexpr std::array<Tables::Member, 2> ownerTables = {&Tables::rsOwner712, &Tables::rsOwnerPRC};
-inline constexpr std::array<Tables::Member, 2> holderTables = {&Tables::rsPAH712, &Tables::rsPAHPRC};
-inline constexpr std::array<Tables::Member, 5> orderTables = {&Tables::rsUS84Plots, &Tables::rsULCOrderUS84,
-                                                              &Tables::rsULCOrderUS20a1, &Tables::rsSchemeBuilt,
-                                                              &Tables::rsSchemeSold};
+inline constexpr std::array extractTables =
+    std::to_array<Tables::Member>({&Tables::rsExtract712, &Tables::rsExtractPRC});
+inline constexpr std::array ownerTables = std::to_array<Tables::Member>({&Tables::rsOwner712, &Tables::rsOwnerPRC});
+inline constexpr std::array holderTables = std::to_array<Tables::Member>({&Tables::rsPAH712, &Tables::rsPAHPRC});
+inline constexpr std::array orderTables =
+    std::to_array<Tables::Member>({&Tables::rsUS84Plots, &Tables::rsULCOrderUS84, &Tables::rsULCOrderUS20a1,
+                                   &Tables::rsSchemeBuilt, &Tables::rsSchemeSold});
 
 /// What createAllTables creates, in this order; what is created a second time is still empty then.
 std::span<const std::span<const Tables::Member>> creationOrder();

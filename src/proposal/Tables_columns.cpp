@@ -279,7 +279,7 @@ constexpr auto drcUtilisation = inPlace<DRCUtilisationColumn, Column>({
     {DRCUtilisationColumn::ReceiptDate, text("ReceiptDate", 50)},
 });
 
-constexpr std::array<TableDefinition, 24> definitions = {{
+constexpr std::array definitions = std::to_array<TableDefinition>({
     {"rsExtract712", &Tables::rsExtract712, extract712},
     {"rsExtractPRC", &Tables::rsExtractPRC, extractPRC},
     {"rsOwner712", &Tables::rsOwner712, owner},
@@ -304,7 +304,7 @@ constexpr std::array<TableDefinition, 24> definitions = {{
     {"rsDRCIssue", &Tables::rsDRCIssue, drcIssue},
     {"rsDRCTransfer", &Tables::rsDRCTransfer, drcTransfer},
     {"rsDRCUtilisation", &Tables::rsDRCUtilisation, drcUtilisation},
-}};
+});
 
 }  // namespace
 

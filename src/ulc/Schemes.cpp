@@ -34,8 +34,8 @@ constexpr SchemeRow specialDispenseRows[] = {
     {"iv", "Tenement upto 80.0 sq. mts. (50.1-80.0)"},
 };
 
-constexpr std::array<std::span<const SchemeRow>, 5> rowsByScheme = {
-    {{}, plottingRows, componentARows, componentBRows, specialDispenseRows}};
+constexpr std::array rowsByScheme =
+    std::to_array<std::span<const SchemeRow>>({{}, plottingRows, componentARows, componentBRows, specialDispenseRows});
 
 }  // namespace
 

@@ -199,7 +199,7 @@ void answerThatMovesThePageToRepaint(benchmark::State& state) {
 BENCHMARK(answerThatMovesThePageToRepaint)->Unit(benchmark::kMillisecond);
 
 // A grid on the screen, of few rows and of many: what the many cost is seen beside the few.
-constexpr std::array<std::int64_t, 2> gridRows = {100, 50'000};
+constexpr std::array gridRows = std::to_array<std::int64_t>({100, 50'000});
 
 void timeGrid(benchmark::State& state, const std::function<void(test::GridStage&, int round)>& act) {
     needApplication();

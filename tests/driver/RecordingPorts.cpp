@@ -48,7 +48,7 @@ ScriptedProgram::ScriptedProgram(std::string folder) : ownFolder(std::move(folde
 }
 
 std::string_view iconName(Icon icon) {
-    constexpr std::array<std::string_view, 4> names = {"none", "information", "question", "critical"};
+    constexpr std::array names = std::to_array<std::string_view>({"none", "information", "question", "critical"});
     return names.at(static_cast<std::size_t>(icon));
 }
 

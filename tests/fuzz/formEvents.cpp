@@ -83,16 +83,16 @@ void Session::relatePlots() {
     struct Tab {
         std::string_view number, grid, save, entry, form;
     };
-    constexpr std::array<Tab, 2> tabs = {{
+    constexpr std::array tabs = std::to_array<Tab>({
         {"txtNoOfPlot712", "dgd712ExtractRelation", "cmdSave712Relation", "mnu712Ext", "frmMain712"},
         {"txtNoOfPlot", "dgdPRCPlotRel", "cmdSave", "mnuPrc", "frmPRCEXT"},
-    }};
+    });
     constexpr std::string_view relation = "frmPlotExtractRelation";
     for (const Tab& tab : tabs) {
         shell.press("mnuPlotExtRelationShip");
         user::type(box(relation, tab.number), "2");
-        user::editCell(grid(relation, tab.grid), 0, 3, "2");
-        user::editCell(grid(relation, tab.grid), 1, 3, "1");
+        user::editCell(grid(relation, tab.grid), 0, PlotColumn::NoOfPRC, "2");
+        user::editCell(grid(relation, tab.grid), 1, PlotColumn::NoOfPRC, "1");
         user::click(button(relation, tab.save));
         shell.press(tab.entry);
         for (const int count : {5, 7})
@@ -161,7 +161,8 @@ void Session::onForm(Bytes& bytes) {
 }
 
 void Session::onMainWindow(Bytes& bytes) {
-    static constexpr std::array<std::string_view, 4> answers = {"yes", "no", "cancel", "/plans/proposal.xml"};
+    static constexpr std::array answers =
+        std::to_array<std::string_view>({"yes", "no", "cancel", "/plans/proposal.xml"});
     switch (bytes.below(3)) {
     case 0:
         shell.press(mainMenu()[bytes.below(mainMenu().size())].name);
@@ -175,8 +176,8 @@ void Session::onMainWindow(Bytes& bytes) {
 }
 
 void Session::act(Bytes& bytes) {
-    static constexpr std::array<std::string_view, 9> keys = {"Enter", "Tab", "Esc", "Space", "Backspace",
-                                                             "F2",    "F3",  "7",   "\u0917"};
+    static constexpr std::array keys =
+        std::to_array<std::string_view>({"Enter", "Tab", "Esc", "Space", "Backspace", "F2", "F3", "7", "\u0917"});
     choose(bytes);
     switch (bytes.below(8)) {
     case 0:

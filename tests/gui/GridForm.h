@@ -99,7 +99,7 @@ public:
     }
 
 private:
-    static constexpr std::array<GridColumn, 7> settings = {{
+    static constexpr std::array settings = std::to_array<GridColumn>({
         {.caption = "", .width = 0},
         {.caption = "Fixed ", .width = 1000, .locked = true},
         {.caption = "Name Of Owner", .width = 3000},
@@ -107,7 +107,7 @@ private:
         {.caption = "Date", .width = 1500, .button = true},
         {.caption = "Kind", .width = 1500},
         {.caption = "Done", .width = 800, .locked = true, .button = true, .yesNo = true},
-    }};
+    });
 
     void place(Control& editor, int column) {
         grid.place(editor, column);

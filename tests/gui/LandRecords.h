@@ -59,7 +59,7 @@ inline void enter(ExtractForm& form, int place, const Extract& extract) {
     row = 0;
     for (const std::string_view holder : extract.holders)
         user::editCell(form.dgdPAH, row++, name, holder);
-    user::pressCellButton(form.dgdPAH, extract.signedHolder, 3);
+    user::pressCellButton(form.dgdPAH, extract.signedHolder, HolderColumn::PAHSing);
 }
 
 }  // namespace land
@@ -70,15 +70,15 @@ inline void enterPlots(Session& session) {
     auto& form = session.form<frmPlotExtractRelation>();
     user::type(form.txtNoOfPlot712, "2");
     Grid& plots = form.dgd712ExtractRelation;
-    user::editCell(plots, 0, 2, "Khandri North");
-    user::editCell(plots, 0, 3, "2");
-    user::editCell(plots, 1, 2, "Khandri South, behind the temple");
-    user::editCell(plots, 1, 3, "1");
+    user::editCell(plots, 0, PlotColumn::PlotName, "Khandri North");
+    user::editCell(plots, 0, PlotColumn::NoOfPRC, "2");
+    user::editCell(plots, 1, PlotColumn::PlotName, "Khandri South, behind the temple");
+    user::editCell(plots, 1, PlotColumn::NoOfPRC, "1");
     user::click(form.cmdSave712Relation);
     user::showTab(form.SSTab1, 1);
     user::type(form.txtNoOfPlot, "1");
-    user::editCell(form.dgdPRCPlotRel, 0, 2, "Ward 7");
-    user::editCell(form.dgdPRCPlotRel, 0, 3, "2");
+    user::editCell(form.dgdPRCPlotRel, 0, PlotColumn::PlotName, "Ward 7");
+    user::editCell(form.dgdPRCPlotRel, 0, PlotColumn::NoOfPRC, "2");
     user::click(form.cmdSave);
     user::showTab(form.SSTab1, 0);
 }

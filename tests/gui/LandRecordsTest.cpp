@@ -153,7 +153,7 @@ private slots:
         session.click(form.dgdInfoOfExtract, 0, land::infoHolders);
         session.key(Qt::Key_Tab);
         QVERIFY(form.dgdOwner.focused());
-        QCOMPARE(form.dgdOwner.currentColumn(), 1);
+        QCOMPARE(form.dgdOwner.currentColumn(), OwnerColumn::OwnNo);
         session.key(Qt::Key_Tab);
         QCOMPARE(form.dgdOwner.currentColumn(), land::name);
         session.type("Rao");

@@ -30,17 +30,12 @@ constexpr std::array keys = {
     Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Insert, Qt::Key_Space, Qt::Key_Menu,
     Qt::Key_F1,     Qt::Key_F6,       Qt::Key_F10,    Qt::Key_A,         Qt::Key_N,      Qt::Key_O,     Qt::Key_S,
     Qt::Key_V,      Qt::Key_X,        Qt::Key_Y,      Qt::Key_Z,         Qt::Key_1,      Qt::Key_2,     Qt::Key_9};
-constexpr std::array<Qt::KeyboardModifiers::Int, 8> modifiers = {Qt::NoModifier,
-                                                                 Qt::NoModifier,
-                                                                 Qt::NoModifier,
-                                                                 Qt::ShiftModifier,
-                                                                 Qt::ControlModifier,
-                                                                 Qt::AltModifier,
-                                                                 Qt::ControlModifier | Qt::ShiftModifier,
-                                                                 Qt::ControlModifier | Qt::AltModifier};
-constexpr std::array<Qt::MouseButton, 8> mouseButtons = {Qt::LeftButton,  Qt::LeftButton,  Qt::LeftButton,
-                                                         Qt::LeftButton,  Qt::LeftButton,  Qt::LeftButton,
-                                                         Qt::RightButton, Qt::MiddleButton};
+constexpr std::array modifiers = std::to_array<Qt::KeyboardModifiers::Int>(
+    {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier,
+     Qt::ControlModifier | Qt::ShiftModifier, Qt::ControlModifier | Qt::AltModifier});
+constexpr std::array mouseButtons =
+    std::to_array<Qt::MouseButton>({Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::LeftButton,
+                                    Qt::LeftButton, Qt::RightButton, Qt::MiddleButton});
 
 /// Does something within an event, as all happens that a user does. The test library's clicks alone would not count as
 /// one, and a nested loop would delete at once what is to be deleted after the click.

@@ -57,6 +57,19 @@ private slots:
         QCOMPARE(stage.form().title.text(), "Bungalow 2"s);
     }
 
+    void aKeyThatUnloadsItsFormIsTypedIntoNothing() {
+        for (const auto box : {&SampleForm::title, &SampleForm::notes}) {
+            Stage stage;
+            QWidget& widget = stage.widget(stage.form().*box);
+            (stage.form().*box).keyPress = [&](int key) {
+                stage.proposal.forms.unload("SampleForm");
+                return key;
+            };
+            QTest::keyClicks(&widget, "x");
+            QVERIFY(!stage.proposal.forms.loaded("SampleForm"));
+        }
+    }
+
     void charactersAreTypedWhereTheCaretIs() {
         Stage stage;
         stage.form().title.setText("abef");

@@ -143,7 +143,7 @@ TEST_F(Extracts, AChosenExtractShowsItsRowsAlone) {
     user::pick(form.cmbExtract, 1);
     EXPECT_EQ(form.lblInfoExtract.caption(), " Information For Extract No :- 2");
     EXPECT_EQ(form.dgdInfoOfExtract.rowCount(), 1);
-    EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, 0), "2");
+    EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, ExtractColumn::ExtNo), "2");
     EXPECT_EQ(tables.rsOwner712->filter(), "ExtNo = 2");
     EXPECT_TRUE(form.DTPicker1.visible());
     EXPECT_TRUE(form.DTPicker1.focused());
@@ -153,15 +153,15 @@ TEST_F(Extracts, AChosenExtractShowsItsRowsAlone) {
 TEST_F(Extracts, ANumberOfOwnersReplacesTheOwnersOfThatExtract) {
     relate({2});
     auto& form = open712();
-    user::editCell(form.dgdInfoOfExtract, 0, 5, "2");
+    user::editCell(form.dgdInfoOfExtract, 0, ExtractColumn::NoOfOwners, "2");
     const std::string untouched = " -- Select -- |  ----------- Select----------  |  ------ Select------  ";
     // The empty owner that the relation's save left for the second extract stands first.
     EXPECT_EQ(rowTexts(*tables.rsOwner712),
               (Texts{"2|null|null|null|null|null", "1|1|null|" + untouched, "1|2|null|" + untouched}));
-    user::editCell(form.dgdOwner, 0, 2, "Sham");
-    user::editCell(form.dgdInfoOfExtract, 0, 5, "1");
+    user::editCell(form.dgdOwner, 0, OwnerColumn::Name, "Sham");
+    user::editCell(form.dgdInfoOfExtract, 0, ExtractColumn::NoOfOwners, "1");
     EXPECT_EQ(rowTexts(*tables.rsOwner712), (Texts{"2|null|null|null|null|null", "1|1|null|" + untouched}));
-    user::editCell(form.dgdInfoOfExtract, 0, 5, "0");
+    user::editCell(form.dgdInfoOfExtract, 0, ExtractColumn::NoOfOwners, "0");
     EXPECT_EQ(rowTexts(*tables.rsOwner712), Texts{"2|null|null|null|null|null"});
     EXPECT_EQ(form.dgdOwner.rowCount(), 0);
 }
@@ -169,7 +169,7 @@ TEST_F(Extracts, ANumberOfOwnersReplacesTheOwnersOfThatExtract) {
 TEST_F(Extracts, ANumberOfHoldersReplacesTheHoldersOfThatExtract) {
     relate({1});
     auto& form = open712();
-    user::editCell(form.dgdInfoOfExtract, 0, 7, "2");
+    user::editCell(form.dgdInfoOfExtract, 0, ExtractColumn::NoOfPAHs, "2");
     EXPECT_EQ(rowTexts(*tables.rsPAH712), (Texts{"1|1|null|False", "1|2|null|False"}));
     EXPECT_EQ(form.dgdPAH.rowCount(), 2);
 }
@@ -177,20 +177,20 @@ TEST_F(Extracts, ANumberOfHoldersReplacesTheHoldersOfThatExtract) {
 TEST_F(Extracts, ANumberOfOwnersBeyondSixteenBitsIsAnErrorAndTakesNothingAway) {
     relate({1});
     auto& form = open712();
-    user::editCell(form.dgdInfoOfExtract, 0, 5, "1");
-    user::editCell(form.dgdOwner, 0, 2, "Sham");
-    user::editCell(form.dgdInfoOfExtract, 0, 5, "40000");
+    user::editCell(form.dgdInfoOfExtract, 0, ExtractColumn::NoOfOwners, "1");
+    user::editCell(form.dgdOwner, 0, OwnerColumn::Name, "Sham");
+    user::editCell(form.dgdInfoOfExtract, 0, ExtractColumn::NoOfOwners, "40000");
     EXPECT_EQ(ports.dialogs.take(), (std::vector<Message>{{"", "Overflow", Icon::Critical}}));
-    EXPECT_EQ(form.dgdOwner.cellText(0, 2), "Sham");
+    EXPECT_EQ(form.dgdOwner.cellText(0, OwnerColumn::Name), "Sham");
 }
 
 TEST_F(Extracts, TwoThousandOwnersStandInOneExtract) {
     relate({1});
     auto& form = open712();
-    user::editCell(form.dgdInfoOfExtract, 0, 5, "2000");
+    user::editCell(form.dgdInfoOfExtract, 0, ExtractColumn::NoOfOwners, "2000");
     EXPECT_EQ(form.dgdOwner.rowCount(), 2000);
-    user::editCell(form.dgdOwner, 1999, 2, "Last");
-    EXPECT_EQ(form.dgdOwner.cellText(1999, 2), "Last");
+    user::editCell(form.dgdOwner, 1999, OwnerColumn::Name, "Last");
+    EXPECT_EQ(form.dgdOwner.cellText(1999, OwnerColumn::Name), "Last");
     user::click(form.cmdSave);
     EXPECT_NE(proposal.extractOwnerXML.find("<NoOfOwner>2000</NoOfOwner>"), std::string::npos);
     EXPECT_NE(proposal.extractOwnerXML.find("<OWNER2000>Last##0</OWNER2000>"), std::string::npos);
@@ -199,17 +199,17 @@ TEST_F(Extracts, TwoThousandOwnersStandInOneExtract) {
 TEST_F(Extracts, ThePickerWritesItsDateStraightIntoTheExtract) {
     relate({1});
     auto& form = open712();
-    EXPECT_TRUE(user::pressCellButton(form.dgdInfoOfExtract, 0, 3));
+    EXPECT_TRUE(user::pressCellButton(form.dgdInfoOfExtract, 0, ExtractColumn::DateOf712));
     EXPECT_TRUE(form.DTPicker1.visible());
     EXPECT_EQ(form.DTPicker1.date(), (Date{2024, 3, 15}));
     user::pickDate(form.DTPicker1, Date{2001, 2, 3});
-    EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, 3), "03/02/2001");
+    EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, ExtractColumn::DateOf712), "03/02/2001");
 }
 
 TEST_F(Extracts, TypingIntoTheDateCellBringsUpThePicker) {
     relate({1});
     auto& form = open712();
-    user::goToCell(form.dgdInfoOfExtract, 0, 3);
+    user::goToCell(form.dgdInfoOfExtract, 0, ExtractColumn::DateOf712);
     user::press(form.dgdInfoOfExtract, "1");
     EXPECT_TRUE(form.DTPicker1.focused());
     EXPECT_FALSE(form.dgdInfoOfExtract.editing());
@@ -218,15 +218,15 @@ TEST_F(Extracts, TypingIntoTheDateCellBringsUpThePicker) {
 TEST_F(Extracts, ADateTypedAsAWholeIsTakenAndShownInThePicker) {
     relate({1});
     auto& form = open712();
-    user::editCell(form.dgdInfoOfExtract, 0, 3, "09/08/2007");
-    EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, 3), "09/08/2007");
+    user::editCell(form.dgdInfoOfExtract, 0, ExtractColumn::DateOf712, "09/08/2007");
+    EXPECT_EQ(form.dgdInfoOfExtract.cellText(0, ExtractColumn::DateOf712), "09/08/2007");
     EXPECT_EQ(form.DTPicker1.date(), (Date{2007, 8, 9}));
 }
 
 TEST_F(Extracts, ADatePickedWhileNoExtractIsCurrentIsPassedOver) {
     relate({2});
     auto& form = open712();
-    user::pressCellButton(form.dgdInfoOfExtract, 0, 3);
+    user::pressCellButton(form.dgdInfoOfExtract, 0, ExtractColumn::DateOf712);
     user::click(form.cmdSave);
     open712();
     EXPECT_EQ(form.dgdInfoOfExtract.currentRow(), -1);
@@ -274,12 +274,12 @@ TEST_F(Extracts, ProceduresOfTheFormRunByName) {
 TEST_F(Extracts, TheButtonTogglesAHoldersSign) {
     relate({1});
     auto& form = open712();
-    EXPECT_EQ(form.dgdPAH.cellText(0, 3), "");  // the empty holder that the relation's save left
-    user::pressCellButton(form.dgdPAH, 0, 3);
-    EXPECT_EQ(form.dgdPAH.cellText(0, 3), "Yes");
-    user::pressCellButton(form.dgdPAH, 0, 3);
-    EXPECT_EQ(form.dgdPAH.cellText(0, 3), "No");
-    EXPECT_FALSE(user::editCell(form.dgdPAH, 0, 3, "Yes"));
+    EXPECT_EQ(form.dgdPAH.cellText(0, HolderColumn::PAHSing), "");  // the empty holder that the relation's save left
+    user::pressCellButton(form.dgdPAH, 0, HolderColumn::PAHSing);
+    EXPECT_EQ(form.dgdPAH.cellText(0, HolderColumn::PAHSing), "Yes");
+    user::pressCellButton(form.dgdPAH, 0, HolderColumn::PAHSing);
+    EXPECT_EQ(form.dgdPAH.cellText(0, HolderColumn::PAHSing), "No");
+    EXPECT_FALSE(user::editCell(form.dgdPAH, 0, HolderColumn::PAHSing, "Yes"));
 }
 
 TEST_F(Extracts, EnterActsAsTabOn712FormsAndInThePrcFormsGridsAlone) {
@@ -291,9 +291,9 @@ TEST_F(Extracts, EnterActsAsTabOn712FormsAndInThePrcFormsGridsAlone) {
     auto& cards = openPrc();
     user::press(cards.cmbExtract, "Enter");
     EXPECT_TRUE(cards.cmbExtract.focused());
-    user::goToCell(cards.dgdInfoOfExtract, 0, 1);
+    user::goToCell(cards.dgdInfoOfExtract, 0, ExtractColumn::SurveyNo);
     user::press(cards.dgdInfoOfExtract, "Enter");
-    EXPECT_EQ(cards.dgdInfoOfExtract.currentColumn(), 2);
+    EXPECT_EQ(cards.dgdInfoOfExtract.currentColumn(), ExtractColumn::HissaNo);
 }
 
 TEST_F(Extracts, The712FormDropsSpecialKeysAndThePrcFormDoesNot) {

@@ -17,14 +17,14 @@ constexpr std::array columns = {
     Column{"Area", ColumnKind::Double}, Column{"On", ColumnKind::Date},    Column{"Done", ColumnKind::Boolean},
 };
 
-constexpr std::array<GridColumn, 6> settings = {{
+constexpr std::array settings = std::to_array<GridColumn>({
     {.caption = "No", .width = 0},
     {.caption = "Label", .locked = true},
     {.caption = "Name"},
     {.caption = "Area"},
     {.caption = "On", .button = true},
     {.caption = "Done", .locked = true, .button = true, .yesNo = true},
-}};
+});
 
 struct GridForm : Form {
     explicit GridForm(Screen& screen) : Form(screen, "frmGrid", "Grid") {
@@ -296,7 +296,7 @@ TEST_F(GridKeys, TheFirstTabInAGridLeadsToTheFirstCellThatCanBeUsed) {
 TEST_F(GridKeys, AGridWithoutAUsableCellIsPassedOver) {
     static constexpr GridColumn hidden{.caption = "", .width = 0};
     static constexpr GridColumn fixed{.caption = "Fixed", .locked = true};
-    static constexpr std::array<GridColumn, 6> locked = {hidden, fixed, fixed, hidden, hidden, hidden};
+    static constexpr std::array locked = std::to_array<GridColumn>({hidden, fixed, fixed, hidden, hidden, hidden});
     grid.setColumns(locked);
     EXPECT_EQ(grid.keyColumn(), 1);
     user::press(form.before, "Tab");

@@ -15,20 +15,20 @@ namespace {
 
 using test::Log;
 
-constexpr std::array<Column, 5> columns = {{
+constexpr std::array columns = std::to_array<Column>({
     {"ExtNo", ColumnKind::Integer},
     {"OwnerName", ColumnKind::Text},
     {"Signed", ColumnKind::Boolean},
     {"AreaOfLand", ColumnKind::Double},
     {"DateOf712", ColumnKind::Date},
-}};
+});
 
-constexpr std::array<GridColumn, 4> settings = {{
+constexpr std::array settings = std::to_array<GridColumn>({
     {.caption = "Extract", .width = 0},
     {.caption = "Name of owner", .width = 3000},
     {.caption = "Signed", .button = true, .yesNo = true},
     {.caption = "Area", .locked = true},
-}};
+});
 
 struct GridTest : testing::Test, test::Desk {
     Form form{screen, "frmGrid", "Grid"};
@@ -241,7 +241,7 @@ TEST_F(GridTest, ReactionToAnEditMayTakeTheFocusThatTabWouldMove) {
 }
 
 TEST_F(GridTest, BoundToANarrowerTableItsCurrentColumnIsTheFirst) {
-    static constexpr std::array<Column, 1> narrow = {{{"Name", ColumnKind::Text}}};
+    static constexpr std::array narrow = std::to_array<Column>({{"Name", ColumnKind::Text}});
     grid.moveTo(0, 4);
     grid.bind(std::make_shared<Recordset>(narrow));
     EXPECT_EQ(grid.currentColumn(), 0);

@@ -1,6 +1,7 @@
 // The command Open, step by step, and the development aid that repeats it.
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "ProposalFile.h"
 #include "controls/User.h"
@@ -16,6 +17,28 @@ using Boxes = std::vector<Message>;
 bool operator==(const FileDialog& a, const FileDialog& b) {
     return a.title == b.title && a.defaultExtension == b.defaultExtension && a.filter == b.filter &&
            a.fileName == b.fileName;
+}
+
+/// Whether an address of that many bytes reaches the file and comes back.
+bool comesBack(std::size_t size) {
+    std::string address;
+    while (address.size() < size)
+        address.append("Flat ").append(std::to_string(address.size())).append(", ");
+    address += "Khandri";
+    World first;
+    first.shell.press("mnuNew");
+    first.fillFirstPage();
+    first.box(sheet, "txtApplicantAddr").setText(address);
+    first.ports.dialogs.answers.emplace_back("/home/long.xml");
+    first.proposal.screen.event([&] { first.shell.run("mnuSaveAs_Click"); });
+    const std::string& file = first.ports.files.contents.at("/home/long.xml");
+
+    const ScratchFolder folder;
+    World second;
+    second.ports.dialogs.answers = {folder.write("long.xml", file)};
+    second.shell.press("mnuOpen");
+    return file.find(address) != std::string::npos && second.ports.dialogs.take().empty() &&
+           second.box(sheet, "txtApplicantAddr").text() == address;
 }
 
 }  // namespace
@@ -59,6 +82,11 @@ TEST(Opening, aNameThatIsEmptyOrThePatternStopsItToo) {
         EXPECT_FALSE(world.proposal.forms.loaded(sheet)) << name;
         EXPECT_TRUE(world.ports.dialogs.take().empty());
     }
+}
+
+// In a process of its own, for its memory is not to count in what other tests measure.
+TEST(Opening, anAddressOfTenMegabytesComesBack) {
+    EXPECT_EXIT(_exit(comesBack(10'000'000) ? 0 : 1), testing::ExitedWithCode(0), "");
 }
 
 TEST(Opening, showsTheFirstPageUnderThePathOfTheFile) {

@@ -16,12 +16,12 @@
 namespace plandesk {
 namespace {
 
-constexpr std::array<Column, 4> columns = {{
+constexpr std::array columns = std::to_array<Column>({
     {"Name", ColumnKind::Text, 20},
     {"ExtNo", ColumnKind::Integer},
     {"SrNo", ColumnKind::Integer},
     {"Area", ColumnKind::Double},
-}};
+});
 
 struct Comparison {
     int column;
@@ -256,7 +256,7 @@ private:
     std::string blanks() { return std::string(static_cast<std::size_t>(below(3)), ' '); }
 
     void setFilter(int comparisons) {
-        constexpr std::array<const char*, 6> signs = {"=", "<", "<=", ">", ">=", "<>"};
+        constexpr std::array signs = std::to_array<const char*>({"=", "<", "<=", ">", ">=", "<>"});
         std::vector<Comparison> filter;
         std::string expression = blanks();
         for (int index = 0; index < comparisons; ++index) {

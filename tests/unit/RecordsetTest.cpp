@@ -12,14 +12,14 @@
 namespace plandesk {
 namespace {
 
-constexpr std::array<Column, 6> columns = {{
+constexpr std::array columns = std::to_array<Column>({
     {"ExtNo", ColumnKind::Integer},
     {"OwnNo", ColumnKind::Integer},
     {"Name", ColumnKind::Text, 5},
     {"Day", ColumnKind::Date},
     {"Area", ColumnKind::Double},
     {"Signed", ColumnKind::Boolean},
-}};
+});
 
 void add(Recordset& table, Value number, const std::string& name) {
     table.addNew();

@@ -10,14 +10,14 @@
 namespace plandesk {
 namespace {
 
-constexpr std::array<Column, 6> columns = {{
+constexpr std::array columns = std::to_array<Column>({
     {"ExtNo", ColumnKind::Integer},
     {"SrNo", ColumnKind::Integer},
     {"NoOfOwners ", ColumnKind::Integer},
     {"No of PRC", ColumnKind::Double},
     {"Name", ColumnKind::Text, 100},
     {"Signed", ColumnKind::Boolean},
-}};
+});
 
 /// The whole numbers 0 to 9 that the filter on ExtNo lets through, as digits.
 std::string passed(std::string_view expression) {

@@ -15,7 +15,7 @@ struct Link {
     std::string_view title;
 };
 
-constexpr std::array<Link, 15> chain = {{
+constexpr std::array chain = std::to_array<Link>({
     {"txtTitle", "txtTitle", "txtTitle", "Proposal Title Can not be blank !", ""},
     {"cboCaseType", "cboCaseType", "cboCaseType", "Case Type Can not be blank !", ""},
     {"cboProposalTyp", "cboProposalTyp", "cboProposalTyp", "Major use of plot Can not be blank !", ""},
@@ -32,7 +32,7 @@ constexpr std::array<Link, 15> chain = {{
     {"txtRegNm", "txtRegNm", "txtRegNm", "Registration No. Can not be blank !", ""},
     {"txtPltArea", "txtPltArea", "txtPltArea", "Plot Area Can not be blank !", ""},
     {"txtActualArea", "txtActualArea", "txtActualArea", "Actual Area Can not be blank !", ""},
-}};
+});
 
 class FirstPageTest : public ParticularsTest {
 protected:

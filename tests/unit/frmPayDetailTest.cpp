@@ -20,7 +20,7 @@ struct RowNames {
 };
 
 /// The nine rows from the top of the form to its foot.
-constexpr std::array<RowNames, 9> rowNames = {{
+constexpr std::array rowNames = std::to_array<RowNames>({
     {"txtScrutinyRArea", "txtScrutinyRRate", "txtScrutinyRAmount"},
     {"txtScrutinyCArea", "txtScrutinyCRate", "txtScrutinyCAmount"},
     {"txtScrutinyIndArea", "txtScrutinyINDRate", "txtScrutinyINDAmount"},
@@ -30,7 +30,7 @@ constexpr std::array<RowNames, 9> rowNames = {{
     {"txtArea", "txtRate", "txtTotal"},
     {"txtDevAreaC", "txtDevRateC", "txtDevAmtC"},
     {"txtDevAreaI", "txtDevRateI", "txtDevAmtI"},
-}};
+});
 
 constexpr std::string_view specialCharacter = "Do not enter any special character [!@#$%^&*]";
 
@@ -714,7 +714,7 @@ TEST_F(frmPayDetailTest, ClosingTheFormHidesItAndKeepsItsValues) {
 
 // In the whole system
 
-constexpr std::array<std::string_view, 35> paymentElements = {
+constexpr std::array paymentElements = std::to_array<std::string_view>({
     "AREADEVRESI",
     "RATEDEVRESI",
     "AMTDEVRESI",
@@ -750,7 +750,7 @@ constexpr std::array<std::string_view, 35> paymentElements = {
     "AREA-SCRUT-IND-2",
     "RATE-SCRUT-IND-2",
     "AMOUNT-SCRUT-IND-2",
-};
+});
 
 /// A proposal that is saved through the menu; what its payment detail then reads.
 class PaymentInTheDocumentTest : public ::testing::Test {

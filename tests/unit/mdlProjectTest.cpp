@@ -28,7 +28,7 @@ struct Membership {
     std::string_view others;
 };
 
-constexpr std::array<Membership, 14> memberships = {{
+constexpr std::array memberships = std::to_array<Membership>({
     {"alpha", true, false, "'"},
     {"alphanumeric", true, true, ""},
     {"numeric", false, true, ""},
@@ -43,7 +43,7 @@ constexpr std::array<Membership, 14> memberships = {{
     {"invalid", false, true, "<>/_!@#$%^&*-()?{}[]+|~`,;="},
     {"amp", false, false, "[!@#$%^&*]`"},
     {"alphaint", true, false, "'."},
-}};
+});
 
 TEST(chkString, FindsTheMembersOfEachKindAndNoOtherCharacter) {
     for (const Membership& kind : memberships) {
@@ -207,8 +207,8 @@ TEST_F(mdlProjectTest, BoxesOpenWhiteAndCloseGreyWithTheirText) {
 template <int place>
 class NamedForm : public DataForm {
 public:
-    static constexpr std::array<std::string_view, 5> names = {"frmAnnexureA", "AnnexureACont", "frmDocCheckList",
-                                                              "frmPayDetail", "frmMain712"};
+    static constexpr std::array names = std::to_array<std::string_view>(
+        {"frmAnnexureA", "AnnexureACont", "frmDocCheckList", "frmPayDetail", "frmMain712"});
     static constexpr std::string_view formName = names[place];
     explicit NamedForm(Proposal& proposal) : DataForm(proposal, formName, "") {}
 };
