@@ -64,9 +64,7 @@ qreal PaperPages::needed(std::size_t strip) const {
     qreal height = 0;
     for (std::size_t next = strip; next < body.size(); ++next) {
         height += body[next].spaceBefore;
-        if (body[next].breakable && !body[next].keepWithNext)
-            return height + body[next].cut(0, body[next].height() / 2);
-        height += body[next].height();
+        height += body[next].keepWithNext ? body[next].height() : body[next].least();
         if (!body[next].keepWithNext)
             break;
     }
@@ -89,8 +87,11 @@ void PaperPages::place(const PaperStrip& strip) {
         y += strip.spaceBefore;
     qreal from = 0;
     while (y + strip.height() - from > bottom + 1) {
-        const qreal to = std::min(strip.cut(from, bottom - y), strip.height());
-        pages.back().push_back({&strip, y, from, to});
+        qreal to = strip.cut(from, bottom - y);
+        if (to <= from && atHead())
+            to = from + bottom - y;  // a line higher than a page
+        if (to > from)
+            pages.back().push_back({&strip, y, from, to});
         from = to;
         beginPage(&strip);
     }

@@ -17,57 +17,58 @@ const QColor shade(0xEE, 0xEE, 0xEE);
 
 }  // namespace
 
-PaperStrip::PaperStrip(std::unique_ptr<QTextDocument> document, std::vector<Column> columns, Lines lines)
-    : text(std::move(document)), columns(std::move(columns)), lines(lines), total(text->size().height()) {}
-
-std::vector<PaperStrip::Line> PaperStrip::linesOfText() const {
-    std::vector<Line> found;
+PaperStrip::PaperStrip(std::unique_ptr<QTextDocument> document, std::vector<Column> columns, Lines ruled)
+    : text(std::move(document)), columns(std::move(columns)), ruled(ruled), total(text->size().height()) {
     for (QTextBlock block = text->begin(); block.isValid(); block = block.next()) {
-        const qreal top = text->documentLayout()->blockBoundingRect(block).top();
-        for (int line = 0; line < block.layout()->lineCount(); ++line) {
-            const QRectF place = block.layout()->lineAt(line).rect();
-            found.push_back({top + place.top(), top + place.bottom()});
+        const QPointF origin = text->documentLayout()->blockBoundingRect(block).topLeft();
+        for (int number = 0; number < block.layout()->lineCount(); ++number) {
+            const QTextLine line = block.layout()->lineAt(number);
+            lines.push_back({origin.y() + line.rect().top(), origin.y() + line.rect().bottom(), line, origin});
         }
     }
-    return found;
+    std::vector<Line> downwards = lines;
+    std::ranges::sort(downwards, {}, &Line::top);
+    for (const Line& line : downwards)
+        if (cuts.empty() || line.top > cuts.back() - 1)
+            cuts.push_back(line.bottom);
+        else
+            cuts.back() = std::max(cuts.back(), line.bottom);
+}
+
+qreal PaperStrip::least() const {
+    constexpr std::size_t few = 4;
+    return !breakable || cuts.size() < few ? total : cuts[1];
 }
 
 qreal PaperStrip::cut(qreal from, qreal room) const {
-    const std::vector<Line> all = linesOfText();
     qreal best = from;
-    for (const Line& line : all) {
-        const qreal place = line.bottom;
-        const bool cutsAnother = std::ranges::any_of(
-            all, [&](const Line& other) { return other.top < place - 1 && other.bottom > place + 1; });
-        if (!cutsAnother && place <= from + room)
-            best = std::max(best, place);
+    for (std::size_t number = 0; number < cuts.size() && cuts[number] <= from + room; ++number) {
+        const bool leavesOneLine = breakable && cuts.size() > 2 && number == cuts.size() - 2;
+        if (!leavesOneLine)
+            best = std::max(best, cuts[number]);
     }
-    return best > from ? best : from + room;
+    return best;
 }
 
 void PaperStrip::paint(QPainter& painter, qreal from, qreal to) const {
     const qreal width = columns.back().left + columns.back().width;
-    const bool whole = from <= 0 && to >= total;
     painter.save();
     if (shaded)
         painter.fillRect(QRectF(0, 0, width, to - from), shade);
     paintLines(painter, to - from, to >= total);
-    if (!whole)
-        painter.setClipRect(QRectF(0, 0, width, to - from));
     painter.translate(0, -from);
-    QAbstractTextDocumentLayout::PaintContext context;
-    context.palette.setColor(QPalette::Text, Qt::black);
-    if (!whole)
-        context.clip = QRectF(0, from, width, to - from);
-    text->documentLayout()->draw(&painter, context);
+    painter.setPen(Qt::black);
+    for (const Line& line : lines)
+        if (line.top > from - 1 && line.bottom < to + 1)
+            line.text.draw(&painter, line.origin);
     painter.restore();
 }
 
 void PaperStrip::paintLines(QPainter& painter, qreal height, bool last) const {
     const Column& end = columns.back();
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(lines == Lines::AboveAndBelow ? lightLine : QColor(Qt::black), hairline));
-    switch (lines) {
+    painter.setPen(QPen(ruled == Lines::AboveAndBelow ? lightLine : QColor(Qt::black), hairline));
+    switch (ruled) {
     case Lines::None:
         break;
     case Lines::AboveAndBelow:

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QRectF>
+#include <QTextLayout>
 #include <memory>
 #include <vector>
 
@@ -31,8 +31,10 @@ public:
     PaperStrip(std::unique_ptr<QTextDocument> text, std::vector<Column> columns, Lines lines);
 
     qreal height() const { return total; }
-    /// Where the strip can be cut when no more than `room` of it, counted from `from`, is left on a page: below the
-    /// last line of text that fits as a whole, in all columns; `from + room` when not one does.
+    /// The least that may stand on a page alone: the strip as a whole, or two lines of running text.
+    qreal least() const;
+    /// Where the strip is cut when no more than `room` of it, counted from `from`, is left on a page: below the last
+    /// line of text that fits as a whole, in all columns; `from` when not one does.
     qreal cut(qreal from, qreal room) const;
     /// Draws the part between two heights, the first of them at the painter's origin.
     void paint(QPainter& painter, qreal from, qreal to) const;
@@ -47,14 +49,17 @@ private:
     struct Line {
         qreal top;
         qreal bottom;
+        QTextLine text;
+        QPointF origin;  ///< of the text that the line is of
     };
-    std::vector<Line> linesOfText() const;
     void paintLines(QPainter& painter, qreal height, bool last) const;
 
     std::unique_ptr<QTextDocument> text;
     std::vector<Column> columns;
-    Lines lines;
+    Lines ruled;
     qreal total;
+    std::vector<Line> lines;  ///< cell after cell, as it is read
+    std::vector<qreal> cuts;  ///< heights at which no line is cut, the last one below all of them
 };
 
 /// The strips of the sections, one below the other.
