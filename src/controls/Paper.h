@@ -27,7 +27,8 @@ enum class RowStyle {
     Plain,
     Bold,
     Centred,
-    Right,     ///< in the right half of the sheet: the closing of a letter
+    Right,     ///< in the right half of the sheet, each item a line: the closing of a letter; two of them have room to
+               ///< sign between them
     Indented,  ///< one of a numbered list: the first item is the number
     Head,      ///< head of a table's columns, printed again on each sheet that the table goes on to
     Band,      ///< one cell over the whole width of a table, in bold

@@ -5,6 +5,7 @@
 #include <QTextTable>
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 #include "desktop/PaperStrip.h"
 #include "desktop/PaperText.h"
@@ -69,7 +70,7 @@ std::vector<PaperStrip::Column> columnsOf(const std::vector<qreal>& widths, qrea
     return columns;
 }
 
-/// A document of one paragraph.
+/// A document of one paragraph; each cell begins a line.
 std::unique_ptr<QTextDocument> paragraph(const PaperRow& row, const TextLook& look, Qt::Alignment alignment,
                                          qreal indent, int lineHeight, const Date& date, qreal width) {
     auto document = paperDocument(width);
@@ -79,8 +80,12 @@ std::unique_ptr<QTextDocument> paragraph(const PaperRow& row, const TextLook& lo
     format.setLeftMargin(indent);
     format.setLineHeight(lineHeight, QTextBlockFormat::ProportionalHeight);
     cursor.setBlockFormat(format);
-    for (const PaperCell& cell : row.cells)
+    bool begun = false;
+    for (const PaperCell& cell : row.cells) {
+        if (std::exchange(begun, true))
+            cursor.insertText(QString(QChar::LineSeparator));
         insertItems(cursor, cell, look, date);
+    }
     return document;
 }
 
@@ -173,6 +178,7 @@ private:
     void letterLine(const PaperRow& row) {
         const TextLook look{letterText, row.style == RowStyle::Bold, FieldLook::Blank};
         const Qt::Alignment alignment = row.style == RowStyle::Centred ? Qt::AlignHCenter : Qt::AlignLeft;
+        const bool closing = row.style == RowStyle::Right;
         std::unique_ptr<QTextDocument> text;
         if (row.style == RowStyle::Indented && !row.cells.empty() && !row.cells.front().empty()) {
             constexpr qreal number = 12 * mm;
@@ -182,13 +188,22 @@ private:
         } else {
             // Lines with blanks have room for a hand.
             const bool blanks = std::ranges::any_of(row.cells.front(), &PaperItem::isField);
-            text = paragraph(row, look, alignment, row.style == RowStyle::Right ? width / 2 : 0, blanks ? 165 : 115,
+            text = paragraph(closing ? linesOf(row) : row, look, alignment, closing ? width / 2 : 0, blanks ? 165 : 115,
                              date, width);
         }
+        const bool signature = closing && &row != section.rows.data() && (&row - 1)->style == RowStyle::Right;
         PaperStrip& strip = add(std::move(text), columnsOf({width}), PaperStrip::Lines::None);
-        strip.spaceBefore = row.style == RowStyle::Right ? 6 * mm : mm;
+        strip.spaceBefore = signature ? 14 * mm : closing ? 6 * mm : mm;
         strip.breakable = true;
-        strip.keepWithNext = row.style == RowStyle::Right;
+        strip.keepWithNext = closing;
+    }
+
+    /// The row with each of its items in a cell of its own.
+    static PaperRow linesOf(const PaperRow& row) {
+        PaperRow lines{{}, row.style};
+        for (const PaperItem& item : row.cells.front())
+            lines.cells.push_back({item});
+        return lines;
     }
 
     void pair(const PaperRow& row) {

@@ -61,7 +61,7 @@ Paper chalan(std::string_view name, bool subdivision) {
         .header = {{SectionKind::Heading, {line({text("Payment Detail")}), line({text("%D")}, RowStyle::Right)}}},
         .body =
             {
-                {.kind = SectionKind::Table, .rows = fees(subdivision), .widths = {7, 42, 17, 15, 19}},
+                {.kind = SectionKind::Table, .rows = fees(subdivision), .widths = {7, 39, 17, 17, 20}, .figures = 3},
                 {SectionKind::Pairs,
                  {
                      pair("Mode of Payment ", {field("PayMode")}),

@@ -19,6 +19,9 @@ Paper forbldgcompletion() {
                      line({text("To,")}),
                      line({text("Municipal Corporation of the City of Sindhavali,")}),
                      line({text("Sindhavali .")}),
+                 }},
+                {SectionKind::Letter,
+                 {
                      line({text("Sir ,")}),
                      line({
                          text("I here by certify that the erection/re-erection of part/full development work/in on "
@@ -64,8 +67,9 @@ Paper forbldgcompletion() {
                               "building ."),
                      }),
                      line({text("Your's faithfully")}, RowStyle::Right),
-                     line({text("Signature of licenced Surveyor / "), text(" or Architect")}, RowStyle::Right),
-                     line({text("Surveyor/Engineer/Structural Engineer or Architect")}, RowStyle::Right),
+                     line({text("Signature of licenced Surveyor / "), text(" or Architect"),
+                           text("Surveyor/Engineer/Structural Engineer or Architect")},
+                          RowStyle::Right),
                  }},
                 {SectionKind::Pairs,
                  {

@@ -19,6 +19,9 @@ Paper rptFormofSupervision() {
                      line({text("The "), field("Officername")}),
                      line({text("Municipal Corporation of the City of Sindhavali,")}),
                      line({text("Sindhavali.")}),
+                 }},
+                {SectionKind::Letter,
+                 {
                      line({text("Sir,")}),
                      line({
                          text("The development erection / re-erection/demolition or material "),
@@ -43,8 +46,9 @@ Paper rptFormofSupervision() {
                          text("execution of the work in all respects."),
                      }),
                      line({text("Yours faithfully,")}, RowStyle::Right),
-                     line({text("Signature of licensed ")}, RowStyle::Right),
-                     line({text("Surveyor/Engineer/Structural Engineer/Supervisior/Architect")}, RowStyle::Right),
+                     line({text("Signature of licensed "),
+                           text("Surveyor/Engineer/Structural Engineer/Supervisior/Architect")},
+                          RowStyle::Right),
                  }},
                 {SectionKind::Pairs,
                  {

@@ -21,6 +21,9 @@ Paper rptNoticeforcommencementofwork() {
                      line({text("The Commissioner,")}),
                      line({text("Municipal Corporation of Sindhavali,")}),
                      line({text("Sindhavali.")}),
+                 }},
+                {SectionKind::Letter,
+                 {
                      line({text("Sir,")}),
                      line({
                          text("I hereby certify that the development works/erection/re-erection/demolition or material "

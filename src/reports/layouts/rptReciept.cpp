@@ -43,6 +43,9 @@ Paper rptReciept() {
                      line({text("To,")}),
                      line({text("The Commissioner,")}),
                      line({text("Municipal Corporation of the City of Sindhavali,")}),
+                 }},
+                {SectionKind::Letter,
+                 {
                      line({text("Sir,")}),
                      line({
                          text("I intend to carry out development in the site/to erect, to re-erect/to demolish/to make "

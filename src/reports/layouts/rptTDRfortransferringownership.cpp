@@ -17,6 +17,9 @@ Paper rptTDRfortransferringownership() {
                      line({text("The Commissioner,")}),
                      line({text("Municipal Corporation of Sindhavali,")}),
                      line({text("Sindhavali.")}),
+                 }},
+                {SectionKind::Letter,
+                 {
                      line({
                          text("I/WE,"),
                          field("FLD1"),
@@ -64,10 +67,16 @@ Paper rptTDRfortransferringownership() {
                 {SectionKind::Pairs,
                  {
                      pair("Deponent", {field("FLD14")}),
+                 }},
+                {SectionKind::Pairs,
+                 {
                      pair("Identified by me:", {field("FLD15")}),
                      pair("Advocate", {field("FLD16")}),
                      pair("Name &", {field("FLD17")}),
                      pair("address", {field("FLD18")}),
+                 }},
+                {SectionKind::Pairs,
+                 {
                      pair("Before Me:", {field("FLD19")}),
                      pair("Notary/Metropolitan Magistrate:", {field("FLD20")}),
                      pair("Name :", {field("FLD21")}),

@@ -19,6 +19,9 @@ Paper rptformforintimationofcompletionofworkuptoplinthlevel() {
                      line({text("To,")}),
                      line({text("Municipal Corporation of the City of Sindhavali,")}),
                      line({text("Sindhavali .")}),
+                 }},
+                {SectionKind::Letter,
+                 {
                      line({text("Sir ,")}),
                      line({
                          text("The construction upto plinth column upto plinth level has been completed"),
@@ -51,9 +54,9 @@ Paper rptformforintimationofcompletionofworkuptoplinthlevel() {
                          text("proceed with the rest of the work."),
                      }),
                      line({text("Your's faithfully")}, RowStyle::Right),
-                     line({text("Signature of licenced Surveyor / "), text("Supervisor or Architect")},
+                     line({text("Signature of licenced Surveyor / "), text("Supervisor or Architect"),
+                           text("Surveyor/Engineer/Structural Engineer or Architect")},
                           RowStyle::Right),
-                     line({text("Surveyor/Engineer/Structural Engineer or Architect")}, RowStyle::Right),
                  }},
                 {SectionKind::Pairs,
                  {
