@@ -7,6 +7,7 @@
 namespace plandesk {
 
 class Proposal;
+class ReportDesk;
 
 /// What forms ask of higher levels. The shell fills each in; a command that nobody filled in yet does nothing.
 struct Commands {
@@ -27,8 +28,13 @@ struct Commands {
     std::function<void(Fragment)> readBlock = [](Fragment) {};
     /// Opens the form of that name as the catalogue of forms tells; one that does not exist yet is told in a box.
     std::function<void(std::string_view name)> open = [](std::string_view) {};
-    /// Fills the report of that name and shows it; one that does not exist yet is told in a box.
+    /// Runs the procedure that feeds the report of that name from the live forms. False when it told of a failure
+    /// itself. RuntimeError 3265 for an unknown report.
+    std::function<bool(std::string_view report)> feed = [](std::string_view) { return false; };
+    /// What the print button of a form does: feeds the report of that name and shows it, if the button shows it at all.
     std::function<void(std::string_view report)> print = [](std::string_view) {};
+    /// Where reports are shown and printed, for the forms that belong to it; null until the shell has one.
+    ReportDesk* reports = nullptr;
 };
 
 }  // namespace plandesk

@@ -11,6 +11,17 @@ constexpr std::array plotAndOrderTables = std::to_array<Tables::Member>(
     {&Tables::rsPlot712, &Tables::rsULCOrderUS22, &Tables::rsOwnershipPRC, &Tables::rsULCOrder, &Tables::rsSchemeGrid});
 constexpr std::array ownershipTable = std::to_array<Tables::Member>({&Tables::rsOwnership});
 
+struct NamedTable {
+    std::string_view name;
+    Tables::Member table;
+};
+constexpr std::array reportTables = std::to_array<NamedTable>({
+    {"rsReportParticulars", &Tables::rsReportParticulars},
+    {"rsReportPayment", &Tables::rsReportPayment},
+    {"rsReportHeader", &Tables::rsReportHeader},
+    {"rsReportChecklist", &Tables::rsReportChecklist},
+});
+
 constexpr std::array allTables =
     std::to_array<std::span<const Tables::Member>>({plotTables, extractTables, ownerTables, holderTables, orderTables,
                                                     plotAndOrderTables, orderTables, ownershipTable});
@@ -44,9 +55,11 @@ Recordset& Tables::ensure(Member table) {
 
 std::vector<Tables::Named> Tables::byName() const {
     std::vector<Named> named;
-    named.reserve(tableDefinitions().size());
+    named.reserve(tableDefinitions().size() + reportTables.size());
     for (const TableDefinition& definition : tableDefinitions())
         named.push_back({definition.name, (this->*definition.table).get()});
+    for (const NamedTable& table : reportTables)
+        named.push_back({table.name, (this->*table.table).get()});
     return named;
 }
 

@@ -54,7 +54,14 @@ struct Tables {
     Reference rsDRCTransfer;
     Reference rsDRCUtilisation;
 
-    /// Creates every table of creationOrder, empty. Snapshots, rsOwnership712 and the development-rights tables stay.
+    // What reports are fed through: each made anew by its feed, which knows its columns
+    Reference rsReportParticulars;
+    Reference rsReportPayment;
+    Reference rsReportHeader;
+    Reference rsReportChecklist;
+
+    /// Creates every table of creationOrder, empty. Snapshots, rsOwnership712, the development-rights tables and those
+    /// of reports stay.
     void createAllTables();
 
     /// Creates the table, or those of the list in its order, empty.
@@ -78,7 +85,7 @@ struct TableDefinition {
     std::span<const Column> columns;
 };
 
-/// Every table with its columns, in the order of declaration.
+/// Every table with its columns, in the order of declaration, but for those of reports.
 std::span<const TableDefinition> tableDefinitions();
 
 // Tables that are always created together: whoever needs one of them empty gets all of them empty.

@@ -1,42 +1,67 @@
 #include "reports/ReportCatalogue.h"
 
+#include <algorithm>
 #include <array>
+#include <string>
+
+#include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "reports/Feeds.h"
 
 namespace plandesk {
 
 namespace {
 
-constexpr std::span<const Report* const> reports;  // none yet
+constexpr PaperPlace pageWindow{.left = 0, .top = 0, .width = 15000, .height = 9500};
+constexpr PaperPlace receiptWindow{.left = 0, .top = 0, .width = 15000, .height = 8750};
+constexpr PaperPlace letterWindow{.left = 0, .top = 600, .width = 15000, .height = 8750};
+constexpr PaperPlace discretionWindow{.left = 50, .top = 600, .width = 15000, .height = 8750};
 
-constexpr std::array toCome = std::to_array<std::string_view>({
-    "rptAnnexutreA",
-    "rptAnnexutreA1",
-    "rptAnnexutreA2",
-    "rptAnnexutreA3",
-    "rptAnnexutreA4",
-    "rptAnnexutreA5",
-    "rptPaymentDetails",
-    "rptPaymentDetails123",
-    "rptReciept",
-    "rptDocChecklist",
-    "rptFormofSupervision",
-    "rptNoticeforcommencementofwork",
-    "rptformforintimationofcompletionofworkuptoplinthlevel",
-    "forbldgcompletion",
-    "rptforpartoccupancycertificate",
-    "rptTDRfortransferringownership",
-    "rptDiscretionNewCase",
-    "rptDiscretionRevCase",
+constexpr ReportRow page(std::string_view name, std::string_view procedure = "") {
+    return {name, &feedParticulars, procedure, ShownBy::Procedure, pageWindow, true};
+}
+
+constexpr std::array catalogue = std::to_array<ReportRow>({
+    page("rptAnnexutreA", "fillParticulars"),
+    page("rptAnnexutreA1"),
+    page("rptAnnexutreA2"),
+    page("rptAnnexutreA3"),
+    page("rptAnnexutreA4"),
+    page("rptAnnexutreA5"),
+    {"rptPaymentDetails", &feedPayment, "fillPayment", ShownBy::Nobody, letterWindow},
+    {"rptPaymentDetails123", &feedPayment, "", ShownBy::Nobody, letterWindow},
+    {"rptReciept", &feedHeader, "fillHeader", ShownBy::Button, receiptWindow},
+    {"rptDocChecklist", &feedChecklist, "fillChecklist", ShownBy::Procedure, letterWindow},
+    {"rptDiscretionNewCase", &feedDiscretionNewCase, "", ShownBy::Button, discretionWindow},
+    {"rptDiscretionRevCase", &feedDiscretionRevCase, "", ShownBy::Button, discretionWindow},
+    {"rptFormofSupervision", &feedSupervision, "fillSupervision", ShownBy::Button, letterWindow},
+    {"rptNoticeforcommencementofwork", &feedCommencement, "fillCommencement", ShownBy::Button, letterWindow},
+    {"rptformforintimationofcompletionofworkuptoplinthlevel", &feedPlinthCompletion, "fillPlinthCompletion",
+     ShownBy::Button, letterWindow},
+    {"forbldgcompletion", &feedBuildingCompletion, "fillBuildingCompletion", ShownBy::Button, letterWindow},
+    {"rptforpartoccupancycertificate", &feedPartOccupancy, "fillPartOccupancy", ShownBy::Procedure, letterWindow},
+    {"rptTDRfortransferringownership", &feedTDROwnership, "fillTDROwnership", ShownBy::Button, letterWindow},
 });
+
+auto placeOf(std::string_view name) {
+    return std::ranges::find_if(catalogue, [&](const ReportRow& row) { return equalsIgnoringCase(row.name, name); });
+}
 
 }  // namespace
 
-std::span<const Report* const> reportCatalogue() {
-    return reports;
+std::span<const ReportRow> reportCatalogue() {
+    return catalogue;
 }
 
-std::span<const std::string_view> reportsToCome() {
-    return toCome;
+const ReportRow& findReport(std::string_view name) {
+    const auto row = placeOf(name);
+    if (row == catalogue.end())
+        throw RuntimeError(ErrorNumber::ItemNotFound, "There is no report " + std::string(name));
+    return *row;
+}
+
+bool isReport(std::string_view name) {
+    return placeOf(name) != catalogue.end();
 }
 
 }  // namespace plandesk

@@ -12,6 +12,9 @@
 #include "landrecords/Ownership.h"
 #include "particulars/frmAnnexureA.h"
 #include "particulars/particulars.h"
+#include "reports/ReportCatalogue.h"
+#include "reports/ReportDesk.h"
+#include "reports/rptAnnexture.h"
 #include "shell/FormCatalogue.h"
 
 namespace plandesk {
@@ -20,16 +23,22 @@ namespace {
 
 constexpr Colour windowBack = fromBlueGreenRed(0x669DC6);
 constexpr Colour highlight = fromBlueGreenRed(0xD3EBED);
-constexpr Colour boxBack = white;  // the system's colour number 9
+constexpr int formAfterReports = 5;  // its number in the catalogue of forms, from 1: the mandatory checklist
+constexpr Colour boxBack = white;    // the system's colour number 9
 
 }  // namespace
 
-mdiInterface::mdiInterface(Proposal& proposal) : proposal(proposal) {
+mdiInterface::mdiInterface(Proposal& proposal)
+    : proposal(proposal),
+      desk(std::make_unique<ReportDesk>(proposal)),
+      feeds(std::make_unique<rptAnnexture>(proposal, *desk)) {
     proposal.screen.setCaption("Plandesk  Proposal  System");
     proposal.forms.declare(formCatalogue());
     fillCommands();
     loadRoutine();
 }
+
+mdiInterface::~mdiInterface() = default;
 
 void mdiInterface::fillCommands() {
     Commands& asked = proposal.commands;
@@ -44,7 +53,9 @@ void mdiInterface::fillCommands() {
         plandesk::readBlock(proposal, fragment, reader.document());
     };
     asked.open = [this](std::string_view name) { openForm(name); };
-    asked.print = [this](std::string_view) { tellNotThereYet(); };
+    asked.feed = [this](std::string_view report) { return feeds->fill(report); };
+    asked.print = [this](std::string_view report) { feeds->print(report); };
+    asked.reports = desk.get();
 
     auto& named = proposal.procedures;
     named["saveProposal"] = asked.saveProposal;
@@ -57,6 +68,11 @@ void mdiInterface::fillCommands() {
     named["showSectionFourPage"] = [this] { showSectionFourPage(proposal); };
     named["showPaymentColors"] = [this] { proposal.forms.get<frmPayDetail>().showPaymentColors(); };
     named["createAllTables"] = [this] { proposal.tables.createAllTables(); };
+    named["bindParticularsPages"] = [this] { feeds->bindParticularsPages(); };
+    named["closeReports"] = [this] { closeReports(); };
+    for (const ReportRow& report : reportCatalogue())
+        if (!report.procedure.empty())
+            named[std::string(report.procedure)] = [this, &report] { feeds->fill(report.name); };
     named["readSections"] = [this] { reader.readSections(); };
     for (const DocumentBlock& block : documentBlocks()) {
         if (block.build && !block.builder.empty())
@@ -175,6 +191,14 @@ bool mdiInterface::requireParticulars() {
     if (missing)
         proposal.screen.message("Please Fill Particular of Development ! ", "Plandesk Proposal System ");
     return missing;
+}
+
+void mdiInterface::closeReports() {
+    desk->unloadAll();
+    if (proposal.noReportReturn)
+        openForm(formCatalogue()[formAfterReports - 1].name);
+    else
+        proposal.forms.get<frmAnnexureA>().show();
 }
 
 void mdiInterface::openForm(std::string_view name) {

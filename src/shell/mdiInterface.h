@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
@@ -14,6 +15,8 @@
 
 namespace plandesk {
 
+class ReportDesk;
+class rptAnnexture;
 struct DocumentBlock;
 
 /// The main window without its picture: menu, proposal flags, the commands New, Open, Save, Save As and Exit, timers.
@@ -22,6 +25,7 @@ class mdiInterface {
 public:
     /// Makes the forms known, fills in the proposal's commands and runs the load routine.
     explicit mdiInterface(Proposal& proposal);
+    ~mdiInterface();
 
     /// Whether the entry, and the submenu it stands in, can be pressed. False for a name that is no entry, and for all
     /// while a modal form is open.
@@ -34,6 +38,11 @@ public:
     bool pressClose();
     /// The window changed its size: the next tick of Timer2 paints the picture once.
     void resized();
+
+    ReportDesk& reports() { return *desk; }
+    const ReportDesk& reports() const { return *desk; }
+    /// Closes all reports and leads back to where they were asked for.
+    void closeReports();
 
     Colour backColor() const { return back; }
     bool timer2Enabled() const { return timer2Running; }
@@ -68,6 +77,8 @@ private:
 
     Proposal& proposal;
     ReadXML reader{proposal};
+    std::unique_ptr<ReportDesk> desk;
+    std::unique_ptr<rptAnnexture> feeds;
     Colour back;
     bool timer2Running = false;
     std::set<std::string, IgnoringCase> closed;  ///< entries that are not available now

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -23,5 +24,9 @@ struct Command {
 std::span<const Command> userCommands();     ///< what the user does
 std::span<const Command> machineCommands();  ///< what the machine does
 std::span<const Command> lookCommands();     ///< what is looked at
+std::span<const Command> reportCommands();   ///< what is looked at of the reports
+
+/// Tells of a failure when the two differ; of long texts, what stands around the first difference.
+void compare(Session& session, const std::string& what, std::string_view expected, std::string_view found);
 
 }  // namespace plandesk::driver

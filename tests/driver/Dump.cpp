@@ -101,8 +101,8 @@ void writeDump(const Session& session, std::ostream& out) {
         if (table)
             tables[std::string(name)] = toJson(*table);
     state["messages"] = messages(session.dialogs);
-    state["shown"] = Json::array();
-    state["printed"] = Json::array();
+    state["shown"] = session.reports.shown;
+    state["printed"] = session.reports.printed;
     // A text that is not valid UTF-8 does not stop the dump.
     out << state.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
 }

@@ -14,8 +14,6 @@
 
 namespace plandesk::driver {
 
-namespace {
-
 void compare(Session& session, const std::string& what, std::string_view expected, std::string_view found) {
     if (expected == found)
         return;
@@ -30,6 +28,8 @@ void compare(Session& session, const std::string& what, std::string_view expecte
                    quote(found.substr(start, longText)) + " (from byte " + std::to_string(start) +
                        "; they differ at byte " + std::to_string(at) + ")");
 }
+
+namespace {
 
 void expect(Session& session, const Words& words) {
     std::string found;
@@ -166,10 +166,6 @@ void expectRows(Session& session, const Words& words) {
         session.failed(words[0].text + " with " + words[1].text + " rows", std::to_string(table->rowCount()));
 }
 
-void notThereYet(Session&, const Words&) {
-    throw ScriptError("not there yet");
-}
-
 void print(Session& session, const Words& words) {
     try {
         session.out << textOf(valueOf(session, words[0])) << '\n';
@@ -227,9 +223,6 @@ constexpr std::array commands = std::to_array<Command>({
     {"expect-no-file", 1, 1, "PATH", expectNoFile},
     {"expect-table", 4, 4, "NAME ROW COLUMN VALUE", expectTable},
     {"expect-rows", 2, 2, "NAME N", expectRows},
-    {"expect-report", 3, 3, "NAME FIELD VALUE", notThereYet},
-    {"expect-shown", 1, 1, "NAME", notThereYet},
-    {"expect-printed", 1, 1, "NAME", notThereYet},
     {"print", 1, 1, "REF[.PROPERTY]", print},
     {"print-messages", 0, 0, "", printMessages},
     {"print-table", 1, 1, "NAME", printTable},

@@ -33,6 +33,24 @@ std::string RecordingDialogs::chooseFile(const FileDialog& dialog) {
     return answer == "cancel" || answer == "ok" ? dialog.fileName : answer;
 }
 
+std::string RecordingDialogs::chooseFolder(const std::string& /*title*/) {
+    return chooseFile({});
+}
+
+void ScriptedPrinter::writePdf(const Paper& paper, const std::filesystem::path& file) {
+    files.writeWhole(file, paper.name);
+}
+
+void RecordingReports::reportShown(const Preview& preview) {
+    keep(preview);
+    shown.emplace_back(preview.name);
+}
+
+void RecordingReports::reportPrinted(const Preview& preview) {
+    keep(preview);
+    printed.emplace_back(preview.name);
+}
+
 Date SetClock::today() const {
     if (set)
         return *set;

@@ -15,7 +15,7 @@ constexpr int deepestInclude = 16;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 const Command& findCommand(const std::string& name) {
-    for (const std::span<const Command> table : {userCommands(), machineCommands(), lookCommands()})
+    for (const std::span<const Command> table : {userCommands(), machineCommands(), lookCommands(), reportCommands()})
         if (const auto found = std::ranges::find(table, name, &Command::name); found != table.end())
             return *found;
     throw ScriptError("unknown command " + quote(name));
@@ -26,10 +26,12 @@ const Command& findCommand(const std::string& name) {
 Session::Session(std::string folder, std::string scriptName, std::ostream& out, std::ostream& err)
     : out(out),
       program(std::move(folder)),
-      proposal(Ports{dialogs, clock, files, program}),
+      proposal(Ports{dialogs, clock, files, program, Progress::unheard(), printer}),
       shell(proposal),
       err(err),
-      scriptName(std::move(scriptName)) {}
+      scriptName(std::move(scriptName)) {
+    shell.reports().observer = &reports;
+}
 
 Session::Status Session::run(std::istream& script) {
     try {

@@ -42,6 +42,8 @@ public:
     SetClock clock;
     FileStore files;
     ScriptedProgram program;
+    ScriptedPrinter printer{files};
+    RecordingReports reports;
     Proposal proposal;
     mdiInterface shell;
 

@@ -8,6 +8,7 @@
 #include "driver/Reference.h"
 #include "driver/Session.h"
 #include "proposal/Grid.h"
+#include "reports/ReportCatalogue.h"
 
 namespace plandesk::driver {
 
@@ -124,9 +125,12 @@ void deleteRow(Session& session, const Words& words) {
 void close(Session& session, const Words& words) {
     const std::string& name = words[0].text;
     const bool mainWindow = equalsIgnoringCase(name, "mdiInterface");
-    if (!mainWindow && !session.proposal.forms.known(name))
+    const bool report = isReport(name);
+    if (!mainWindow && !report && !session.proposal.forms.known(name))
         throw ScriptError("unknown form " + quote(name));
     userAct(session, words[0], [&] {
+        if (report)
+            return session.shell.reports().pressClose(name);
         if (mainWindow)
             return session.shell.pressClose();
         Form* form = session.proposal.forms.loaded(name);
@@ -154,7 +158,7 @@ constexpr std::array commands = std::to_array<Command>({
     {"cellclick", 3, 3, "REF ROW COLUMN", onCell<user::clickCell>},
     {"cellbutton", 3, 3, "REF ROW COLUMN", onCell<user::pressCellButton>},
     {"deleterow", 2, 2, "REF ROW", deleteRow},
-    {"close", 1, 1, "FORM", close},
+    {"close", 1, 1, "FORM or REPORT", close},
     {"answer", 1, 1, "VALUE", answer},
 });
 

@@ -85,10 +85,14 @@ TEST(DriverScript, AMalformedValueEndsTheRun) {
     expectWrong("fail read 1", "fail takes: write N, N from 1");
 }
 
-TEST(DriverScript, ReportsAreNotThereYet) {
-    expectWrong("expect-report r f v", "not there yet");
-    expectWrong("expect-shown r", "not there yet");
-    expectWrong("expect-printed r", "not there yet");
+TEST(DriverScript, UnknownReportsAndFieldsAreWrong) {
+    expectWrong("expect-report rptReceipt LicNo 1", "unknown report \"rptReceipt\"");
+    expectWrong("expect-shown rptReceipt", "unknown report \"rptReceipt\"");
+    expectWrong("expect-printed rptReceipt", "unknown report \"rptReceipt\"");
+    expectWrong("print-layout rptReceipt", "unknown report \"rptReceipt\"");
+    expectWrong("print-report rptReceipt", "unknown report \"rptReceipt\"");
+    expectWrong("expect-report rptReciept LicNo(one) 1", "\"one\" is no whole number from 0");
+    expectWrong("expect-report rptReciept LicNo(1 1", "unknown field \"LicNo(1\"");
 }
 
 TEST(DriverScript, AWrongScriptCountsMoreThanAFailure) {

@@ -147,7 +147,7 @@ TEST(Tables, AreCreatedWithTheColumnsOfTheirOwnName) {
 }
 
 TEST(Tables, AreAllAbsentAtFirst) {
-    EXPECT_EQ(Tables().byName().size(), 24u);
+    EXPECT_EQ(Tables().byName().size(), 28u);
     EXPECT_TRUE(present(Tables()).empty());
 }
 

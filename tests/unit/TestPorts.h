@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "base/RuntimeError.h"
+#include "controls/Paper.h"
 #include "controls/Ports.h"
 
 // A machine that lives in memory: the tests queue what the user answers and read afterwards what was asked.
@@ -41,6 +42,10 @@ public:
     }
     std::string openFile(const FileDialog& dialog) override { return chooseFile(dialog); }
     std::string saveFile(const FileDialog& dialog) override { return chooseFile(dialog); }
+    std::string chooseFolder(const std::string& /*title*/) override {
+        const std::string answer = nextAnswer("cancel");
+        return answer == "cancel" ? "" : answer;
+    }
 
     /// The boxes since the last call.
     std::vector<Message> take() { return std::exchange(messages, {}); }
@@ -106,14 +111,43 @@ public:
     void end() override { ++ends; }
 };
 
+/// Keeps what was printed and written as PDF, and fails as told.
+class RecordingPrinter : public Printer {
+public:
+    bool isReady = true;
+    std::vector<std::string> printed;  ///< names of the reports
+    std::vector<std::filesystem::path> files;
+    std::vector<Paper> papers;  ///< all that was put on paper or into a file, oldest first
+    /// Thrown for a report of that name.
+    std::map<std::string, RuntimeError> failures;
+
+    bool ready() override { return isReady; }
+    void print(const Paper& paper) override {
+        take(paper);
+        printed.emplace_back(paper.name);
+    }
+    void writePdf(const Paper& paper, const std::filesystem::path& file) override {
+        take(paper);
+        files.push_back(file);
+    }
+
+private:
+    void take(const Paper& paper) {
+        if (const auto failure = failures.find(std::string(paper.name)); failure != failures.end())
+            throw RuntimeError(failure->second);
+        papers.push_back(paper);
+    }
+};
+
 /// The surroundings of one system under test; they must outlive it.
 struct TestPorts {
     RecordingDialogs dialogs;
     FixedClock clock;
     MemoryFiles files;
     RecordingProgram program;
+    RecordingPrinter printer;
 
-    operator Ports() { return {dialogs, clock, files, program}; }
+    operator Ports() { return {dialogs, clock, files, program, Progress::unheard(), printer}; }
 };
 
 }  // namespace test
