@@ -1,7 +1,9 @@
 #include "landrecords/PlotNumbering.h"
 
 #include <limits>
+#include <span>
 #include <string>
+#include <vector>
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
@@ -42,6 +44,38 @@ void filterToOthers(Recordset& table, const std::vector<Plot>& plots) {
     table.setFilter(expression);
 }
 
+/// Counts extracts over all plots, whatever filter lies on the table. The first count clears it.
+class ExtractCounter {
+public:
+    explicit ExtractCounter(Recordset& plots) : plots(plots), rows(plots.allRows()) {}
+
+    /// Extracts of the plots numbered below `plot`, or up to it when `inclusive`. RuntimeError 6 beyond 16 bits.
+    std::int16_t before(std::int32_t plot, bool inclusive) {
+        clearFilter();
+        std::int16_t sum = 0;
+        for (const std::span<const Value> row : rows) {
+            const auto* number = std::get_if<std::int32_t>(&row[PlotColumn::SrNo]);
+            if (number && (*number < plot || (inclusive && *number == plot)))
+                sum = added16(sum, toInteger16(valueNumber(row[PlotColumn::NoOfPRC])));
+        }
+        return sum;
+    }
+
+private:
+    void clearFilter() {
+        if (cleared)
+            return;
+        const Bookmark place = plots.bookmark();
+        plots.setFilter("");
+        plots.setBookmark(place);
+        cleared = true;
+    }
+
+    Recordset& plots;
+    std::vector<std::span<const Value>> rows;
+    bool cleared = false;
+};
+
 }  // namespace
 
 std::int16_t extractCount(Recordset& plots) {
@@ -55,23 +89,11 @@ std::int16_t sumOfExtracts(Recordset& plots) {
     return sum;
 }
 
-std::int16_t countBeforePlot(Recordset& plots, std::int32_t plot, bool inclusive) {
-    const Bookmark place = plots.bookmark();
-    plots.setFilter("");
-    std::int16_t sum = 0;
-    if (plots.recordCount() > 0) {
-        plots.setFilter((inclusive ? "SrNo <=" : "SrNo <") + std::to_string(plot));
-        sum = sumOfExtracts(plots);
-    }
-    plots.setFilter("");
-    plots.setBookmark(place);
-    return sum;
-}
-
 NumberChanges comparePlots(Recordset& saved, Recordset& plots) {
     NumberChanges changes;
     const std::vector<Plot> before = visiblePlots(saved);
     const std::vector<Plot> now = visiblePlots(plots);
+    ExtractCounter counter(plots);
     std::int32_t passed = 0;  // extracts of the old plots gone by
     std::int32_t grown = 0;
     for (const Plot& old : before) {
@@ -80,7 +102,7 @@ NumberChanges comparePlots(Recordset& saved, Recordset& plots) {
                 continue;
             if (present.count > old.count) {
                 grown = present.count - old.count;
-                const std::int32_t last = countBeforePlot(plots, old.number, false) + old.count;
+                const std::int32_t last = counter.before(old.number, false) + old.count;
                 for (std::int32_t i = 1; i <= grown; ++i)
                     changes.added.push_back(last + i);
             } else {
@@ -103,7 +125,7 @@ NumberChanges comparePlots(Recordset& saved, Recordset& plots) {
     if (before.size() > now.size()) {
         filterToOthers(saved, now);  // the filter stays
         for (const Plot& gone : visiblePlots(saved)) {
-            const std::int32_t first = countBeforePlot(plots, gone.number, true);
+            const std::int32_t first = counter.before(gone.number, true);
             for (std::int32_t i = 1; i <= gone.count; ++i)
                 changes.deleted.push_back(first + i);
         }

@@ -1,27 +1,17 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
 
+#include "proposal/ExtractGaps.h"
 #include "proposal/Recordset.h"
 
 namespace plandesk {
-
-/// The extract numbers that a change of the plots brings and takes, in the order in which they are applied.
-struct NumberChanges {
-    std::vector<std::int32_t> added;
-    std::vector<std::int32_t> deleted;
-};
 
 /// Extract count of the current plot row; a null counts as 0. RuntimeError 6 beyond 16 bits.
 std::int16_t extractCount(Recordset& plots);
 
 /// Sum of the extract counts of the visible plots. Leaves the table behind its last row. RuntimeError 6 beyond 16 bits.
 std::int16_t sumOfExtracts(Recordset& plots);
-
-/// Sum of the extract counts of the plots numbered below `plot`, or up to it when `inclusive`. Clears the filter and
-/// keeps the current row. RuntimeError 6 beyond 16 bits.
-std::int16_t countBeforePlot(Recordset& plots, std::int32_t plot, bool inclusive);
 
 /// Works out which extract numbers came and went between the snapshot of the plots and the plots now. Plots are matched
 /// by `SrNo`. The numbers to delete are told in the old numbering. Leaves `plots` without a filter; when plots were

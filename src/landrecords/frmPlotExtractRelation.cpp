@@ -229,23 +229,14 @@ void frmPlotExtractRelation::saveRelation(const Tab& tab) {
 // Numbers to delete were worked out in the old numbering and are applied upwards, each renumbering what follows, after
 // the additions have moved the rows: from the second number on the wrong rows go. Saved proposals have come to be so.
 void frmPlotExtractRelation::applyNumbers(const ExtractFamily& family, const NumberChanges& changes) {
-    const Date today = screen().ports.clock.today();
+    const Renumbering own(changes);
+    const Renumbering shared(changes, family.is712 ? 0 : toInteger32(leadingNumber(txtNoOfExtract712.text())));
+    if (!own.adds() && !own.deletes())
+        return;
     const auto gaps = gapTables(family);
-    const auto shift = [this, &family](const GapTable& gap) {
-        return gap.shared && !family.is712 ? toInteger32(leadingNumber(txtNoOfExtract712.text())) : 0;
-    };
-    ProgressOf progress(screen().ports.progress, caption(),
-                        static_cast<int>(changes.added.size() + changes.deleted.size()));
-    for (const std::int32_t number : changes.added) {
-        for (const GapTable& gap : gaps)
-            if (number > 0)
-                openGap(proposal.tables.ensure(gap.table), number + shift(gap), gap.kind, today);
-        progress.step();
-    }
-    for (const std::int32_t number : changes.deleted) {
-        for (const GapTable& gap : gaps)
-            if (number > 0)
-                closeGap(proposal.tables.ensure(gap.table), number + shift(gap));
+    ProgressOf progress(screen().ports.progress, caption(), static_cast<int>(gaps.size()));
+    for (const GapTable& gap : gaps) {
+        renumber(proposal.tables.ensure(gap.table), gap.shared ? shared : own, gap.kind, screen().ports.clock.today());
         progress.step();
     }
 }

@@ -85,6 +85,19 @@ void addAndDeleteMiddleExtract(benchmark::State& state) {
     addAndDeleteExtract(state, 0, static_cast<double>(state.range(0)) / 2 * (ownersOfExtract + 2 + ulcTables));
 }
 
+/// As many new extracts as there are, before half of them, and away again: each numbers all behind it anew.
+void addAndDeleteAsManyExtracts(benchmark::State& state) {
+    Records records(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        for (const int count : {records.extracts / 2 + records.extracts, records.extracts / 2}) {
+            records.setCount(0, count);
+            records.saveRelation();
+            records.openRelation();
+        }
+    }
+    countRows(state, static_cast<double>(state.range(0)) * (ownersOfExtract + 2 + 3 * ulcTables));
+}
+
 void saveFirstRelation(benchmark::State& state) {
     World world;
     for (auto _ : state) {
@@ -151,6 +164,7 @@ BENCHMARK(changeNumberOfOwners)->Apply(sizes);
 BENCHMARK(addAndDeleteLastExtract)->Apply(sizes);
 // A share of all rows touched.
 BENCHMARK(addAndDeleteMiddleExtract)->Apply(sizes);
+BENCHMARK(addAndDeleteAsManyExtracts)->Apply(sizes);
 BENCHMARK(saveFirstRelation)->Apply(sizes);
 BENCHMARK(loadExtractForm)->Apply(sizes);
 BENCHMARK(saveExtracts)->Apply(sizes);

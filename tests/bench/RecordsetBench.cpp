@@ -73,8 +73,8 @@ void openAndCloseGap(benchmark::State& state, bool atFront) {
     Owners owners(state);
     const int number = atFront ? 1 : owners.extracts + 1;
     for (auto _ : state) {
-        openGap(owners.table, number, GapKind::NumberOnly, today);
-        closeGap(owners.table, number);
+        renumber(owners.table, Renumbering({.added = {number}, .deleted = {}}), GapKind::NumberOnly, today);
+        renumber(owners.table, Renumbering({.added = {}, .deleted = {number}}), GapKind::NumberOnly, today);
     }
 }
 

@@ -16,6 +16,14 @@ namespace {
 
 const Date today{2024, 3, 9};
 
+void openGap(Recordset& table, int number, GapKind kind, Date day) {
+    renumber(table, Renumbering({.added = {number}, .deleted = {}}), kind, day);
+}
+
+void closeGap(Recordset& table, int number) {
+    renumber(table, Renumbering({.added = {}, .deleted = {number}}), GapKind::NumberOnly, today);
+}
+
 struct ExtractGaps : testing::Test {
     void addOwner(int extract, const std::string& name) {
         owners.addNew();
