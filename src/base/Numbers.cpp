@@ -238,7 +238,7 @@ double leadingNumber(std::string_view text) {
 }
 
 bool isNumeric(std::string_view text) {
-    return wholeNumber(text).has_value();
+    return digitsValue(text) || wholeNumber(text);
 }
 
 double toDouble(std::string_view text) {

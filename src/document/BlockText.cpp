@@ -1,6 +1,8 @@
 #include "document/BlockText.h"
 
-#include <string_view>
+#include <algorithm>
+#include <charconv>
+#include <iterator>
 
 #include "base/Text.h"
 #include "proposal/mdlProject.h"
@@ -15,11 +17,40 @@ void appendTrimmed(std::string& xml, const Value& value) {
 }
 
 void appendEscaped(std::string& xml, const Value& value) {
-    const auto* text = std::get_if<std::string>(&value);
-    if (text && text->find_first_of("&<>") != std::string::npos)
-        xml += EscapeXML(trim(*text));
+    if (const auto* text = std::get_if<std::string>(&value))
+        appendEscapedText(xml, *text);
     else
         appendTrimmed(xml, value);
+}
+
+void appendEscapedText(std::string& xml, std::string_view text) {
+    const auto special = [](char c) { return c == '&' || c == '<' || c == '>'; };
+    if (std::ranges::any_of(text, special))
+        xml += EscapeXML(trim(text));
+    else
+        xml += trim(text);
+}
+
+std::string_view trimmedText(const Value& cell) {
+    const auto* text = std::get_if<std::string>(&cell);
+    return text ? trim(*text) : std::string_view();
+}
+
+void appendNumber(std::string& xml, int number) {
+    char digits[16];
+    xml.append(digits, std::to_chars(digits, std::end(digits), number).ptr);
+}
+
+void openNumbered(std::string& xml, std::string_view element, int number) {
+    xml.append("<").append(element);
+    appendNumber(xml, number);
+    xml += '>';
+}
+
+void closeNumbered(std::string& xml, std::string_view element, int number) {
+    xml.append("</").append(element);
+    appendNumber(xml, number);
+    xml += '>';
 }
 
 }  // namespace plandesk

@@ -1,11 +1,15 @@
 #include "document/LandRecordBlocks.h"
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Controls.h"
+#include "document/BlockText.h"
 #include "landrecords/Encumbrances.h"
 #include "landrecords/ExtractForm.h"
 #include "landrecords/ExtractFormKind.h"
@@ -54,66 +58,92 @@ constexpr Block blockPRC = {
     .statics = staticsPRC,
 };
 
-Text trimmed(Recordset& table, int column) {
-    return Text(trim(valueText(table.get(column))));
-}
+using Row = std::span<const Value>;
 
-Text statics(const Block& block, Recordset& extracts) {
-    Text text;
+void appendStatics(Text& xml, const Block& block, Row extract) {
+    xml += "<Static>";
     for (const int column : block.statics) {
         if (column != block.statics.front())
-            text += "#";
-        const Text value = trimmed(extracts, column);
-        text += block.form.family.is712 ? EscapeXML(value) : value;
+            xml += '#';
+        const auto append = block.form.family.is712 ? appendEscaped : appendTrimmed;
+        append(xml, extract[static_cast<std::size_t>(column)]);
     }
-    return text;
+    xml += "</Static>";
 }
 
 std::string_view statusWord(const Value& status) {
-    if (isNull(status))
-        return "";
-    const Text text = valueText(status);
+    const auto* text = std::get_if<Text>(&status);
     // "---- Select ----" of the list is not the untouched default, and so is written as "PAH".
-    return trim(text) == trim(noStatus) ? "" : text == "Signed" ? "Sign" : "PAH";
+    return !text || trim(*text) == trim(noStatus) ? "" : *text == "Signed" ? "Sign" : "PAH";
 }
 
-Text owner(const Block& block, Recordset& owners) {
-    Text text = EscapeXML(trimmed(owners, OwnerColumn::Name)) + "#";
-    text.append(statusWord(owners.get(OwnerColumn::SingingStatus))).append("#");
-    text += std::to_string(encumbranceCode(trimmed(owners, OwnerColumn::Encumbrances)));
-    Text type = trimmed(owners, OwnerColumn::OwnerType);
+void appendOwner(Text& xml, const Block& block, Row owner) {
+    appendEscaped(xml, owner[OwnerColumn::Name]);
+    xml.append("#").append(statusWord(owner[OwnerColumn::SingingStatus])).append("#");
+    appendNumber(xml, encumbranceCode(trimmedText(owner[OwnerColumn::Encumbrances])));
+    std::string_view type = trimmedText(owner[OwnerColumn::OwnerType]);
     if (type == trim(noOwnerType))
-        type.clear();
+        type = {};
     // The 7/12 block has no "#" before the type: its reader expects three pieces.
-    return text + (block.form.family.is712 ? EscapeXML(type) : "#" + type);
+    if (block.form.family.is712)
+        appendEscapedText(xml, type);
+    else
+        xml.append("#").append(type);
 }
 
-Text holder(Recordset& holders) {
-    return trimmed(holders, HolderColumn::Name) + "#" +
-           (valueNumber(holders.get(HolderColumn::PAHSing)) != 0 ? "1" : "0");
+void appendHolder(Text& xml, const Block& /*block*/, Row holder) {
+    appendTrimmed(xml, holder[HolderColumn::Name]);
+    xml += valueNumber(holder[HolderColumn::PAHSing]) != 0 ? "#1" : "#0";
 }
 
-/// Number of the rows of one extract, then one numbered element for each.
-template <class RowText>
-void appendRows(Text& xml, Recordset& table, std::string_view key, std::string_view count, std::string_view element,
-                RowText rowText) {
-    table.setFilter("");
-    table.setFilter(key);
-    appendElement(xml, count, std::to_string(table.recordCount()));
-    for (table.moveFirst(); !table.eof(); table.moveNext())
-        appendElement(xml, Text(element) + std::to_string(table.absolutePosition()), rowText());
+/// What an extract has several of: an element with their number, then a numbered one for each.
+struct Members {
+    Tables::Member ExtractFamily::*table;
+    std::string_view count;
+    std::string_view element;
+    void (*append)(Text& xml, const Block& block, Row row);
+};
+
+constexpr Members members[] = {
+    {&ExtractFamily::owners, "NoOfOwner", "OWNER", appendOwner},
+    {&ExtractFamily::holders, "NoOfPAH", "PAH", appendHolder},
+};
+
+Recordset& tableOf(const Members& each, const Block& block, Proposal& proposal) {
+    return proposal.tables.ensure(block.form.family.*each.table);
+}
+
+/// RuntimeError 3001 for a row without one.
+std::int32_t extractNumber(Row extract) {
+    if (const auto* number = std::get_if<std::int32_t>(&extract[ExtractColumn::ExtNo]))
+        return *number;
+    throw RuntimeError(ErrorNumber::ArgumentsOfWrongType);
 }
 
 void appendExtract(Text& xml, const Block& block, Proposal& proposal, Recordset& extracts) {
-    Recordset& owners = proposal.tables.ensure(block.form.family.owners);
-    Recordset& holders = proposal.tables.ensure(block.form.family.holders);
-    const Text element = Text(block.extract) + std::to_string(extracts.absolutePosition());
-    const Text key = "ExtNo = " + valueText(extracts.get(ExtractColumn::ExtNo));
-    xml.append("<").append(element).append(">");
-    appendElement(xml, "Static", statics(block, extracts));
-    appendRows(xml, owners, key, "NoOfOwner", "OWNER", [&] { return owner(block, owners); });
-    appendRows(xml, holders, key, "NoOfPAH", "PAH", [&] { return holder(holders); });
-    xml.append("</").append(element).append(">");
+    const int place = extracts.absolutePosition();
+    const Row extract = extracts.row();
+    const std::int32_t number = extractNumber(extract);
+    openNumbered(xml, block.extract, place);
+    appendStatics(xml, block, extract);
+    for (const Members& each : members) {
+        const std::vector<Row> rows = tableOf(each, block, proposal).rowsOfKey(number);
+        appendElement(xml, each.count, std::to_string(rows.size()));
+        int next = 0;
+        for (const Row row : rows) {
+            openNumbered(xml, each.element, ++next);
+            each.append(xml, block, row);
+            closeNumbered(xml, each.element, next);
+        }
+    }
+    closeNumbered(xml, block.extract, place);
+}
+
+/// The members are looked up without a filter, but the last extract's stays on their table, behind its last row.
+void leaveFiltered(Recordset& table, std::int32_t extract) {
+    table.setFilter("ExtNo = " + std::to_string(extract));
+    while (!table.eof())
+        table.moveNext();
 }
 
 /// Both blocks end with the remark of the 7/12 form.
@@ -129,6 +159,7 @@ void build(const Block& block, Proposal& proposal) {
     proposal.is712Current = block.form.family.is712;
     proposal.isSavingLandRecord = true;
     Text xml;
+    xml.reserve((proposal.*block.form.family.extractList).size());
     extracts.setFilter("");
     extracts.moveFirst();
     xml.append("<").append(block.element).append(">");
@@ -137,10 +168,14 @@ void build(const Block& block, Proposal& proposal) {
                                           : std::to_string(extracts.recordCount()));
     {
         ProgressOf progress(proposal.screen.ports.progress, block.form.head, extracts.recordCount());
+        std::int32_t number = 0;
         for (; !extracts.eof(); extracts.moveNext()) {
+            number = extractNumber(extracts.row());
             appendExtract(xml, block, proposal, extracts);
             progress.step();
         }
+        for (const Members& each : members)
+            leaveFiltered(tableOf(each, block, proposal), number);
     }
     const Text closing = remark(proposal);
     appendElement(xml, block.remark, EscapeXML(block.form.family.is712 ? trim(closing) : closing));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,8 @@ inline Pieces firstPieces(std::string_view text, std::string_view separator, std
     Pieces pieces;
     if (text.empty())
         return pieces;
+    constexpr std::size_t usual = 24;  // of the longest rows
+    pieces.reserve(std::min(most, usual));
     for (;;) {
         const std::size_t end = text.find(separator);
         pieces.push_back(text.substr(0, end));

@@ -5,7 +5,9 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "base/RuntimeError.h"
 #include "document/BlockText.h"
 #include "proposal/Element.h"
 #include "proposal/Proposal.h"
@@ -55,15 +57,19 @@ constexpr JoinedRow us84Plot = {"US-84-PLOT-", plotColumns, appendTrimmed};
 constexpr JoinedRow us20a1Order = {"ULC-US-20a1", us20a1Columns, appendTrimmed};
 constexpr JoinedRow us22Order = {"ULC-US-22", us22Columns, appendTrimmed};
 
+using Row = std::span<const Value>;
+
 class Builder {
 public:
     explicit Builder(Proposal& proposal) : proposal(proposal), form(proposal.forms.get<frmScrutinyULC>()) {}
 
     std::string build() {
-        Recordset& cards = cleared(&Tables::rsOwnershipPRC);
+        Recordset& cards = proposal.tables.ensure(&Tables::rsOwnershipPRC);
+        cards.setFilter("");
         ownership.setFilter("");
         orders.setFilter("");
         const bool byCards = form.ownershipCode() == "2";
+        xml.reserve(proposal.ULCScrutinyXML.size());
         xml += "<ULCORDER-SCRUTINY>";
         appendElement(xml, "DOCCONTROLLINGOWNERSHIP", form.ownershipCode());
         appendElement(xml, "NOOFEXTRACT", std::to_string((byCards ? cards : ownership).recordCount()));
@@ -75,107 +81,117 @@ public:
                 orders.moveNext();  // in step by place, not by number
             progress.step();
         }
+        leaveFilters();
         xml += "</ULCORDER-SCRUTINY>";
         return std::move(xml);
     }
 
 private:
-    Recordset& cleared(Tables::Member table) {
-        Recordset& rows = proposal.tables.ensure(table);
-        rows.setFilter("");
-        return rows;
-    }
-
-    Recordset& rowsOf(Tables::Member table) {
-        Recordset& rows = cleared(table);
-        rows.setFilter(filter);
-        return rows;
-    }
+    std::vector<Row> rowsOf(Tables::Member table) { return proposal.tables.ensure(table).rowsOfKey(extract); }
 
     void appendExtract() {
         const int place = ownership.absolutePosition();
-        const std::string element = "EXTRACT-" + std::to_string(place);
-        filter = " ExtNo = " + valueText(ownership.get(Ownership::ExtNo));
-        xml.append("<").append(element).append(" DOCTYPE = '");
-        xml.append(place > proposal.noOfExtract712 ? "PRC" : "712").append("' >");
-        appendRow(areaDivision, ownership);
-        appendRow(ulcOrder, orders);  // behind the last order the values are left out and the "#" stay
+        const Row owned = ownership.row();
+        const auto* number = std::get_if<std::int32_t>(&owned[Ownership::ExtNo]);
+        if (!number)
+            throw RuntimeError(ErrorNumber::ArgumentsOfWrongType);
+        extract = *number;
+        anyExtract = true;
+        xml += "<EXTRACT-";
+        appendNumber(xml, place);
+        xml.append(" DOCTYPE = '").append(place > proposal.noOfExtract712 ? "PRC" : "712").append("' >");
+        appendRow(areaDivision, {&owned, 1});
+        const Row order = orders.eof() ? Row() : orders.row();
+        // Behind the last order the values are left out and the "#" stay.
+        appendRow(ulcOrder, {&order, orders.eof() ? 0U : 1U});
         appendIfAny(us84Order, rowsOf(&Tables::rsULCOrderUS84));
         appendPlots(rowsOf(&Tables::rsUS84Plots));
         appendSchemeOrder();
         appendRow(us22Order, rowsOf(&Tables::rsULCOrderUS22));
-        xml.append("</").append(element).append(">");
+        closeNumbered(xml, "EXTRACT-", place);
     }
 
-    void appendValues(const JoinedRow& row, Recordset& table) {
+    /// The first of the rows; without one the "#" alone.
+    void appendValues(const JoinedRow& row, std::span<const Row> rows) {
         std::string_view separator;
-        const bool there = !table.eof();
         for (const int column : row.columns) {
             xml += separator;
             separator = "#";
-            if (there)
-                row.append(xml, table.get(column));
+            if (!rows.empty())
+                row.append(xml, rows.front()[static_cast<std::size_t>(column)]);
         }
     }
 
     void open(std::string_view element) { xml.append("<").append(element).append(">"); }
     void close(std::string_view element) { xml.append("</").append(element).append(">"); }
 
-    void appendRow(const JoinedRow& row, Recordset& table) {
+    void appendRow(const JoinedRow& row, std::span<const Row> rows) {
         open(row.element);
-        appendValues(row, table);
+        appendValues(row, rows);
         close(row.element);
     }
 
-    void appendIfAny(const JoinedRow& row, Recordset& table) {
-        if (table.recordCount() > 0)
-            return appendRow(row, table);
+    void appendIfAny(const JoinedRow& row, std::span<const Row> rows) {
+        if (!rows.empty())
+            return appendRow(row, rows);
         appendElement(xml, row.element, "");
     }
 
-    void appendPlots(Recordset& plots) {
-        appendElement(xml, "NO-OF-PLOT", std::to_string(plots.recordCount()));
-        for (plots.moveFirst(); !plots.eof(); plots.moveNext()) {
-            const std::string element = std::string(us84Plot.element) + std::to_string(plots.absolutePosition());
-            open(element);
-            appendValues(us84Plot, plots);
-            close(element);
+    void appendPlots(std::span<const Row> plots) {
+        appendElement(xml, "NO-OF-PLOT", std::to_string(plots.size()));
+        int number = 0;
+        for (const Row& plot : plots) {
+            openNumbered(xml, us84Plot.element, ++number);
+            appendValues(us84Plot, {&plot, 1});
+            closeNumbered(xml, us84Plot.element, number);
         }
     }
 
     /// The order, a "#" behind its last value too, and seven pairs of figures whatever the scheme. An order whose
     /// scheme was never opened has no pairs.
     void appendSchemeOrder() {
-        Recordset& order = rowsOf(&Tables::rsULCOrderUS20a1);
-        Recordset& built = rowsOf(&Tables::rsSchemeBuilt);
-        Recordset& sold = rowsOf(&Tables::rsSchemeSold);
+        const std::vector<Row> order = rowsOf(&Tables::rsULCOrderUS20a1);
+        const std::vector<Row> built = rowsOf(&Tables::rsSchemeBuilt);
         open(us20a1Order.element);
-        if (order.recordCount() > 0) {
+        if (!order.empty()) {
             appendValues(us20a1Order, order);
             xml += "#";
-            if (built.recordCount() > 0)
-                appendPairs(built, sold);
+            if (!built.empty())
+                appendPairs(built, rowsOf(&Tables::rsSchemeSold));
         }
         close(us20a1Order.element);
     }
 
-    void appendPairs(Recordset& built, Recordset& sold) {
+    void appendPairs(std::span<const Row> built, std::span<const Row> sold) {
         std::string_view separator;
         for (const int column : schemeColumns) {
             xml += separator;
             separator = "#";
-            appendTrimmed(xml, built.get(column));
+            appendTrimmed(xml, built.front()[static_cast<std::size_t>(column)]);
             xml += "^";
-            if (!sold.eof())
-                appendTrimmed(xml, sold.get(column));
+            if (!sold.empty())
+                appendTrimmed(xml, sold.front()[static_cast<std::size_t>(column)]);
         }
+    }
+
+    /// The rows are looked up without a filter, but the last extract's stays on their tables, the plots' behind its
+    /// last row.
+    void leaveFilters() {
+        if (!anyExtract)
+            return;
+        for (const Tables::Member table : {&Tables::rsULCOrderUS84, &Tables::rsUS84Plots, &Tables::rsULCOrderUS20a1,
+                                           &Tables::rsSchemeBuilt, &Tables::rsSchemeSold, &Tables::rsULCOrderUS22})
+            proposal.tables.ensure(table).setFilter(" ExtNo = " + std::to_string(extract));
+        for (Recordset& plots = *proposal.tables.rsUS84Plots; !plots.eof();)
+            plots.moveNext();
     }
 
     Proposal& proposal;
     const frmScrutinyULC& form;
     Recordset& ownership = proposal.tables.ensure(&Tables::rsOwnership);
     Recordset& orders = proposal.tables.ensure(&Tables::rsULCOrder);
-    std::string filter;
+    std::int32_t extract = 0;  // whose rows are written
+    bool anyExtract = false;
     std::string xml;
 };
 

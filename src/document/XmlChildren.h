@@ -15,6 +15,8 @@ namespace plandesk {
 class XmlChildren {
 public:
     XmlChildren(const XmlDocument& document, XmlDocument::Node parent) : document(document) {
+        constexpr std::size_t usual = 16;
+        nodes.reserve(usual);
         for (auto node = document.firstChild(parent); node != XmlDocument::none; node = document.nextSibling(node))
             nodes.push_back(node);
     }

@@ -1,6 +1,7 @@
 #include "landrecords/Ownership.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "base/Numbers.h"
@@ -13,12 +14,14 @@ namespace plandesk {
 
 namespace {
 
-std::string ownerNames(Recordset& owners) {
+std::string ownerNames(const Recordset& owners, std::int32_t extract) {
     std::string names;
     std::string_view comma;
-    for (owners.moveFirst(); !owners.eof(); owners.moveNext()) {
-        names.append(comma).append(trim(valueText(owners.get(OwnerColumn::Name))));
+    for (const std::span<const Value> owner : owners.rowsOfKey(extract)) {
+        names += comma;
         comma = ",";
+        if (const auto* name = std::get_if<std::string>(&owner[OwnerColumn::Name]))
+            names += trim(*name);
     }
     return names;
 }
@@ -31,22 +34,24 @@ bool takeOver(Proposal& proposal, const ExtractFamily& family, std::int32_t shif
     extracts.setFilter("");
     if (extracts.recordCount() == 0)
         return false;
+    std::int32_t number = 0;
     for (extracts.moveFirst(); !extracts.eof(); extracts.moveNext()) {
-        const std::int32_t number = toInteger32(valueNumber(extracts.get(ExtractColumn::ExtNo)));
+        number = toInteger32(valueNumber(extracts.get(ExtractColumn::ExtNo)));
         const std::int32_t global = toInteger32(static_cast<double>(number) + shift);
-        ownership.setFilter("ExtNo = " + std::to_string(global));
+        ownership.filterByKey(global);
         if (ownership.recordCount() == 0) {
             ownership.addNew();
             ownership.set(OwnershipColumn::DocStatus, "0");
         }
         ownership.set(OwnershipColumn::ExtNo, global);
-        owners.setFilter("");
-        owners.setFilter("ExtNo = " + std::to_string(number));
-        ownership.set(OwnershipColumn::Name, ownerNames(owners));
+        ownership.set(OwnershipColumn::Name, ownerNames(owners, number));
         ownership.set(OwnershipColumn::Area, valueNumber(extracts.get(ExtractColumn::CumulativeArea)));
         ownership.update();
-        ownership.setFilter("");
     }
+    ownership.setFilter("");
+    owners.setFilter("ExtNo = " + std::to_string(number));  // looked up without it, but it stays, behind its last row
+    while (!owners.eof())
+        owners.moveNext();
     return true;
 }
 

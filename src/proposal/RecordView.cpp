@@ -10,11 +10,10 @@ void RecordView::list(std::vector<TableRow*> visible, const std::optional<SortOr
     rows = std::move(visible);
     present = rows.size();
     if (order) {
-        const auto column = static_cast<std::size_t>(order->column);
         const auto end = std::ranges::lower_bound(rows, firstAdded, {}, &TableRow::id);
-        std::stable_sort(rows.begin(), end, [column, down = order->descending](const TableRow* a, const TableRow* b) {
-            return down ? b->values[column] < a->values[column] : a->values[column] < b->values[column];
-        });
+        const auto before = [&](const TableRow* a, const TableRow* b) { return order->before(a->values, b->values); };
+        if (!std::is_sorted(rows.begin(), end, before))  // it mostly is
+            std::stable_sort(rows.begin(), end, before);
     }
     if (addedRow)
         goTo(rows.size() - 1);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory_resource>
 #include <optional>
 #include <vector>
 
@@ -13,7 +14,7 @@ namespace plandesk {
 /// One row of an in-memory table. Ids count from 1 in the order of adding.
 struct TableRow {
     std::uint64_t id;
-    std::vector<Value> values;
+    std::pmr::vector<Value> values;  // in the memory of the table
 };
 
 /// The visible rows of an in-memory table and the place of the current one. The list is written out at the first need,

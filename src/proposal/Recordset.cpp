@@ -49,10 +49,11 @@ const Value& Recordset::get(std::string_view column) {
 void Recordset::set(int column, Value value) {
     const std::size_t index = checked(column);
     TableRow& row = currentRow();
-    Value converted = toKind(std::move(value), columnList[index].kind);
+    if (!isOfKind(value, columnList[index].kind))
+        value = toKind(std::move(value), columnList[index].kind);
     if (column == keyColumn)
-        setKey(row, converted);
-    row.values[index] = std::move(converted);
+        setKey(row, value);
+    row.values[index] = std::move(value);
     ++changeCount;
 }
 
@@ -62,16 +63,19 @@ void Recordset::set(std::string_view column, Value value) {
 
 void Recordset::setKey(TableRow& row, const Value& value) {
     decltype(keys)::node_type entry;
-    if (const auto* old = std::get_if<std::int32_t>(&row.values[static_cast<std::size_t>(keyColumn)]))
-        entry = keys.extract(KeyEntry{*old, &row});
+    const auto* old = std::get_if<std::int32_t>(&row.values[static_cast<std::size_t>(keyColumn)]);
     const auto* key = std::get_if<std::int32_t>(&value);
+    if (old && key && *old == *key)
+        return;
+    if (old)
+        entry = keys.extract(KeyEntry{*old, &row});
     if (!key)
         return;
     if (entry) {
         entry.value().key = *key;
         keys.insert(std::move(entry));
     } else {
-        keys.insert({*key, &row});
+        keys.insert(keys.end(), KeyEntry{*key, &row});  // most rows come in the order of their keys
     }
 }
 
@@ -79,7 +83,8 @@ void Recordset::addNew() {
     admitAdded();
     if (!conditions.empty())
         listed();
-    const auto added = rows.emplace_hint(rows.end(), nextId, TableRow{nextId, std::vector<Value>(columnList.size())});
+    const auto added =
+        rows.emplace_hint(rows.end(), nextId, TableRow{nextId, std::pmr::vector<Value>(columnList.size(), &memory)});
     ++nextId;
     view.add(added->second);
     admitAdded();
@@ -177,6 +182,14 @@ void Recordset::setSort(std::string_view expression) {
     resetView();
 }
 
+void Recordset::filterByKey(std::int32_t number) {
+    const auto& column = columnList[checked(keyColumn)];
+    conditions.assign(1,
+                      {.column = keyColumn, .low = static_cast<double>(number), .high = static_cast<double>(number)});
+    filterText.assign(column.name).append(" = ").append(std::to_string(number));
+    resetView();
+}
+
 void Recordset::resetView() {
     view = RecordView(nextId);
     ++changeCount;
@@ -189,7 +202,7 @@ bool Recordset::letsThrough(const TableRow& row) const {
 }
 
 /// The rows whose key is in the condition's range, in table order.
-std::vector<TableRow*> Recordset::rowsByKey(const ColumnCondition& condition) {
+std::vector<TableRow*> Recordset::rowsByKey(const ColumnCondition& condition) const {
     using Key = std::numeric_limits<std::int32_t>;
     const double low = std::ceil(std::max<double>(condition.low, Key::min()));
     const double high = std::floor(std::min<double>(condition.high, Key::max()));
@@ -199,7 +212,8 @@ std::vector<TableRow*> Recordset::rowsByKey(const ColumnCondition& condition) {
     const auto end = keys.upper_bound(static_cast<std::int32_t>(high));
     for (auto entry = keys.lower_bound(static_cast<std::int32_t>(low)); entry != end; ++entry)
         found.push_back(entry->row);
-    std::ranges::sort(found, {}, &TableRow::id);
+    if (low < high)
+        std::ranges::sort(found, {}, &TableRow::id);
     return found;
 }
 
@@ -209,6 +223,8 @@ std::vector<TableRow*> Recordset::rowsLetThrough() {
     const auto onKey = std::ranges::find(conditions, keyColumn, &ColumnCondition::column);
     if (onKey != conditions.end()) {
         found = rowsByKey(*onKey);
+        if (conditions.size() == 1 && onKey->excluded.empty())
+            return found;
     } else {
         found.reserve(rows.size());
         for (auto& [id, row] : rows)
@@ -230,6 +246,16 @@ const Value& Recordset::valueAt(int position, int column) {
     if (position < 1 || position > recordCount())
         throw RuntimeError(ErrorNumber::NoCurrentRecord);
     return view.at(position).values[index];
+}
+
+std::vector<std::span<const Value>> Recordset::rowsOfKey(std::int32_t number) const {
+    std::vector<std::span<const Value>> found;
+    const auto [begin, end] = keys.equal_range(number);
+    for (auto entry = begin; entry != end; ++entry)
+        found.emplace_back(entry->row->values);
+    if (order && order->column != keyColumn)
+        std::ranges::stable_sort(found, [this](const auto& a, const auto& b) { return order->before(a, b); });
+    return found;
 }
 
 std::vector<std::span<const Value>> Recordset::allRows() const {

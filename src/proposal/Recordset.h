@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <memory_resource>
 #include <optional>
 #include <set>
 #include <span>
@@ -50,6 +51,8 @@ public:
     // have, 3021 where there is no current row.
     const Value& get(int column);
     const Value& get(std::string_view column);
+    /// All cells of the current row, good until the table changes. RuntimeError 3021 where there is none.
+    std::span<const Value> row() { return currentRow().values; }
     /// Takes effect at once. Converts as toKind does, with its errors; the cell keeps its value then.
     void set(int column, Value value);
     void set(std::string_view column, Value value);
@@ -87,6 +90,8 @@ public:
     /// be read changes nothing.
     void setFilter(std::string_view expression);
     void setSort(std::string_view expression);
+    /// As setFilter with "KEY = number".
+    void filterByKey(std::int32_t number);
     const std::string& filter() const { return filterText; }
     const std::string& sort() const { return sortText; }
 
@@ -97,6 +102,9 @@ public:
     int rowCount() const { return static_cast<int>(rows.size()); }
     /// All rows in table order, whatever filter and sort. Good until the table changes.
     std::vector<std::span<const Value>> allRows() const;
+    /// The rows that filterByKey would show, in that order, while the filter and the current row stay as they are. Good
+    /// until the table changes.
+    std::vector<std::span<const Value>> rowsOfKey(std::int32_t number) const;
 
     /// Grows with every change to rows, values, filter or sort; a view that remembers it knows when to look again. The
     /// move of the current row alone does not count.
@@ -118,7 +126,7 @@ private:
     TableRow& currentRow();
     bool letsThrough(const TableRow& row) const;
     std::vector<TableRow*> rowsLetThrough();
-    std::vector<TableRow*> rowsByKey(const ColumnCondition& condition);
+    std::vector<TableRow*> rowsByKey(const ColumnCondition& condition) const;
     void resetView();
     RecordView& listed();
     void admitAdded();
@@ -126,9 +134,11 @@ private:
 
     std::span<const Column> columnList;
     int keyColumn = -1;  // none
-    std::map<std::uint64_t, TableRow> rows;
+    // Rows come by thousands and go all at once, with the table: one piece of memory for many of them.
+    std::pmr::unsynchronized_pool_resource memory;
+    std::pmr::map<std::uint64_t, TableRow> rows{&memory};
     std::uint64_t nextId = 1;
-    std::set<KeyEntry, KeyOrder> keys;  // rows whose key is not null
+    std::pmr::set<KeyEntry, KeyOrder> keys{&memory};  // rows whose key is not null
     RowFilter conditions;
     std::string filterText;
     std::optional<SortOrder> order;

@@ -104,6 +104,15 @@ bool ColumnCondition::holds(const Value& value) const {
     return low <= number && number <= high && !excluded.contains(number);
 }
 
+bool SortOrder::before(std::span<const Value> a, std::span<const Value> b) const {
+    const auto place = static_cast<std::size_t>(column);
+    const Value& first = descending ? b[place] : a[place];
+    const Value& second = descending ? a[place] : b[place];
+    const auto* number = std::get_if<std::int32_t>(&first);
+    const auto* other = std::get_if<std::int32_t>(&second);
+    return number && other ? *number < *other : first < second;
+}
+
 RowFilter parseFilter(std::string_view expression, std::span<const Column> columns) {
     RowFilter filter;
     ExpressionReader reader(expression);

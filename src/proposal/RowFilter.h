@@ -49,6 +49,9 @@ RowFilter parseFilter(std::string_view expression, std::span<const Column> colum
 struct SortOrder {
     int column = 0;
     bool descending = false;
+
+    /// Whether a row of these cells comes before one of those. Nulls are the least.
+    bool before(std::span<const Value> a, std::span<const Value> b) const;
 };
 
 /// Reads "COLUMN", "COLUMN ASC" or "COLUMN DESC"; blanks alone are no order. Columns and errors as in parseFilter, but

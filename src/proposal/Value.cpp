@@ -59,6 +59,22 @@ bool strictBoolean(const Value& value) {
 
 }  // namespace
 
+bool isOfKind(const Value& value, ColumnKind kind) {
+    switch (kind) {
+    case ColumnKind::Integer:
+        return isNull(value) || std::holds_alternative<std::int32_t>(value);
+    case ColumnKind::Text:
+        return isNull(value) || std::holds_alternative<std::string>(value);
+    case ColumnKind::Date:
+        return isNull(value) || std::holds_alternative<Date>(value);
+    case ColumnKind::Double:
+        return isNull(value) || std::holds_alternative<double>(value);
+    case ColumnKind::Boolean:
+        return isNull(value) || std::holds_alternative<bool>(value);
+    }
+    return false;
+}
+
 std::string valueText(const Value& value) {
     return std::visit(
         Overload{[](std::monostate) { return std::string(); },
@@ -78,14 +94,12 @@ double valueNumber(const Value& value) {
 }
 
 Value toKind(Value value, ColumnKind kind) {
-    if (isNull(value))
+    if (isOfKind(value, kind))
         return value;
     switch (kind) {
     case ColumnKind::Integer:
         return strictInteger(value);
     case ColumnKind::Text:
-        if (std::holds_alternative<std::string>(value))
-            return value;
         return valueText(value);
     case ColumnKind::Date:
         return strictDate(value);

@@ -17,6 +17,9 @@ inline bool isNull(const Value& value) {
     return std::holds_alternative<std::monostate>(value);
 }
 
+/// Whether toKind would give the value back as it is.
+bool isOfKind(const Value& value, ColumnKind kind);
+
 /// Text form: a null is empty, numbers in their default form, dates "dd/MM/yyyy", booleans "True" and "False".
 std::string valueText(const Value& value);
 

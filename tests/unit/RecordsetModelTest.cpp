@@ -158,7 +158,7 @@ public:
     explicit Twins(unsigned seed) : random(seed) {}
 
     void step() {
-        switch (below(20)) {
+        switch (below(21)) {
         case 0:
             setFilter(below(3));
             break;
@@ -208,6 +208,12 @@ public:
         case 19:
             both([this] { table.setBookmark(bookmark); }, [this] { slow.goToRow(slowBookmark); });
             break;
+        case 20: {
+            const int key = below(10);
+            both([=, this] { table.filterByKey(key); }, [=, this] { slow.filter = equalTo(key), slow.list(); });
+            EXPECT_EQ(table.filter(), "ExtNo = " + std::to_string(key));
+            break;
+        }
         }
     }
 
@@ -249,9 +255,22 @@ public:
         ASSERT_EQ(all.size(), slow.rows.size());
         for (std::size_t index = 0; index < all.size(); ++index)
             ASSERT_TRUE(std::ranges::equal(all[index], slow.rows[index].values));
+        compareRowsOfKey(below(10));
     }
 
 private:
+    static std::vector<Comparison> equalTo(int key) { return {{1, "=", key}}; }
+
+    void compareRowsOfKey(int key) {
+        SlowTable filtered = slow;
+        filtered.filter = equalTo(key);
+        filtered.list();
+        const auto rows = table.rowsOfKey(key);
+        ASSERT_EQ(rows.size(), filtered.visible.size());
+        for (std::size_t index = 0; index < rows.size(); ++index)
+            ASSERT_TRUE(std::ranges::equal(rows[index], slow.row(filtered.visible[index]).values));
+    }
+
     int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random); }
     std::string blanks() { return std::string(static_cast<std::size_t>(below(3)), ' '); }
 

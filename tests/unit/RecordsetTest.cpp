@@ -429,6 +429,32 @@ TEST_F(RecordsetWithRows, GivesVisibleCellsWithoutMoving) {
     EXPECT_EQ(errorOf([&] { table.valueAt(5, 2); }), 3021);
 }
 
+TEST_F(RecordsetWithRows, GivesTheRowsOfAKeyWhileFilterAndCurrentRowStay) {
+    const auto names = [this](int key) {
+        std::string text;
+        for (const auto& row : table.rowsOfKey(key))
+            text += valueText(row[2]);
+        return text;
+    };
+    table.setFilter("ExtNo > 1");
+    table.moveNext();
+    EXPECT_EQ(names(2), "BD");
+    EXPECT_EQ(names(1), "A");
+    EXPECT_EQ(names(7), "");
+    EXPECT_EQ(table.filter(), "ExtNo > 1");
+    EXPECT_EQ(table.get("Name"), Value("C"));
+    table.setSort("Name DESC");
+    EXPECT_EQ(names(2), "DB");
+}
+
+TEST_F(RecordsetWithRows, GivesTheCellsOfTheCurrentRow) {
+    table.moveNext();
+    EXPECT_EQ(table.row().size(), columns.size());
+    EXPECT_EQ(table.row()[2], Value("B"));
+    table.deleteVisible();
+    EXPECT_EQ(errorOf([&] { table.row(); }), 3021);
+}
+
 TEST_F(RecordsetWithRows, TellsAViewThatSomethingChanged) {
     auto seen = table.changes();
     const auto changed = [&] { return std::exchange(seen, table.changes()) != table.changes(); };

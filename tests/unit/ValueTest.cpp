@@ -1,5 +1,7 @@
 #include "proposal/Value.h"
 
+#include <array>
+
 #include <gtest/gtest.h>
 
 #include "base/RuntimeError.h"
@@ -83,6 +85,17 @@ TEST(Value, BecomesABoolean) {
     EXPECT_EQ(toKind(true, ColumnKind::Boolean), Value(true));
     EXPECT_EQ(errorOf("Yes", ColumnKind::Boolean), 13);
     EXPECT_EQ(errorOf(newYear, ColumnKind::Boolean), 13);
+}
+
+TEST(Value, IsOfItsOwnKindAlone) {
+    constexpr std::array kinds = {ColumnKind::Integer, ColumnKind::Text, ColumnKind::Date, ColumnKind::Double,
+                                  ColumnKind::Boolean};
+    const std::array<Value, 5> values = {4, "4", newYear, 4.0, true};
+    for (std::size_t value = 0; value < values.size(); ++value)
+        for (std::size_t kind = 0; kind < kinds.size(); ++kind)
+            EXPECT_EQ(isOfKind(values.at(value), kinds.at(kind)), value == kind) << value << " " << kind;
+    for (const ColumnKind kind : kinds)
+        EXPECT_TRUE(isOfKind(null, kind));
 }
 
 TEST(Value, AsANumberIsWhatItBeginsWith) {
