@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include "FirstPage.h"
 #include "desktop/ListBox.h"
 #include "fees/frmDocCheckList.h"
 #include "fees/frmPayDetail.h"
@@ -40,16 +41,6 @@ QScrollArea& areaOf(QWidget& widget) {
     while (!qobject_cast<QScrollArea*>(parent))
         parent = parent->parentWidget();
     return static_cast<QScrollArea&>(*parent);
-}
-
-/// Fills in what the checks of the first page ask for.
-void fillFirstPage(frmAnnexureA& form) {
-    for (TextBox* box :
-         {&form.txtTitle, &form.txtpltno, &form.txtFPNo, &form.txtTikaNo, &form.txtApplicantNm, &form.txtApplicantAddr,
-          &form.txtArchNm, &form.txtArchFirstName, &form.txtRegNm, &form.txtPltArea, &form.txtActualArea})
-        box->setText("1");
-    for (ComboBox* list : {&form.cboCaseType, &form.cboProposalTyp, &form.cboProposProj, &form.cboSector})
-        list->setListIndex(0);
 }
 
 /// A session that presses keys on whatever has the keyboard.

@@ -7,6 +7,7 @@
 #include <QStatusBar>
 #include <QToolButton>
 
+#include "FirstPage.h"
 #include "desktop/ChildWindow.h"
 #include "desktop/Desk.h"
 #include "desktop/QtText.h"
@@ -20,20 +21,6 @@
 using namespace plandesk;
 using namespace plandesk::test;
 using namespace std::string_literals;
-
-namespace {
-
-/// Fills in what the fifteen checks of the first page ask for.
-void fillFirstPage(frmAnnexureA& form) {
-    for (TextBox* box :
-         {&form.txtTitle, &form.txtpltno, &form.txtFPNo, &form.txtTikaNo, &form.txtApplicantNm, &form.txtApplicantAddr,
-          &form.txtArchNm, &form.txtArchFirstName, &form.txtRegNm, &form.txtPltArea, &form.txtActualArea})
-        box->setText("1");
-    for (ComboBox* list : {&form.cboCaseType, &form.cboProposalTyp, &form.cboProposProj, &form.cboSector})
-        list->setListIndex(0);
-}
-
-}  // namespace
 
 class MainWindowTest : public QObject {
     Q_OBJECT

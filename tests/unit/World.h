@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "FirstPage.h"
 #include "TestPorts.h"
 #include "controls/Controls.h"
 #include "proposal/Grid.h"
@@ -31,15 +32,7 @@ struct World {
     OptionButton& option(std::string_view form, std::string_view key) { return control<OptionButton>(form, key); }
     ComboBox& list(std::string_view form, std::string_view key) { return control<ComboBox>(form, key); }
 
-    /// Answers on the first page that its fifteen tests accept.
-    void fillFirstPage() {
-        for (const std::string_view name :
-             {"txtTitle", "txtpltno", "txtFPNo", "txtTikaNo", "txtApplicantNm", "txtApplicantAddr", "txtArchNm",
-              "txtArchFirstName", "txtRegNm", "txtPltArea", "txtActualArea"})
-            box("frmAnnexureA", name).setText("1");
-        for (const std::string_view name : {"cboCaseType", "cboProposalTyp", "cboProposProj", "cboSector"})
-            list("frmAnnexureA", name).setListIndex(0);
-    }
+    void fillFirstPage() { test::fillFirstPage(*proposal.forms.touch("frmAnnexureA")); }
 
     /// New, the first page filled in, and saved to `path`; its boxes are taken.
     void saveNewProposal(const std::string& path) {
