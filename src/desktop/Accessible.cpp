@@ -6,6 +6,8 @@
 #include <QEvent>
 #include <QRadioButton>
 
+#include "desktop/LinkLabel.h"
+
 namespace plandesk::desktop {
 
 namespace {
@@ -38,9 +40,35 @@ private:
     QRadioButton& button() const { return static_cast<QRadioButton&>(*widget()); }
 };
 
+class AccessibleLink : public QAccessibleWidget {
+public:
+    explicit AccessibleLink(LinkLabel& link) : QAccessibleWidget(&link, QAccessible::Link) {}
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? link().text() : QAccessibleWidget::text(kind);
+    }
+    QStringList actionNames() const override {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (link().isEnabled())
+            names.prepend(pressAction());
+        return names;
+    }
+    void doAction(const QString& action) override {
+        if (action == pressAction() && link().isEnabled())
+            link().pressed();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    LinkLabel& link() const { return static_cast<LinkLabel&>(*widget()); }
+};
+
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
-    auto* option = className == QLatin1String("QRadioButton") ? qobject_cast<QRadioButton*>(object) : nullptr;
-    return option ? new AccessibleOption(*option) : nullptr;
+    if (auto* option = className == QLatin1String("QRadioButton") ? qobject_cast<QRadioButton*>(object) : nullptr)
+        return new AccessibleOption(*option);
+    auto* link = className == QLatin1String("QLabel") ? dynamic_cast<LinkLabel*>(object) : nullptr;
+    return link ? new AccessibleLink(*link) : nullptr;
 }
 
 }  // namespace

@@ -49,13 +49,15 @@ private:
 class LinkView : public LabelView {
 public:
     LinkView(Captioned& captioned, LinkLabel& link, ScreenView& screen)
-        : LabelView(captioned, link, screen), link(link) {}
+        : LabelView(captioned, link, screen), link(link) {
+        link.pressed = [this] { act([this] { user::click(*subject); }); };
+    }
 
     bool filterEvent(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::MouseButtonRelease) {
             const auto& mouse = *static_cast<QMouseEvent*>(event);
             if (mouse.button() == Qt::LeftButton && link.rect().contains(mouse.pos()))
-                act([this] { user::click(*subject); });
+                link.pressed();
         }
         return ControlView::filterEvent(watched, event);
     }

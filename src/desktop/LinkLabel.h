@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLabel>
+#include <functional>
 
 namespace plandesk::desktop {
 
@@ -8,6 +9,8 @@ namespace plandesk::desktop {
 class LinkLabel : public QLabel {
 public:
     explicit LinkLabel(QWidget& parent);
+
+    std::function<void()> pressed = [] {};  ///< what a press means, to whoever presses it without mouse or keys
 
 protected:
     void paintEvent(QPaintEvent* event) override;

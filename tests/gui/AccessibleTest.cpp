@@ -292,6 +292,20 @@ private slots:
         }
     }
 
+    void aLinkIsALinkAndCanBePressedThroughItsAction() {
+        Session session;
+        session.press("mnuNew");
+        Form& form = *session.proposal.forms.touch("frmPayDetail");
+        form.show();
+        session.settle();
+        QAccessibleInterface& link = interfaceOf(session.widget(form.at("lblAnnextureA")));
+        QCOMPARE(link.role(), QAccessible::Link);
+        QCOMPARE(nameOf(link), desktop::toQt(form.at<Label>("lblAnnextureA").caption()).trimmed());
+        QVERIFY(!session.form<frmAnnexureA>().front());
+        link.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QVERIFY(session.form<frmAnnexureA>().front());
+    }
+
     void buttonsLinksAndOptionsShowThatMarkWhenTheyHaveTheFocus() {
         Session session;
         session.press("mnuNew");
