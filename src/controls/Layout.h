@@ -15,10 +15,13 @@ struct LayoutRow {
     /// Names of the controls in screen order, separated by blanks; a member of an array as NAME(INDEX). A row without
     /// controls shows its question over the whole width.
     std::string_view controls{};
-    std::string_view unit{};    ///< "Sq. Mtrs" behind the controls, or empty
-    std::string_view mark{};    ///< "*" mandatory, "#" one of a pair, or empty
-    std::string_view label{};   ///< name of the label control whose live caption is the question, or empty
-    int lines = 0;              ///< rows of a grid or lines of a box to be seen at once; 0: as many as suit most
+    std::string_view unit{};   ///< "Sq. Mtrs" behind the controls, or empty
+    std::string_view mark{};   ///< "*" mandatory, "#" one of a pair, or empty
+    std::string_view label{};  ///< name of the label control whose live caption is the question, or empty
+    int lines = 0;             ///< rows of a grid or lines of a box to be seen at once; 0: as many as suit most
+    /// Name of the grid below which the row's one control stands, under the column that the grid says; the question
+    /// stands right before it.
+    std::string_view under{};
     std::string_view spoken{};  ///< what screen readers and messages call the row when its question does not tell it
 };
 

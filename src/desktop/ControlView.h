@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPalette>
+#include <QRect>
 #include <QSize>
 #include <QWidget>
 #include <functional>
@@ -52,6 +53,11 @@ public:
     virtual bool fillsWidth() const { return false; }
     /// It takes what height there is, too.
     virtual bool fillsPage() const { return false; }
+    /// Left edge and width, in the coordinates of its parent, of what the label of the form is to stand under; nothing
+    /// when that cannot be seen.
+    virtual std::optional<QRect> stretchAbove(const Control& /*label*/) const { return {}; }
+    /// That stretch may have moved.
+    std::function<void()> stretchMoved = [] {};
     /// How many rows of its contents are to be seen at once; 0: as many as suit most.
     virtual void showLines(int /*lines*/) {}
     /// The part of it that takes the keyboard now.

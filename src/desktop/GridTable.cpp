@@ -118,10 +118,19 @@ ColumnNeed GridTable::need(int column) const {
     if (setting.width == 0)
         return {0, 0};
     const QFontMetrics metrics = fontMetrics();
-    const int text = metrics.horizontalAdvance(sample(grid->kind(column), setting.yesNo)) + metrics.averageCharWidth() +
-                     (setting.button ? lineHeight() : 0);
+    const int content =
+        setting.whole ? widestText(column) : metrics.horizontalAdvance(sample(grid->kind(column), setting.yesNo));
+    const int text = content + metrics.averageCharWidth() + (setting.button ? lineHeight() : 0);
     const int least = std::max(longestWord(toQt(setting.caption), metrics), text) + 2 * headMargin();
     return {least, std::max(least, setting.width * metrics.averageCharWidth() / twipsPerCharacter)};
+}
+
+int GridTable::widestText(int column) const {
+    int widest = 0;
+    for (int row = 0; row < grid->rowCount(); ++row)
+        widest = std::max(
+            widest, fontMetrics().horizontalAdvance(grid->data(grid->index(row, column), Qt::DisplayRole).toString()));
+    return widest;
 }
 
 std::vector<ColumnNeed> GridTable::needs() const {

@@ -59,6 +59,7 @@ private:
     };
     Fit fitFor(int width) const;
     ColumnNeed need(int column) const;
+    int widestText(int column) const;
     std::vector<ColumnNeed> needs() const;
     int headMargin() const;
     int lineHeight() const;

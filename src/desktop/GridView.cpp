@@ -57,6 +57,7 @@ public:
     QSize sizeFor(int available, bool /*alone*/) override { return {available, table.heightFor(lines, available)}; }
     bool fillsWidth() const override { return true; }
     void showLines(int wanted) override { lines = wanted > 0 ? wanted : usualLines; }
+    std::optional<QRect> stretchAbove(const Control& label) const override;
     QWidget& keyboardPart() override { return line.isHidden() ? picture : line; }
 
 private:
@@ -113,7 +114,22 @@ GridView::GridView(Grid& grid, GridTable& table, CellEdit& line, ScreenView& scr
     table.show(model);
     if (grid.allowDelete)
         table.showRowHeads();
-    table.cellsMoved = [this] { placeParts(); };
+    table.cellsMoved = [this] {
+        placeParts();
+        if (subject)
+            stretchMoved();
+    };
+}
+
+std::optional<QRect> GridView::stretchAbove(const Control& label) const {
+    const int column = subject ? grid().columnAbove(label) : -1;
+    if (column < 0 || column >= model.columnCount())
+        return {};
+    const QRect seen = table.viewport()->geometry();
+    const QRect cells(seen.left() + table.columnViewportPosition(column), seen.top(), table.columnWidth(column), 1);
+    if (cells.isEmpty() || !seen.contains(cells.topLeft()))
+        return {};
+    return (cells & seen).translated(table.pos());
 }
 
 void GridView::syncContent() {

@@ -26,7 +26,27 @@ PageView::PageView(QWidget& parent, const Form& form, const std::vector<LayoutGr
     groups.reserve(layoutGroups.size());
     for (const LayoutGroup& group : layoutGroups)
         groups.push_back(makeGroup(form, group, maker));
+    relateGrids();
     nameControls(form);
+}
+
+void PageView::relateGrids() {
+    for (Group& group : groups) {
+        for (Row& row : group.rows) {
+            if (row.layout->under.empty() || row.controls.empty())
+                continue;
+            for (const Row& other : group.rows)
+                if (other.layout->controls == row.layout->under && !other.controls.empty())
+                    row.above = other.controls.front();
+            if (!row.above)
+                continue;
+            if (row.question) {
+                row.question->setWordWrap(false);
+                row.question->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            }
+            row.above->stretchMoved = [this, &row] { placeUnder(row, row.controls.front()->widget().y()); };
+        }
+    }
 }
 
 PageView::Group PageView::makeGroup(const Form& form, const LayoutGroup& group, const ViewMaker& maker) {

@@ -44,6 +44,7 @@ private:
         QLabel* mark = nullptr;
         QLabel* unit = nullptr;
         std::vector<ControlView*> controls;
+        ControlView* above = nullptr;   ///< the grid under whose column the row's control stands
         OptionsBox* options = nullptr;  ///< holds those of the controls that are options
         bool shown = true;
     };
@@ -80,6 +81,8 @@ private:
     static bool leadsRow(const Row& row);
     /// Whether the row has one text box, which may then be wide.
     static bool boxStandsAlone(const Row& row);
+    /// Finds the grids below which rows stand.
+    void relateGrids();
     void updateShown();
     /// A label of the form whose caption is a question here; null when there is none.
     const Control* liveQuestion() const;
@@ -98,6 +101,7 @@ private:
     int placeTableRow(const Row& row, const Columns& columns, const std::vector<int>& widths, int top);
     int placeRow(const Row& row, const Columns& columns, int top);
     int placeQuestion(const Row& row, const Columns& columns, int top, int width);
+    int placeUnder(const Row& row, int top);
     int placeFilling(const Row& row, const Columns& columns, int top);
     int placeControls(const Row& row, int left, int right, int top);
     int lineHeight() const;

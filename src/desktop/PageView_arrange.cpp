@@ -231,6 +231,8 @@ int PageView::placeRow(const Row& row, const Columns& columns, int top) {
         return placeQuestion(row, columns, top, columns.right - columns.question);
     if (fillsWidth(row))
         return placeFilling(row, columns, top);
+    if (row.above)
+        return placeUnder(row, top);
     const int room = columns.right - columns.controls;
     const bool tooWide = std::ranges::any_of(
         row.controls, [room](const ControlView* view) { return view->shownByCode() && view->leastWidth() > room; });
@@ -238,6 +240,22 @@ int PageView::placeRow(const Row& row, const Columns& columns, int top) {
     if (tooWide)
         return placeControls(row, columns.question, columns.right, questionBottom + gap() / 2);
     return std::max(questionBottom, placeControls(row, columns.controls, columns.right, top));
+}
+
+/// The control under its column, and its question where there is room before it.
+int PageView::placeUnder(const Row& row, int top) {
+    ControlView& view = *row.controls.front();
+    const std::optional<QRect> stretch = row.above->stretchAbove(*view.control());
+    view.setOnPage(row.shown && stretch);
+    const int left = row.above->widget().x();
+    const int room = stretch ? stretch->left() - gap() - left : 0;
+    if (stretch)
+        view.widget().setGeometry(stretch->left(), top, stretch->width(), lineHeight());
+    if (row.question) {
+        row.question->setVisible(row.shown && row.question->sizeHint().width() <= room);
+        row.question->setGeometry(left, top, room, lineHeight());
+    }
+    return top + lineHeight();
 }
 
 int PageView::placeFilling(const Row& row, const Columns& columns, int top) {

@@ -129,7 +129,7 @@ bool Grid::takeItem(ComboBox& list, std::string_view text) {
     if (item == list.listCount() || currentRow() < 0 || !editable(atColumn))
         return false;
     list.setListIndex(item);
-    typed = trim(list.item(item));
+    typed = column(atColumn).holdsIndex ? std::to_string(item) : std::string(trim(list.item(item)));
     endEdit();
     return true;
 }
@@ -224,6 +224,16 @@ Grid::Floating Grid::floating(const Control& editor) const {
     return known == editors.end() ? Floating{} : *known;
 }
 
+void Grid::placeBelow(const Control& label, int column) {
+    labelBelow = &label;
+    labelColumn = column;
+    touched();
+}
+
+int Grid::columnAbove(const Control& label) const {
+    return &label == labelBelow ? labelColumn : -1;
+}
+
 void Grid::loseFocus() {
     endEdit();
     Control::loseFocus();
@@ -243,6 +253,8 @@ std::string_view Grid::keyDown(std::string_view key) {
         return key;
     }
     const bool settled = settle(column(atColumn).width > 0);
+    if (!settled && (key == "Space" || key == "Enter") && pressFloating())
+        return "";
     if (key == "Enter" && enterKey && enterKey())
         return "";
     if (key == "Shift+Tab")
@@ -288,6 +300,18 @@ bool Grid::settle(bool placed) {
 
 void Grid::tabbedInto() {
     settle(reachable(atColumn));
+}
+
+/// Presses the button of the form that floats over the current cell; false without one, or while the cell is edited.
+bool Grid::pressFloating() {
+    const auto above = std::ranges::find_if(editors, [this](const Floating& floating) {
+        return isCurrent(floating.row, floating.column) && floating.editor->takesFocus() &&
+               floating.editor->kind() == ControlKind::Button;
+    });
+    if (editing() || above == editors.end())
+        return false;
+    static_cast<Button&>(*above->editor).press();
+    return true;
 }
 
 /// False when there is no further cell in that direction.

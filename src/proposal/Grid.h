@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "controls/Control.h"
@@ -15,15 +16,18 @@
 
 namespace plandesk {
 
+class Button;
 class ComboBox;
 
 /// How one column of a grid stands on the screen. The columns of a grid are those of its table, by place.
 struct GridColumn {
     std::string_view caption;
-    int width = 1000;     ///< in twips, 1/1440 inch; 0 hides the column
-    bool locked = false;  ///< the user cannot type into it
-    bool button = false;  ///< a button stands in the current cell
-    bool yesNo = false;   ///< a boolean reads "Yes" and "No", and is typed so in any case
+    int width = 1000;         ///< in twips, 1/1440 inch; 0 hides the column
+    bool locked = false;      ///< the user cannot type into it
+    bool button = false;      ///< a button stands in the current cell
+    bool yesNo = false;       ///< a boolean reads "Yes" and "No", and is typed so in any case
+    bool whole = false;       ///< its texts are the form's own words and are always shown whole
+    bool holdsIndex = false;  ///< the cell holds the index of an item of its list, from 0
 };
 
 /// A grid bound to an in-memory table: it shows the table's visible rows and has the table's current row. Sorting and
@@ -74,7 +78,8 @@ public:
     /// A character starts or continues an edit, Backspace shortens what stands there, Esc gives it back; in a cell that
     /// takes the items of a list it opens the list and chooses there. Tab ends the edit and goes to the next cell that
     /// can be typed into or has a button, and from the last one out of the grid; Enter does the same where `enterKey`
-    /// leaves it. Space presses the button of a cell that cannot be typed into.
+    /// leaves it. Space presses the button of a cell that cannot be typed into, Space and Enter a button of the form
+    /// that floats over the current cell.
     std::string_view keyDown(std::string_view key) override;
     /// Goes on to the first cell of the row that can be typed into or has a button, unless the current one can.
     void tabbedInto() override;
@@ -97,7 +102,7 @@ public:
 
     /// An editor of the form that floats over a cell of the current row.
     struct Floating {
-        const Control* editor = nullptr;
+        Control* editor = nullptr;
         int row = -1;
         int column = -1;
     };
@@ -107,6 +112,12 @@ public:
     Floating floating(const Control& editor) const;
     /// Every editor that was placed over this grid, shown or not, the front one last.
     std::span<const Floating> floatingEditors() const { return editors; }
+
+    /// The label stands below the grid from now on, where that column stands and as wide, whatever width the user
+    /// draws the column to. Its row in the layout names the grid.
+    void placeBelow(const Control& label, int column);
+    /// The column above the label; -1 when it was not placed below this grid.
+    int columnAbove(const Control& label) const;
 
     bool fire(std::string_view event) override;
     void loseFocus() override;
@@ -135,6 +146,7 @@ private:
     bool startEdit();
     bool takeItem(ComboBox& list, std::string_view text);
     void openList(ComboBox& list, std::string_view key);
+    bool pressFloating();
     bool moveOn(bool forward);
     void typeKey(char32_t key);
     void eraseLast();
@@ -144,9 +156,12 @@ private:
     int atColumn = 0;
     std::optional<std::string> typed;
     std::vector<Floating> editors;
+    const Control* labelBelow = nullptr;
+    int labelColumn = -1;
 };
 
 /// A control that floats over the cells of a grid: Tab and Enter go on to the grid's next cell, Esc back to the grid.
+/// Enter presses a button.
 template <class Kind>
 class GridEditor : public Kind {
 public:
@@ -158,6 +173,12 @@ public:
             return Kind::keyDown(key);
         if (!grid.takesFocus())
             return key;
+        if constexpr (std::is_base_of_v<Button, Kind>) {
+            if (key == "Enter") {
+                this->press();
+                return "";
+            }
+        }
         return grid.form().screen().moveFocus(grid) && key != "Esc" ? grid.keyDown(key) : "";
     }
 

@@ -22,15 +22,15 @@ constexpr auto ownerColumns = inPlace<OwnershipColumn, GridColumn>({
     {OwnershipColumn::ExtNo, {.caption = "Group No", .width = 1000, .locked = true}},
     {OwnershipColumn::Name, {.caption = "Owner Name", .width = 4500, .locked = true}},
     {OwnershipColumn::Area, {.caption = "Area", .width = 2000, .locked = true}},
-    {OwnershipColumn::DocStatus, {.caption = "Document Status", .width = 2200, .button = true}},
+    {OwnershipColumn::DocStatus, {.caption = "Document Status", .width = 2200, .button = true, .holdsIndex = true}},
 });
 
 constexpr auto orderColumns = inPlace<ULCOrderColumn, GridColumn>({
     {ULCOrderColumn::ExtNo, {.caption = "Group No", .width = 1000, .locked = true}},
     {ULCOrderColumn::Name, {.caption = "Owner(s) Name", .width = 3000, .locked = true}},
-    {ULCOrderColumn::ULCOrderSelection, {.caption = "ULC Order", .width = 2400, .button = true}},
+    {ULCOrderColumn::ULCOrderSelection, {.caption = "ULC Order", .width = 2400, .button = true, .holdsIndex = true}},
     {ULCOrderColumn::OrderNo, {.caption = "Order No", .width = 1500}},
-    {ULCOrderColumn::Details, {.caption = "Details", .width = 900, .locked = true, .button = true}},
+    {ULCOrderColumn::Details, {.caption = "Details", .width = 900, .button = true}},
     {ULCOrderColumn::Remarks, {.caption = "Remarks", .width = 2400}},
 });
 
@@ -70,15 +70,17 @@ void frmScrutinyULC::wire() {
     for (OptionButton& option : optDocCtrlOwn)
         option.click = [this] { optDocCtrlOwn_Click(); };
     cmbExtract.click = [this] { cmbExtract_Click(); };
-    dgdOwner.buttonClick = [this](int) {
-        try {
-            placeDocStatus();
-            cmbDocStatus.setFocus();
-        } catch (const RuntimeError&) {
-            screen().message("Error Occured !!  ", "");
-        }
+    dgdOwner.buttonClick = dgdOwner.click = [this](int column) { openDocStatus(column); };
+    dgdOwner.listOf = [this](int column) { return column == OwnershipColumn::DocStatus ? &cmbDocStatus : nullptr; };
+    dgdULCOrderDetails.buttonClick = dgdULCOrderDetails.click = [this](int column) { openOrderCell(column); };
+    dgdULCOrderDetails.listOf = [this](int column) {
+        return column == ULCOrderColumn::ULCOrderSelection ? &cmbULCORDERDetails : nullptr;
     };
-    dgdULCOrderDetails.buttonClick = [this](int column) { passingOver([&] { placeOrderCell(column); }); };
+    dgdULCOrderDetails.editStart = [this](int column) {
+        if (column == ULCOrderColumn::Details)
+            openOrderCell(column);
+        return column != ULCOrderColumn::Details;
+    };
     cmbDocStatus.click = [this] { cmbDocStatus_Click(); };
     cmbULCORDERDetails.click = [this] { cmbULCORDERDetails_Click(); };
     cmdDetails.click = [this] { cmdDetails_Click(); };
@@ -209,6 +211,27 @@ void frmScrutinyULC::placeOrderCell(int column) {
         placeList(dgdULCOrderDetails, cmbULCORDERDetails, column);
     else if (column == ULCOrderColumn::Details && dgdULCOrderDetails.currentRow() >= 0)
         dgdULCOrderDetails.place(cmdDetails, column);
+}
+
+void frmScrutinyULC::openDocStatus(int column) {
+    if (column != OwnershipColumn::DocStatus)
+        return;
+    try {
+        placeDocStatus();
+        cmbDocStatus.setFocus();
+    } catch (const RuntimeError&) {
+        screen().message("Error Occured !!  ", "");
+    }
+}
+
+void frmScrutinyULC::openOrderCell(int column) {
+    passingOver([&] {
+        placeOrderCell(column);
+        if (column == ULCOrderColumn::ULCOrderSelection)
+            cmbULCORDERDetails.setFocus();
+        else if (column == ULCOrderColumn::Details)
+            cmdDetails.setFocus();
+    });
 }
 
 void frmScrutinyULC::cmbDocStatus_Click() {

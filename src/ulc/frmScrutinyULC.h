@@ -62,6 +62,9 @@ private:
     void showOrders(int extract);
     void placeDocStatus();
     void placeOrderCell(int column);
+    // The button of a cell was pressed or the cell clicked: what floats over it comes up and takes the focus.
+    void openDocStatus(int column);
+    void openOrderCell(int column);
     void cmbDocStatus_Click();
     void cmbULCORDERDetails_Click();
     void cmdDetails_Click();

@@ -17,16 +17,16 @@ enum CommonScheme { applicationDate = 1, villages = 2, surveyNumbers = 3, surplu
 constexpr GridColumn hidden = {.caption = "", .width = 0};
 
 constexpr auto plottingColumns = inPlace<SchemeGridColumn, GridColumn>({
-    {SchemeGridColumn::No, {.caption = "No", .width = 500, .locked = true}},
-    {SchemeGridColumn::FLD1, {.caption = "Size of plots", .width = 4000, .locked = true}},
+    {SchemeGridColumn::No, {.caption = "No", .width = 500, .locked = true, .whole = true}},
+    {SchemeGridColumn::FLD1, {.caption = "Size of plots", .width = 4000, .locked = true, .whole = true}},
     {SchemeGridColumn::FLD2, {.caption = "No. of plots", .width = 3600}},
     {SchemeGridColumn::FLD3, hidden},
     {SchemeGridColumn::ExtNo, hidden},
 });
 
 constexpr auto tenementColumns = inPlace<SchemeGridColumn, GridColumn>({
-    {SchemeGridColumn::No, {.caption = "No", .width = 500, .locked = true}},
-    {SchemeGridColumn::FLD1, {.caption = "TenementArea", .width = 4000, .locked = true}},
+    {SchemeGridColumn::No, {.caption = "No", .width = 500, .locked = true, .whole = true}},
+    {SchemeGridColumn::FLD1, {.caption = "TenementArea", .width = 4000, .locked = true, .whole = true}},
     {SchemeGridColumn::FLD2, {.caption = "No of tenement to be constructed", .width = 3600}},
     {SchemeGridColumn::FLD3, {.caption = "No of tenement to be sold to govt. nominees at fixed rate", .width = 3600}},
     {SchemeGridColumn::ExtNo, hidden},
@@ -67,7 +67,7 @@ void frmULC20aDetails::wire() {
     dgdSchemeDetails.enterKey = [this] { return enterOnGrid(); };
     cmdSave.click = [this] { saveUS20a1Order(); };
     cmdReferesh.toolTip = "Reset";  // it has no caption
-    cmdClose.click = [this] { proposal.forms.unload(formName); };
+    cmdClose.click = [this] { pressClose(); };
     procedure("loadUS20a1Order", [this] { loadUS20a1Order(); });
     procedure("saveUS20a1Order", [this] { saveUS20a1Order(); });
     procedure("setCombo", [this] { setCombo(); });

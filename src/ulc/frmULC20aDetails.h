@@ -18,6 +18,8 @@ public:
     explicit frmULC20aDetails(Proposal& proposal);
     void load() override;
     const Layout& layout() const override;
+    /// Unloads the form, as Close does: the next extract starts afresh.
+    void pressClose() override { proposal.forms.unload(formName); }
 
     /// Shows the order of the extract; without one the form stays as it is. The date picker is never touched.
     void loadUS20a1Order();

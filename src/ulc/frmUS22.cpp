@@ -22,7 +22,7 @@ constexpr Layout sheet{.questionWidth = 30, .pages = pages, .buttons = "cmdSave 
 frmUS22::frmUS22(Proposal& proposal) : DataForm(proposal, formName, "ULC Order Under Section  22") {
     txtAreaExistingStruct.keyPress = txtLandAppurantArea.keyPress = keyFilterDecimal;
     cmdSave.click = [this] { saveUS22Order(); };
-    cmdClose.click = [this] { this->proposal.forms.unload(formName); };
+    cmdClose.click = [this] { pressClose(); };
     procedure("loadUS22Order", [this] { loadUS22Order(); });
     procedure("saveUS22Order", [this] { saveUS22Order(); });
 }

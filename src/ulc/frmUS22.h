@@ -16,6 +16,8 @@ public:
     explicit frmUS22(Proposal& proposal);
     void load() override;
     const Layout& layout() const override;
+    /// Unloads the form, as Close does: the next extract starts afresh.
+    void pressClose() override { proposal.forms.unload(formName); }
 
     /// Shows the order of the extract; without one the boxes keep what they hold.
     void loadUS22Order();

@@ -93,7 +93,7 @@ void frmUS84::wire() {
     };
     dgdTableAB.enterKey = [this] { return enterOnGrid(); };
     cmdSave.click = [this] { saveUS84Order(); };
-    cmdClose.click = [this] { proposal.forms.unload(formName); };
+    cmdClose.click = [this] { pressClose(); };
     procedure("loadUS84Order", [this] { loadUS84Order(); });
     procedure("saveUS84Order", [this] { saveUS84Order(); });
     procedure("FillRecords", [this] { FillRecords(); });
@@ -119,7 +119,8 @@ void frmUS84::colRsUS84TbaleSetting() {
 }
 
 void frmUS84::setLblTotalArea() {
-    lblTotalArea.setVisible(true);  // the view gives it its place below the grid
+    dgdTableAB.placeBelow(lblTotalArea, US84PlotColumn::TotalArea);
+    lblTotalArea.setVisible(true);
 }
 
 void frmUS84::loadUS84Order() {

@@ -18,6 +18,8 @@ public:
     explicit frmUS84(Proposal& proposal);
     void load() override;
     const Layout& layout() const override;
+    /// Unloads the form, as Close does: the next extract starts afresh.
+    void pressClose() override { proposal.forms.unload(formName); }
 
     /// Shows the order and the plots of the extract; without an order the boxes keep what they hold.
     void loadUS84Order();

@@ -20,7 +20,7 @@ constexpr LayoutRow applicantRows[] = {
 constexpr LayoutRow plotRows[] = {
     {"", "Add only details of plot which are under development.", ""},
     {.controls = "dgdTableAB", .lines = 4},
-    {"", "Total Area", "lblTotalArea"},
+    {.question = "Total Area", .controls = "lblTotalArea", .under = "dgdTableAB"},
 };
 
 constexpr LayoutRow areaRows[] = {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "fees/frmDiscretionNewCase.h"
+#include "fees/frmDiscretionrevisedCase.h"
 #include "gui/LandRecords.h"
 #include "ulc/frmScrutinyULC.h"
 #include "ulc/frmULC20aDetails.h"
@@ -57,6 +59,24 @@ inline void enterUS22(Session& session) {
     user::pick(scrutiny.cmbULCORDERDetails, 3);
     user::click(scrutiny.cmdDetails);
     user::type(session.form<frmUS22>().txtAreaExistingStruct, "120.5");
+}
+
+/// Rows of the discretion forms, which nothing but code shows.
+inline void enterDiscretionNew(Session& session) {
+    auto& form = session.form<frmDiscretionNewCase>();
+    form.show();
+    user::type(form.txtRule[0], "Side margins of 3.00 m instead of 4.50 m, since the plot is narrow");
+    user::type(form.txtRule[14], "Lobby as per plan");
+}
+
+inline void enterDiscretionRevised(Session& session) {
+    auto& form = session.form<frmDiscretionrevisedCase>();
+    form.show();
+    user::type(form.txtRule[0], "1250.75");
+    user::type(form.txtRuleC[0], "1200.50");
+    user::type(form.txtRuleD[0], "Area as per the latest measurement");
+    user::type(form.txtRule[18], "24");
+    user::leave(form.txtRule[18]);
 }
 
 /// The land records and an order of each kind for the first extract.

@@ -100,6 +100,8 @@ void takeLandRecords(const std::filesystem::path& folder, const std::string& suf
     take("frmUS84", enterUS84);
     take("frmULC20aDetails", enterUS20a1);
     take("frmUS22", enterUS22);
+    take("frmDiscretionNewCase", enterDiscretionNew);
+    take("frmDiscretionrevisedCase", enterDiscretionRevised);
 }
 
 /// Three pages in the windows of common screens, maximised in the widest.

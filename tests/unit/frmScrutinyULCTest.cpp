@@ -179,6 +179,66 @@ TEST_F(ScrutinyULC, AStatusThatIsNoItemIsToldWhenItsButtonIsPressed) {
     EXPECT_TRUE(ports.dialogs.take().empty());
 }
 
+TEST_F(ScrutinyULC, ALetterInAListsCellChoosesThereAndTheCellHoldsTheIndex) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    user::goToCell(form.dgdOwner, 0, OwnershipColumn::DocStatus);
+    user::press(form.dgdOwner, "u");
+    EXPECT_TRUE(form.cmbDocStatus.focused());
+    EXPECT_EQ(form.cmbDocStatus.text(), "ULC Order");
+    EXPECT_EQ(form.dgdOwner.cellText(0, OwnershipColumn::DocStatus), "1");
+    user::press(form.cmbDocStatus, "Esc");
+    EXPECT_TRUE(form.dgdOwner.focused());
+    user::goToCell(form.dgdULCOrderDetails, 0, ULCOrderColumn::ULCOrderSelection);
+    user::press(form.dgdULCOrderDetails, "u");
+    user::press(form.cmbULCORDERDetails, "u");
+    EXPECT_EQ(form.dgdULCOrderDetails.cellText(0, ULCOrderColumn::ULCOrderSelection), "3");
+    user::press(form.cmbULCORDERDetails, "Enter");
+    EXPECT_TRUE(form.dgdULCOrderDetails.focused());
+    EXPECT_EQ(form.dgdULCOrderDetails.currentColumn(), ULCOrderColumn::OrderNo);
+}
+
+TEST_F(ScrutinyULC, OnlyItemsComeIntoAListsCellFromTheClipboardAndDeleteKeepsItsValue) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    Grid& grid = form.dgdULCOrderDetails;
+    const auto selection = [&] { return grid.cellText(0, ULCOrderColumn::ULCOrderSelection); };
+    user::goToCell(grid, 0, ULCOrderColumn::ULCOrderSelection);
+    EXPECT_TRUE(user::editText(grid, " u/s 22 "));
+    EXPECT_EQ(selection(), "3");
+    EXPECT_EQ(form.cmbULCORDERDetails.listIndex(), 3);
+    EXPECT_FALSE(user::editText(grid, "U/S 23"));
+    EXPECT_FALSE(user::editText(grid, "1"));
+    user::clearCell(grid);
+    EXPECT_EQ(selection(), "3");
+}
+
+TEST_F(ScrutinyULC, SpaceAndEnterPressTheButtonOfDetailsInItsCellAndOnItself) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    Grid& grid = form.dgdULCOrderDetails;
+    user::pick(form.cmbULCORDERDetails, 3);
+    for (const std::string_view key : {"Space", "Enter"}) {
+        user::goToCell(grid, 0, ULCOrderColumn::Details);
+        user::press(grid, key);
+        ASSERT_NE(proposal.forms.loaded("frmUS22"), nullptr) << key;
+        EXPECT_TRUE(proposal.forms.loaded("frmUS22")->front());
+        user::close(*proposal.forms.loaded("frmUS22"));
+        EXPECT_EQ(proposal.forms.loaded("frmUS22"), nullptr);
+        user::press(form.cmdDetails, key);
+        EXPECT_NE(proposal.forms.loaded("frmUS22"), nullptr) << key;
+        user::pressForm(*proposal.forms.loaded("frmUS22"), "Esc");
+        EXPECT_EQ(proposal.forms.loaded("frmUS22"), nullptr);
+    }
+    // A letter goes to the button, which has no use for it; what a script puts in stays in the table.
+    user::goToCell(grid, 0, ULCOrderColumn::Details);
+    user::press(grid, "x");
+    EXPECT_TRUE(form.cmdDetails.focused());
+    EXPECT_EQ(grid.cellText(0, ULCOrderColumn::Details), "");
+    EXPECT_TRUE(user::editCell(grid, 0, ULCOrderColumn::Details, "y"));
+    EXPECT_EQ(grid.cellText(0, ULCOrderColumn::Details), "y");
+}
+
 TEST_F(ScrutinyULC, ClosingItKeepsItAndNewUnloadsIt) {
     saveLandRecords();
     auto& form = scrutiny();
