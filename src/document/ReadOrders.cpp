@@ -137,9 +137,10 @@ TextBox& memberAt(std::deque<TextBox>& boxes, std::size_t index) {
 void fillRevised(frmDiscretionrevisedCase& form, std::string_view rows) {
     if (trim(rows).empty())
         throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
-    rows.remove_suffix(1);
+    Pieces list = firstPieces(rows, "~", rows.size() + 1);
+    list.pop_back();
     std::size_t i = 0;
-    for (const std::string_view row : firstPieces(rows, "~", rows.size() + 1)) {
+    for (const std::string_view row : list) {
         const Pieces pieces = firstPieces(row, "#", mostPieces);
         memberAt(form.txtRule, i).setText(at(pieces, 0));
         memberAt(form.txtRuleC, i).setText(at(pieces, 1));

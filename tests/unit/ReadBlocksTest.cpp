@@ -313,6 +313,12 @@ TEST_F(ReadBlocks, WithoutTheRevisedRowsTheNewOnesAreLostToo) {
     EXPECT_NE(proposal.forms.loaded("frmDiscretionrevisedCase"), nullptr);
 }
 
+TEST_F(ReadBlocks, ARevisedRowWithoutTextEndsTheProcedure) {
+    file.removeSection("DISC-REV").addSection("DISC-REV", {{"RULE-1", ""}}).setText("DISC-NEW", "a#b");
+    EXPECT_EQ(open(), outOfRangeBox);
+    EXPECT_EQ(proposal.forms.get<frmDiscretionNewCase>().txtRule[0].text(), "");
+}
+
 TEST_F(ReadBlocks, ARowBeyondTheLastBoxEndsTheProcedure) {
     file.setText("DISC-NEW", "1#2#3#4#5#6#7#8#9#10#11#12#13#14#15#16");
     EXPECT_EQ(open(), outOfRangeBox);
