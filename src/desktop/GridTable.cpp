@@ -121,7 +121,8 @@ ColumnNeed GridTable::need(int column) const {
     const int content =
         setting.whole ? widestText(column) : metrics.horizontalAdvance(sample(grid->kind(column), setting.yesNo));
     const int text = content + metrics.averageCharWidth() + (setting.button ? lineHeight() : 0);
-    const int least = std::max(longestWord(toQt(setting.caption), metrics), text) + 2 * headMargin();
+    const int least = std::max(std::max(longestWord(toQt(setting.caption), metrics), text) + 2 * headMargin(),
+                               horizontalHeader()->minimumSectionSize());
     return {least, std::max(least, setting.width * metrics.averageCharWidth() / twipsPerCharacter)};
 }
 
