@@ -33,6 +33,7 @@ struct LayoutGroup {
     std::span<const std::string_view> heads{};
     /// Name of the frame control whose caption is the heading and that hides the whole group.
     std::string_view frame{};
+    bool lastFills = false;  ///< with heads: the last column takes the room that the others leave
 };
 
 struct LayoutPage {

@@ -60,6 +60,7 @@ ChildWindow::ChildWindow(Form& shown, ScreenView& screen, QWidget& desk)
     bar->installEventFilter(this);
     contents = new FormView(shown, screen, *this);
     contents->setCursor(Qt::ArrowCursor);
+    contents->grew = [this] { grow(); };
     showMaximiseBox();
     syncForm();
 }
@@ -119,6 +120,15 @@ void ChildWindow::fit() {
     resize(drawn ? size().boundedTo(room.size()) : contents->naturalSize(room.size() - around) + around);
     if (form && form->layout().centred && !moved && !drawn)
         move((room.width() - width()) / 2, (room.height() - height()) / 2);
+}
+
+/// Makes room for what came in sight, unless the user gave the window its size. It never shrinks by itself.
+void ChildWindow::grow() {
+    if (fillsDesk || drawn || isHidden())
+        return;
+    const QSize before = size();
+    fit();
+    resize(size().expandedTo(before).boundedTo(parentWidget()->size()));
 }
 
 void ChildWindow::setMaximised(bool on) {

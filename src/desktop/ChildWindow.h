@@ -45,6 +45,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void grow();
     QToolButton* makeBox(const QString& name, const QString& sign);
     void arrange();
     void showMaximiseBox();

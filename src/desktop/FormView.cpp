@@ -91,6 +91,7 @@ void FormView::drawPage(std::size_t number) {
     page.area->setFocusPolicy(Qt::NoFocus);
     page.area->setAccessibleName(tabs ? pageName(*form, static_cast<int>(number)) : toQt(trim(form->caption())));
     page.view = new PageView(*page.area, *form, groups, maker);
+    page.view->grew = [this] { grew(); };
     page.area->setWidget(page.view);
 }
 

@@ -2,6 +2,7 @@
 
 #include <QScrollArea>
 #include <QWidget>
+#include <functional>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -39,6 +40,9 @@ public:
     QWidget* widgetOf(const Control& control) const;
     /// Size that shows the page without scrolling, as far as `limit` allows.
     QSize naturalSize(QSize limit);
+
+    /// The page shown got higher, as its questions opened others.
+    std::function<void()> grew = [] {};
 
 protected:
     bool event(QEvent* event) override;

@@ -235,8 +235,11 @@ QRect PageView::rowOf(const QWidget& widget) const {
 
 bool PageView::event(QEvent* event) {
     if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::FontChange)
-        if (lastWidth > 0)
+        if (const int before = height(); lastWidth > 0) {
             arrange(lastWidth, lastViewHeight);
+            if (height() > before)
+                grew();
+        }
     return QWidget::event(event);
 }
 

@@ -31,6 +31,9 @@ public:
     /// Place of the row in which the widget stands, its question included; that of the widget alone outside of rows.
     QRect rowOf(const QWidget& widget) const;
 
+    /// Rows came in sight, and the page is higher than before.
+    std::function<void()> grew = [] {};
+
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -94,11 +97,13 @@ private:
     int readableWidth(int naturalWidth) const;
     int controlsWidth(const Row& row) const;
     std::vector<int> tableColumns(const Group& group) const;
+    int headWidth(const Group& group, std::size_t column) const;
     // Each of these puts a part at `top` and tells where it ends.
     int placeGroup(Group& group, const Columns& columns, int top);
     int placeTitle(const Group& group, const Columns& columns, int top);
     int placeHeads(const Group& group, const Columns& columns, const std::vector<int>& widths, int top);
-    int placeTableRow(const Row& row, const Columns& columns, const std::vector<int>& widths, int top);
+    int placeTableRow(const Group& group, const Row& row, const Columns& columns, const std::vector<int>& widths,
+                      int top);
     int placeRow(const Row& row, const Columns& columns, int top);
     int placeQuestion(const Row& row, const Columns& columns, int top, int width);
     int placeUnder(const Row& row, int top);

@@ -101,6 +101,19 @@ int PageView::naturalWidth() {
     return columnsFor(0).naturalWidth;
 }
 
+/// Heads that may be broken over lines need no more than their longest word.
+int PageView::headWidth(const Group& group, std::size_t column) const {
+    if (column >= group.heads.size())
+        return 0;
+    const QLabel& head = *group.heads[column];
+    if (!group.layout.lastFills)
+        return head.sizeHint().width() + gap();
+    int longest = 0;
+    for (const QString& word : head.text().split(' '))
+        longest = std::max(longest, fontMetrics().horizontalAdvance(word));
+    return longest + gap();
+}
+
 std::vector<int> PageView::tableColumns(const Group& group) const {
     std::vector<int> widths;
     if (group.heads.empty())
@@ -110,8 +123,7 @@ std::vector<int> PageView::tableColumns(const Group& group) const {
         for (std::size_t place = first; place < row.controls.size(); ++place) {
             const std::size_t column = place - first;
             if (column == widths.size())
-                widths.push_back(column + 1 < group.heads.size() ? group.heads[column + 1]->sizeHint().width() + gap()
-                                                                 : 0);
+                widths.push_back(headWidth(group, column + 1));
             widths[column] = std::max(widths[column], row.controls[place]->naturalWidth(false) + gap());
         }
     }
@@ -144,12 +156,15 @@ int PageView::placeGroup(Group& group, const Columns& columns, int top) {
     if (total > room)
         for (int& width : widths)
             width = width * room / total;
+    else if (group.layout.lastFills && !widths.empty())
+        widths.back() += room - total;
     if (!group.heads.empty())
         bottom = placeHeads(group, columns, widths, bottom);
     for (const Row& row : group.rows) {
         if (!row.shown)
             continue;
-        bottom = (group.heads.empty() ? placeRow(row, columns, bottom) : placeTableRow(row, columns, widths, bottom)) +
+        bottom = (group.heads.empty() ? placeRow(row, columns, bottom)
+                                      : placeTableRow(group, row, columns, widths, bottom)) +
                  gap() / 2;
         if (row.options)
             row.options->surround();
@@ -177,7 +192,8 @@ int PageView::placeHeads(const Group& group, const Columns& columns, const std::
     for (std::size_t column = 0; column < group.heads.size(); ++column) {
         QLabel* head = group.heads[column];
         const int width = column == 0 ? columns.questionWidth : column <= widths.size() ? widths[column - 1] : gap();
-        head->setGeometry(left, top, width, head->sizeHint().height());
+        head->setWordWrap(fontMetrics().horizontalAdvance(head->text()) > width);
+        head->setGeometry(left, top, width, head->wordWrap() ? head->heightForWidth(width) : head->sizeHint().height());
         height = std::max(height, head->height());
         left = column == 0 ? columns.controls : left + width;
     }
@@ -198,7 +214,8 @@ int PageView::placeQuestion(const Row& row, const Columns& columns, int top, int
     return top + offset + height;
 }
 
-int PageView::placeTableRow(const Row& row, const Columns& columns, const std::vector<int>& widths, int top) {
+int PageView::placeTableRow(const Group& group, const Row& row, const Columns& columns, const std::vector<int>& widths,
+                            int top) {
     int bottom = std::max(top + lineHeight(), placeQuestion(row, columns, top, columns.questionWidth));
     std::size_t first = 0;
     int middle = top + lineHeight() / 2;
@@ -218,7 +235,8 @@ int PageView::placeTableRow(const Row& row, const Columns& columns, const std::v
     int left = columns.controls;
     for (std::size_t cell = first; cell < row.controls.size(); ++cell) {
         const int width = widths[cell - first];
-        place(row.controls[cell]->widget(), left, row.controls[cell]->sizeFor(width - gap(), false));
+        const bool wide = group.layout.lastFills && cell + 1 == row.controls.size();
+        place(row.controls[cell]->widget(), left, row.controls[cell]->sizeFor(width - gap(), wide));
         left += width;
     }
     if (row.unit)

@@ -27,7 +27,7 @@ constexpr LayoutRow rules[] = {
     {"15", "Lobby/passage", "txtRule(14)"},
 };
 constexpr std::string_view heads[] = {"Rule", "Architect Remarks"};
-constexpr LayoutGroup groups[] = {{"", rules, heads}};
+constexpr LayoutGroup groups[] = {{.rows = rules, .heads = heads, .lastFills = true}};
 constexpr LayoutPage pages[] = {{groups}};
 constexpr Layout sheet{.questionWidth = 32, .head = "lblHead", .pages = pages, .buttons = "Command5 Command9"};
 

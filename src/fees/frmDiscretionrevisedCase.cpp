@@ -57,7 +57,7 @@ constexpr LayoutRow rows[] = {
 constexpr std::string_view heads[] = {"(A) Amendments in revised drawing", "(B) Details/areas in Revised drawing",
                                       "(C)Details/areas in sanctioned drawing",
                                       "(D)Architect's Remarks for discretion"};
-constexpr LayoutGroup groups[] = {{"", rows, heads}};
+constexpr LayoutGroup groups[] = {{.rows = rows, .heads = heads, .lastFills = true}};
 constexpr LayoutPage pages[] = {{groups}};
 constexpr Layout sheet{.questionWidth = 28, .head = "lblHead", .pages = pages, .buttons = "Command5 Command9"};
 

@@ -29,6 +29,8 @@ inline constexpr std::array formNames = {"frmAnnexureA",
                                          "frmUS84",
                                          "frmULC20aDetails",
                                          "frmUS22",
+                                         "frmDiscretionNewCase",
+                                         "frmDiscretionrevisedCase",
                                          "frmIssuOfDRc",
                                          "frmDRCTransfer",
                                          "frmDRCTransferCont",
@@ -42,10 +44,16 @@ inline constexpr std::array formNames = {"frmAnnexureA",
 
 /// The form with something in it, where it has grids.
 inline Form& filledForm(Session& session, const QString& name) {
-    static const std::map<QString, void (*)(Session&)> fillers = {
-        {"frmPlotExtractRelation", enterPlots}, {"frmMain712", enterExtracts},   {"frmPRCEXT", enterCards},
-        {"frmNaOrder", enterNaOrder},           {"frmScrutinyULC", enterOrders}, {"frmUS84", enterOrders},
-        {"frmULC20aDetails", enterOrders},      {"frmUS22", enterOrders}};
+    static const std::map<QString, void (*)(Session&)> fillers = {{"frmPlotExtractRelation", enterPlots},
+                                                                  {"frmMain712", enterExtracts},
+                                                                  {"frmPRCEXT", enterCards},
+                                                                  {"frmNaOrder", enterNaOrder},
+                                                                  {"frmScrutinyULC", enterOrders},
+                                                                  {"frmUS84", enterOrders},
+                                                                  {"frmULC20aDetails", enterOrders},
+                                                                  {"frmUS22", enterOrders},
+                                                                  {"frmDiscretionNewCase", enterDiscretionNew},
+                                                                  {"frmDiscretionrevisedCase", enterDiscretionRevised}};
     if (const auto fill = fillers.find(name); fill != fillers.end()) {
         session.press("mnuNew");
         enterPlots(session);

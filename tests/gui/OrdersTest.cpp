@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "desktop/ChildWindow.h"
 #include "desktop/GridTable.h"
 #include "gui/Registry.h"
 
@@ -97,6 +98,21 @@ private slots:
         windows.key(Qt::Key_Escape);
         QVERIFY(!windows.proposal.forms.loaded("frmULC20aDetails"));
         QVERIFY(form.front());
+    }
+
+    void theWindowGrowsWithWhatTheAnswersOpen() {
+        OrderWindows windows;
+        enterUS20a1(windows);
+        windows.settle();
+        auto& form = windows.form<frmULC20aDetails>();
+        const auto height = [&] { return windows.window.forms().windowOf(form)->height(); };
+        const int desk = windows.window.forms().windowOf(form)->parentWidget()->height();
+        QTRY_COMPARE(height(), desk);
+        user::click(form.IsUlCUS84Submitted.no);
+        user::click(form.IsReservationCondition.no);
+        windows.window.forms().refresh();
+        windows.settle();
+        QCOMPARE(height(), desk);
     }
 
     void enterOnTheButtonOfDetailsOpensTheOrder() {
