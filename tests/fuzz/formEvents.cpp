@@ -1,6 +1,7 @@
 // Random bytes as what a user does to the forms: whatever is typed, pressed, clicked and closed, in whatever order, the
 // system goes on and its forms stay sound.
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -53,6 +54,7 @@ struct Session : test::World {
 
     void start(Bytes& bytes);
     void relatePlots();
+    void orderExtracts();
     void choose(Bytes& bytes);
     void act(Bytes& bytes);
     void onTextBox(TextBox& box, Bytes& bytes);
@@ -74,8 +76,10 @@ void Session::start(Bytes& bytes) {
         return;
     shell.press("mnuNew");
     fillFirstPage();
-    if (from == 2)
+    if (from == 2) {
         relatePlots();
+        orderExtracts();
+    }
 }
 
 /// Two plots with three extracts and as many property cards, each first one with two owners and holders.
@@ -98,6 +102,23 @@ void Session::relatePlots() {
         for (const int count : {5, 7})
             user::editCell(grid(tab.form, "dgdInfoOfExtract"), 0, count, "2");
     }
+}
+
+/// The land records saved, and the form of an order of each kind open for the first extract.
+void Session::orderExtracts() {
+    constexpr std::string_view scrutiny = "frmScrutinyULC";
+    for (const std::string_view extracts : {"frmMain712", "frmPRCEXT"})
+        user::click(button(extracts, "cmdSave"));
+    shell.press("mnuUlcOrder");
+    user::click(option(scrutiny, "optDocCtrlOwn(0)"));
+    user::pick(list(scrutiny, "cmbExtract"), 0);
+    for (const int order : {1, 2, 3}) {
+        user::pick(list(scrutiny, "cmbULCORDERDetails"), order);
+        user::click(button(scrutiny, "cmdDetails"));
+    }
+    user::type(box("frmUS84", "txtNoOfPlotOwnedByApplicant"), "2");
+    user::pick(list("frmULC20aDetails", "cmbSchemaType"), 2);
+    user::click(option("frmULC20aDetails", "IsReservationCondition(1)"));
 }
 
 void Session::choose(Bytes& bytes) {
@@ -127,7 +148,9 @@ void Session::onTextBox(TextBox& box, Bytes& bytes) {
 
 void Session::onGrid(Grid& grid, Bytes& bytes) {
     const auto row = static_cast<int>(bytes.below(4));
-    const auto column = static_cast<int>(bytes.below(9));
+    constexpr int usualColumns = 9;
+    const auto column =
+        static_cast<int>(bytes.below(static_cast<std::size_t>(std::max(usualColumns, grid.columnCount()))));
     switch (bytes.below(5)) {
     case 0:
         user::editCell(grid, row, column, bytes.text());

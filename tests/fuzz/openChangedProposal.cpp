@@ -1,5 +1,5 @@
-// Real proposal files with changed, dropped, doubled and swapped elements are opened: the changes keep the file
-// well-formed more often than not, so that they reach the reader of the sections.
+// Real proposal files with changed, dropped, doubled and swapped elements are opened, saved and opened again: the
+// changes keep the file well-formed more often than not, so that they reach the readers of all blocks.
 
 #include <algorithm>
 #include <array>
@@ -16,8 +16,10 @@ extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, st
 namespace {
 
 constexpr std::array values = std::to_array<std::string_view>(
-    {"",      "0",     "1",  "2",     "01",  "1#0", "#",  "##########", "@",          "||",    "~", "-",
-     "0-0-0", "32768", "-1", "1e400", "abc", "[",   "\\", "31/02/2025", "01/01/0100", "&amp;", " ", "CASH"});
+    {"", "0", "1", "2", "01", "1#0", "#", "##########", "@", "||", "~", "-", "0-0-0", "32768", "-1", "1e400", "abc",
+     "[", "\\", "31/02/2025", "01/01/0100", "&amp;", " ", "CASH",
+     // of the land records and orders
+     "^#^", "@->", "$-$", "^", "3", "17", "#######", "-0", "1#", "Signed", "16", "True"});
 
 /// An element that holds text alone.
 struct Leaf {
@@ -79,6 +81,9 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    plandesk::test::openBytes(data, size);
+    plandesk::test::World world;
+    const std::string saved = plandesk::test::openAndSave(world, data, size);
+    if (!saved.empty())
+        plandesk::test::openAndSave(world, saved.data(), saved.size());
     return 0;
 }
