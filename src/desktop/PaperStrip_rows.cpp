@@ -24,6 +24,7 @@ struct Padding {
     qreal across = 0;
     qreal above = 0;
     qreal below = 0;
+    bool flush = false;  ///< the first column begins where a paragraph would
 };
 
 /// A document of one row of cells, side by side.
@@ -47,7 +48,7 @@ std::unique_ptr<QTextDocument> rowOfCells(const PaperRow& row, const std::vector
     for (std::size_t column = 0; column < columns.size() && column < row.cells.size(); ++column) {
         QTextTableCell cell = table->cellAt(0, static_cast<int>(column));
         QTextTableCellFormat room;
-        room.setLeftPadding(padding.across);
+        room.setLeftPadding(padding.flush && column == 0 ? 0 : padding.across);
         room.setRightPadding(padding.across);
         room.setTopPadding(padding.above);
         room.setBottomPadding(padding.below);
@@ -184,7 +185,7 @@ private:
             constexpr qreal number = 12 * mm;
             const PaperCell& items = row.cells.front();
             const PaperRow numbered{{{items.front()}, {items.begin() + 1, items.end()}}};
-            text = rowOfCells(numbered, columnsOf({number, width - number}), {look, look}, {mm, 0, 0}, date);
+            text = rowOfCells(numbered, columnsOf({number, width - number}), {look, look}, {mm, 0, 0, true}, date);
         } else {
             // Lines with blanks have room for a hand.
             const bool blanks = std::ranges::any_of(row.cells.front(), &PaperItem::isField);
@@ -212,7 +213,7 @@ private:
         constexpr qreal longestRule = 100 * mm;
         const auto columns = columnsOf({label, std::min(width - left - label, longestRule)}, left);
         const TextLook look{letterText, row.style == RowStyle::Bold, FieldLook::Plain};
-        PaperStrip& strip = add(rowOfCells(row, columns, {look, look}, {mm, 2.5 * mm, 0.5 * mm}, date), columns,
+        PaperStrip& strip = add(rowOfCells(row, columns, {look, look}, {mm, 2.5 * mm, 0.5 * mm, true}, date), columns,
                                 PaperStrip::Lines::Under);
         strip.keepWithNext = &row != &section.rows.back();
     }

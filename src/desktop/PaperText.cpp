@@ -83,8 +83,10 @@ void insertItems(QTextCursor& cursor, const PaperCell& items, const TextLook& lo
         const QString text = item.isField() ? asText(item.value) : labelText(item, date);
         if (look.field != FieldLook::Blank && isEmptyField(item) && (answered || begun))
             continue;
+        // A blank for the pen stays with the word before it.
+        const QChar space = isEmptyField(item) ? QChar::Nbsp : QChar::Space;
         if (begun && !closesUp(text))
-            cursor.insertText(QStringLiteral(" "), plain);
+            cursor.insertText(QString(space), plain);
         begun = true;
         QTextCharFormat format = plain;
         if (isEmptyField(item)) {
