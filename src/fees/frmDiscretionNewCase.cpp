@@ -39,6 +39,7 @@ frmDiscretionNewCase::frmDiscretionNewCase(Proposal& proposal)
     Command5.click = [this] { this->proposal.commands.print("rptDiscretionNewCase"); };
     Command9.click = [this] { hide(); };
     procedure("setDiscretionNewForSave", [this] { setDiscretionNewForSave(); });
+    procedure("setRptDiscretion", [this] { this->proposal.commands.feed("rptDiscretionNewCase"); });
 }
 
 void frmDiscretionNewCase::load() {

@@ -80,6 +80,7 @@ frmDiscretionrevisedCase::frmDiscretionrevisedCase(Proposal& proposal)
     Command5.click = [this] { this->proposal.commands.print("rptDiscretionRevCase"); };
     Command9.click = [this] { hide(); };
     procedure("setDiscretionForSave", [this] { setDiscretionForSave(); });
+    procedure("setRPTDiscretionPrint", [this] { this->proposal.commands.feed("rptDiscretionRevCase"); });
 }
 
 void frmDiscretionrevisedCase::load() {

@@ -105,7 +105,10 @@ void frmAnnexureA::wireButtons() {
     cmdSaveALL.click = [this] { proposal.commands.saveProposal(); };
     cmdClose.click = [this] { cmdClose_Click(); };
     Command1.click = [this] { Command1_Click(); };
-    cmdPrint.click = [this] { proposal.commands.print("rptAnnexutreA"); };
+    cmdPrint.click = [this] {
+        proposal.noReportReturn = false;
+        proposal.commands.print("rptAnnexutreA");
+    };
     cmdUS84.click = [this] { proposal.commands.print("rptReciept"); };
     cmdPlotRelation.click = [this] { proposal.commands.open("frmPlotExtractRelation"); };
 }

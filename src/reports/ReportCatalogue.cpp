@@ -1,7 +1,6 @@
 #include "reports/ReportCatalogue.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 #include "base/RuntimeError.h"
@@ -17,17 +16,17 @@ constexpr PaperPlace receiptWindow{.left = 0, .top = 0, .width = 15000, .height 
 constexpr PaperPlace letterWindow{.left = 0, .top = 600, .width = 15000, .height = 8750};
 constexpr PaperPlace discretionWindow{.left = 50, .top = 600, .width = 15000, .height = 8750};
 
-constexpr ReportRow page(std::string_view name, std::string_view procedure = "") {
-    return {name, &feedParticulars, procedure, ShownBy::Procedure, pageWindow, true};
+constexpr ReportRow page(std::size_t number, std::string_view procedure = "") {
+    return {particularsPages.at(number), &feedParticulars, procedure, ShownBy::Procedure, pageWindow};
 }
 
 constexpr std::array catalogue = std::to_array<ReportRow>({
-    page("rptAnnexutreA", "fillParticulars"),
-    page("rptAnnexutreA1"),
-    page("rptAnnexutreA2"),
-    page("rptAnnexutreA3"),
-    page("rptAnnexutreA4"),
-    page("rptAnnexutreA5"),
+    page(0, "fillParticulars"),
+    page(1),
+    page(2),
+    page(3),
+    page(4),
+    page(5),
     {"rptPaymentDetails", &feedPayment, "fillPayment", ShownBy::Nobody, letterWindow},
     {"rptPaymentDetails123", &feedPayment, "", ShownBy::Nobody, letterWindow},
     {"rptReciept", &feedHeader, "fillHeader", ShownBy::Button, receiptWindow},

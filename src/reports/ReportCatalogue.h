@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 #include <string_view>
 
@@ -21,8 +22,17 @@ struct ReportRow {
     std::string_view procedure;  ///< that feeds it, by the system's own name; empty where another report's does
     ShownBy shownBy;
     PaperPlace window;
-    bool isPage = false;  ///< one of the six pages of the Particulars of Development, which the navigator turns
 };
+
+/// The pages of the Particulars of Development, which the navigator turns.
+inline constexpr std::array particularsPages = std::to_array<std::string_view>({
+    "rptAnnexutreA",
+    "rptAnnexutreA1",
+    "rptAnnexutreA2",
+    "rptAnnexutreA3",
+    "rptAnnexutreA4",
+    "rptAnnexutreA5",
+});
 
 /// Every report, in the order of the layouts.
 std::span<const ReportRow> reportCatalogue();

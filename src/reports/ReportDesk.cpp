@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "proposal/Proposal.h"
@@ -69,6 +70,12 @@ Paper fillPaper(const Paper& layout, const ReportData& data) {
     return paper;
 }
 
+ReportDesk& ReportDesk::of(const Proposal& proposal) {
+    if (!proposal.commands.reports)
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    return *proposal.commands.reports;
+}
+
 ReportDesk::Source& ReportDesk::touch(std::string_view report) {
     const ReportRow& row = findReport(report);
     const auto known = std::ranges::find(sources, &row, &Source::report);
@@ -95,7 +102,7 @@ void ReportDesk::bind(std::string_view report, ReportData data) {
     source.data = std::move(data);
     source.person = professional(proposal);
     const auto preview = placeOf(report);
-    if (preview == open.end())
+    if (preview == open.end() || (*preview)->data == source.data)
         return;
     **preview = filled(report);
     if (observer)
@@ -146,11 +153,11 @@ void ReportDesk::close(std::string_view report) {
     const auto place = placeOf(report);
     if (place == open.end())
         return;
-    const ReportRow& row = findReport(report);
+    const std::string_view name = findReport(report).name;
     open.erase(place);
     if (observer)
-        observer->reportClosed(row.name);
-    if (row.isPage)
+        observer->reportClosed(name);
+    if (std::ranges::find(particularsPages, name) != particularsPages.end())
         proposal.forms.unload("frmReportNav");
 }
 

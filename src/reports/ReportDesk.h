@@ -25,6 +25,8 @@ struct ReportData {
     ReportData() = default;
     explicit ReportData(const Recordset& table);
 
+    bool operator==(const ReportData&) const = default;
+
     /// The text of the column of that name, in any case; null when there is no such column or row.
     const std::string* find(std::string_view column, std::size_t row = 0) const;
 };
@@ -56,9 +58,12 @@ class ReportDesk {
 public:
     explicit ReportDesk(Proposal& proposal) : proposal(proposal) {}
 
+    /// The desk that the shell gave the proposal. RuntimeError 91 when there is none.
+    static ReportDesk& of(const Proposal& proposal);
+
     ReportObserver* observer = nullptr;  ///< may be null
 
-    /// The report's data source becomes `data`. A preview that is open shows it at once.
+    /// The report's data source becomes `data`. A preview that is open shows what is new in it at once.
     void bind(std::string_view report, ReportData data);
     void place(std::string_view report, PaperPlace window);
     /// Opens the report's preview, or brings it to the front.

@@ -38,9 +38,9 @@ bool rptAnnexture::fillParticulars() {
         if (!proposal.isDirectPrint)
             if (Form* navigator = proposal.forms.touch("frmReportNav"))
                 navigator->show();
-        bindParticularsPages();
+        bindParticularsPages(proposal, desk);
         if (!proposal.isDirectPrint)
-            desk.show("rptAnnexutreA");
+            desk.show(particularsPages.front());
         return true;
     } catch (const RuntimeError& error) {
         proposal.screen.message(error.description + " - " + std::to_string(error.number), "", Icon::None);
@@ -53,7 +53,7 @@ void rptAnnexture::print(std::string_view report) {
         desk.show(report);
 }
 
-void rptAnnexture::bindParticularsPages() {
+void bindParticularsPages(const Proposal& proposal, ReportDesk& desk) {
     give(desk, feedParticulars, proposal.tables.rsReportParticulars.get());
 }
 

@@ -19,8 +19,6 @@ public:
     bool fill(std::string_view report);
     /// What the print button of a form does.
     void print(std::string_view report);
-    /// Gives the six pages of the Particulars the row that was fed last, and their place.
-    void bindParticularsPages();
 
 private:
     bool fillParticulars();
@@ -28,5 +26,8 @@ private:
     Proposal& proposal;
     ReportDesk& desk;
 };
+
+/// Gives the six pages of the Particulars the row that was fed last, and their place.
+void bindParticularsPages(const Proposal& proposal, ReportDesk& desk);
 
 }  // namespace plandesk

@@ -16,6 +16,8 @@
 #include "landrecords/frmPlotExtractRelation.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
+#include "reports/frmPrint.h"
+#include "reports/frmReportNav.h"
 #include "reports/letters/StatutoryLetters.h"
 #include "shell/frmAbout.h"
 #include "shell/frmHelp.h"
@@ -30,10 +32,6 @@ namespace {
 
 constexpr bool dropped = true;
 constexpr bool kept = false;
-
-constexpr FormRow toCome(std::string_view name, bool droppedByNew) {
-    return {.name = name, .droppedByNew = droppedByNew};
-}
 
 void openPlotRelation(Proposal& proposal) {
     proposal.forms.get<frmPlotExtractRelation>().open();
@@ -67,8 +65,8 @@ constexpr std::array catalogue = std::to_array<FormRow>({
     formRow<frmDRCTransfer>(kept),
     formRow<frmDRCTransferCont>(kept),
     formRow<frmDRCUtilisationForm>(kept),
-    toCome("frmReportNav", kept),
-    toCome("frmPrint", kept),
+    formRow<frmReportNav>(kept, openNavigator),
+    formRow<frmPrint>(kept),
     formRow<frmHelp>(kept),
     formRow<frmAbout>(kept),
 });

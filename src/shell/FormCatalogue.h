@@ -6,7 +6,7 @@
 
 namespace plandesk {
 
-/// Every form of the system, those to come included. The forms that New and Open drop stand in the order in which they
+/// Every form of the system. The forms that New and Open drop stand in the order in which they
 /// are unloaded.
 std::span<const FormRow> formCatalogue();
 

@@ -68,7 +68,7 @@ void mdiInterface::fillCommands() {
     named["showSectionFourPage"] = [this] { showSectionFourPage(proposal); };
     named["showPaymentColors"] = [this] { proposal.forms.get<frmPayDetail>().showPaymentColors(); };
     named["createAllTables"] = [this] { proposal.tables.createAllTables(); };
-    named["bindParticularsPages"] = [this] { feeds->bindParticularsPages(); };
+    named["bindParticularsPages"] = [this] { plandesk::bindParticularsPages(proposal, *desk); };
     named["closeReports"] = [this] { closeReports(); };
     for (const ReportRow& report : reportCatalogue())
         if (!report.procedure.empty())

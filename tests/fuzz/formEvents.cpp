@@ -15,6 +15,8 @@
 #include "controls/Controls.h"
 #include "controls/User.h"
 #include "proposal/Grid.h"
+#include "reports/ReportCatalogue.h"
+#include "reports/ReportDesk.h"
 #include "unit/World.h"
 
 namespace plandesk {
@@ -61,7 +63,9 @@ struct Session : test::World {
     void onGrid(Grid& grid, Bytes& bytes);
     void onForm(Bytes& bytes);
     void onMainWindow(Bytes& bytes);
+    void onReport(Bytes& bytes);
     void check();
+    void checkReports();
 };
 
 void fail(std::string_view what) {
@@ -186,15 +190,37 @@ void Session::onForm(Bytes& bytes) {
 void Session::onMainWindow(Bytes& bytes) {
     static constexpr std::array answers =
         std::to_array<std::string_view>({"yes", "no", "cancel", "/plans/proposal.xml"});
-    switch (bytes.below(3)) {
+    switch (bytes.below(4)) {
     case 0:
         shell.press(mainMenu()[bytes.below(mainMenu().size())].name);
         break;
     case 1:
         shell.Timer1_Timer();
         break;
+    case 2:
+        return onReport(bytes);
     default:
         ports.dialogs.answers.emplace_back(answers[bytes.below(answers.size())]);
+    }
+}
+
+void Session::onReport(Bytes& bytes) {
+    const std::string_view report = reportCatalogue()[bytes.below(reportCatalogue().size())].name;
+    switch (bytes.below(5)) {
+    case 0:
+        shell.reports().pressClose(report);
+        break;
+    case 1:
+        proposal.screen.event([this] { shell.closeReports(); });
+        break;
+    case 2:
+        ports.printer.isReady = !ports.printer.isReady;
+        break;
+    case 3:
+        ports.printer.failures.emplace(report, RuntimeError(ErrorNumber::PrinterError));
+        break;
+    default:
+        proposal.screen.event([&] { proposal.commands.print(report); });
     }
 }
 
@@ -261,6 +287,22 @@ void Session::check() {
     }
     if (!focusFound)
         fail("the focus is on no loaded form");
+    checkReports();
+}
+
+/// Each report is open once, with one row of data, or the rows of its feed, for all its columns.
+void Session::checkReports() {
+    std::set<std::string_view> open;
+    for (const Preview* preview : shell.reports().previews()) {
+        const Feed& feed = *findReport(preview->name).feed;
+        if (!open.insert(preview->name).second)
+            fail("a report is open twice");
+        if (!preview->data.rows.empty() && (preview->data.rows.size() != static_cast<std::size_t>(feed.count) ||
+                                            preview->data.rows.front().size() != feed.rows.size()))
+            fail("a report shows other data than its feed makes");
+    }
+    if (proposal.isDirectPrint)
+        fail("documents are still being printed after the event");
 }
 
 }  // namespace

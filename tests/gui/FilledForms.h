@@ -40,7 +40,9 @@ inline constexpr std::array formNames = {"frmAnnexureA",
                                          "frmcompletionuptoplinthlevel",
                                          "frmbuildingcompletioncertificate",
                                          "frmforpartoccupancycertificate",
-                                         "frmtdrfortransferringownership"};
+                                         "frmtdrfortransferringownership",
+                                         "frmPrint",
+                                         "frmReportNav"};
 
 /// The form with something in it, where it has grids.
 inline Form& filledForm(Session& session, const QString& name) {

@@ -208,6 +208,8 @@ private slots:
         }
         for (const char* name : formNames) {
             std::set<QChar> keys = bar;
+            if (name == std::string_view("frmPrint"))
+                keys.erase('P');  // "&Print" and "&Plot area details" are the system's own words
             for (Control* control : session.proposal.forms.touch(name)->controls())
                 if (const auto* button = dynamic_cast<const Button*>(control))
                     if (const QChar key = mnemonicOf(desktop::toQt(button->caption())); !key.isNull())

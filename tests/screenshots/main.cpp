@@ -75,7 +75,7 @@ void takeAll(const std::filesystem::path& folder, const std::string& suffix) {
          {"frmAnnexureA", "AnnexureACont", "frmPayDetail", "frmDocCheckList", "frmDocCheckList1", "frmHelp", "frmAbout",
           "frmIssuOfDRc", "frmDRCTransfer", "frmDRCTransferCont", "frmDRCUtilisationForm", "frmofsupervision",
           "frmnoticeofcommencementofwork", "frmcompletionuptoplinthlevel", "frmbuildingcompletioncertificate",
-          "frmforpartoccupancycertificate", "frmtdrfortransferringownership"})
+          "frmforpartoccupancycertificate", "frmtdrfortransferringownership", "frmPrint", "frmReportNav"})
         if (Form* form = session.proposal.forms.touch(name))
             camera.takePages(*form);
 }

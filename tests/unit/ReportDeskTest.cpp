@@ -100,6 +100,7 @@ TEST_F(Desk, APreviewShowsACopyUntilItsReportIsFedAgain) {
     EXPECT_EQ(preview->paper.date, ports.clock.day);
     desk.bind("rptDiscretionNewCase", remarks);
     EXPECT_EQ(*preview->data.find("fld1"), "later");
+    desk.bind("rptDiscretionNewCase", remarks);  // nothing new
     EXPECT_EQ(heard.log, (std::vector<std::string>{"shown rptDiscretionNewCase", "changed rptDiscretionNewCase"}));
 }
 

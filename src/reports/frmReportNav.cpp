@@ -1,0 +1,70 @@
+#include "reports/frmReportNav.h"
+
+#include "proposal/mdlProject.h"
+#include "reports/ReportCatalogue.h"
+#include "reports/ReportDesk.h"
+#include "reports/rptAnnexture.h"
+
+namespace plandesk {
+
+namespace {
+
+constexpr Colour buttonFace{0xF0, 0xF0, 0xF0};
+constexpr int lastPage = 4;  // the one before the last: the sixth is reached by its number alone
+
+constexpr LayoutRow rows[] = {
+    {.question = "Page",
+     .controls = "cmdNavPrev cmdFormNo(0) cmdFormNo(1) cmdFormNo(2) cmdFormNo(3) cmdFormNo(4) cmdFormNo(5) cmdNavNext"},
+};
+constexpr LayoutGroup groups[] = {{"", rows}};
+constexpr LayoutPage pages[] = {{groups}};
+constexpr Layout sheet{.questionWidth = 5, .pages = pages};
+
+}  // namespace
+
+frmReportNav::frmReportNav(Proposal& proposal)
+    : Form(proposal.screen, formName, "Pages of the report"), proposal(proposal) {
+    for (Button& button : cmdFormNo)
+        button.click = [this, page = button.index()] { cmdFormNo_Click(page); };
+    cmdNavPrev.click = [this] { cmdFormNo_Click(0); };
+    cmdNavNext.click = [this] { cmdFormNo_Click(lastPage); };
+    cmdNavNext.toolTip = "Page 5; page 6 is another form of it";
+    procedure("Form_Activate", [this] { Form_Activate(); });
+    paintButtons();
+}
+
+void frmReportNav::load() {
+    setFormColors(*this, proposal);
+}
+
+const Layout& frmReportNav::layout() const {
+    return sheet;
+}
+
+void frmReportNav::paintButtons() {
+    for (Button& button : cmdFormNo)
+        button.setBackColor(buttonFace);
+}
+
+void frmReportNav::cmdFormNo_Click(int page) {
+    const auto place = static_cast<std::size_t>(page);
+    ReportDesk& desk = ReportDesk::of(proposal);
+    paintButtons();
+    bindParticularsPages(proposal, desk);
+    cmdFormNo.at(place).setBackColor(white);
+    desk.show(particularsPages.at(place));
+}
+
+void frmReportNav::Form_Activate() {
+    ReportDesk& desk = ReportDesk::of(proposal);
+    bindParticularsPages(proposal, desk);
+    desk.show(particularsPages.front());
+}
+
+void openNavigator(Proposal& proposal) {
+    auto& navigator = proposal.forms.get<frmReportNav>();
+    navigator.show();
+    navigator.Form_Activate();
+}
+
+}  // namespace plandesk
