@@ -16,6 +16,7 @@ struct PaperItem {
     std::string_view text{};   ///< of a fixed text, exactly as it is printed; "%D" stands for the date of the report
     std::string_view field{};  ///< name of the column, in any case; empty for a fixed text
     std::string value{};       ///< what the field shows; empty in a layout
+    bool onNewLine = false;    ///< begins a line of its own among the items of its cell
 
     bool isField() const { return !field.empty(); }
 };

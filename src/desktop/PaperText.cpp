@@ -85,7 +85,9 @@ void insertItems(QTextCursor& cursor, const PaperCell& items, const TextLook& lo
             continue;
         // A blank for the pen stays with the word before it.
         const QChar space = isEmptyField(item) ? QChar::Nbsp : QChar::Space;
-        if (begun && !closesUp(text))
+        if (begun && item.onNewLine)
+            cursor.insertText(QString(QChar::LineSeparator), plain);
+        else if (begun && !closesUp(text))
             cursor.insertText(QString(space), plain);
         begun = true;
         QTextCharFormat format = plain;

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "desktop/PaperPages.h"
 #include "desktop/PaperPdf.h"
 #include "gui/PaperTools.h"
@@ -16,12 +18,10 @@ namespace {
 constexpr const char* pages[] = {"rptAnnexutreA",  "rptAnnexutreA1", "rptAnnexutreA2",
                                  "rptAnnexutreA3", "rptAnnexutreA4", "rptAnnexutreA5"};
 
-/// The line of the sheet that holds the words.
-QString lineOf(const QString& sheet, const QString& words) {
-    for (const QString& line : sheet.split('\n'))
-        if (line.contains(words))
-            return line;
-    return {};
+/// From the row of the question to the row of the next one.
+QString rowOf(const QString& sheet, const QString& question, const QString& next) {
+    const auto begin = sheet.indexOf(question);
+    return sheet.mid(begin, sheet.indexOf(next) - begin).simplified();
 }
 
 }  // namespace
@@ -94,10 +94,24 @@ private slots:
                 if (item->field == "txtPescribWidth")
                     item->value = second;
             }
-            return lineOf(sheetsOf(pdfOf(paper), "-layout").join(""), "Pescribed width").simplified();
+            return rowOf(sheetsOf(pdfOf(paper), "-layout").join(""), "Pescribed width", "ii.");
         };
         QCOMPARE(widths("", "9.00"), QString("Pescribed width 9.00"));
         QCOMPARE(widths("12.00", "9.00"), QString("Pescribed width 1. Street : 12.00 2. Street 9.00"));
+    }
+
+    void aFurtherAnswerStandsBelowTheFirst() {
+        Paper paper = *findLayout("rptAnnexutreA4");
+        for (PaperItem* item : itemsOf(paper))
+            if (item->field == "Opt37Y" || item->field == "txtProvAnteena")
+                item->value = item->field == "Opt37Y" ? "first" : "second";
+        const std::vector<Word> words = placesOf(pdfOf(paper));
+        const auto place = [&](const QString& text) {
+            const auto found = std::ranges::find(words, text, &Word::text);
+            return found == words.end() ? QRectF() : found->place;
+        };
+        QCOMPARE(place("first").left(), place("second").left());
+        QVERIFY(place("first").top() + 5 < place("second").top());
     }
 };
 

@@ -14,6 +14,12 @@ inline PaperItem field(std::string_view column) {
     return {.field = column};
 }
 
+/// The same on a new line of its cell.
+inline PaperItem below(PaperItem item) {
+    item.onNewLine = true;
+    return item;
+}
+
 /// A question of the particulars; marks that it lacks are "".
 inline PaperRow question(std::string_view number, std::string_view letter, std::string_view smallNumber,
                          std::string_view words, PaperCell answer) {

@@ -37,11 +37,11 @@ Questions streets() {
     return {
         question("9.", "a.", "", "Is plot abutting in two or more street ?", {field("Opt77Y")}),
         question("", "", "i.", "What is the Average?", {field("txtAverage")}),
-        further("Pescribed width",
-                {field("txtStreet1"), field("txtFstStreetWidth"), field("txtStreet2"), field("txtPescribWidth")}),
-        question(
-            "", "", "ii.", "Existing width of the street",
-            {field("txtStreet1"), field("txtFstExistingWidth"), field("txtStreet2"), field("txtExistingWidthStreet")}),
+        further("Pescribed width", {field("txtStreet1"), field("txtFstStreetWidth"), below(field("txtStreet2")),
+                                    field("txtPescribWidth")}),
+        question("", "", "ii.", "Existing width of the street",
+                 {field("txtStreet1"), field("txtFstExistingWidth"), below(field("txtStreet2")),
+                  field("txtExistingWidthStreet")}),
         question("", "b.", "", "What is the height of building?", {field("txtHeightOfBuilding")}),
         question("", "", "i.", "Above the center of street", {field("txtAbvCentStreet")}),
         question("", "", "ii.", "Above the average ground level of the plot", {field("txtAboveAverageGrndLevel")}),

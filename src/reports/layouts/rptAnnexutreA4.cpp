@@ -16,7 +16,7 @@ Questions wallToWaterCourse() {
         question("", "", "ii.",
                  "Is a \"No objection Certificate\" for height andf character of smoke from chimneys obtained from "
                  "Chief Inspector of Boilers and smoke Nuisance? ",
-                 {field("Opt37Y"), field("txtProvAnteena")}),
+                 {field("Opt37Y"), below(field("txtProvAnteena"))}),
         // Not asked on screen; the paper answers it itself.
         further("Does the proposal fall under the category of tower like structure vide Regulation 79?",
                 {text("No Details tobe filled")}),
