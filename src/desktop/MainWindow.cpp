@@ -59,16 +59,25 @@ QRect framedWithin(const QRect& available, const QMargins& frame, const QRect& w
 }
 
 MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
-    : proposal(proposal), shell(shell), desk(new Desk(*this)), screenView(proposal.screen, *desk) {
+    : proposal(proposal),
+      shell(shell),
+      desk(new Desk(*this)),
+      screenView(proposal.screen, *desk),
+      previewWindows({proposal, shell.reports(), screenView, *desk,
+                      [this](const Paper& paper, const PaperPages& pages, QWidget* window) {
+                          printPreview(paper, pages, window);
+                      }}) {
     setObjectName(QStringLiteral("mdiInterface"));
     setCentralWidget(desk);
     makeMenu();
     makeStatusBar();
     makeTimers();
     screenView.mainWindowTouched = [this] { showState(); };
+    screenView.formsShown = [this] { previewWindows.sync(); };
     desk->resized = [this] {
         screenView.guarded([this] {
             screenView.fitWindows();
+            previewWindows.fit();
             this->shell.resized();
             timer2.start(tick);
         });
@@ -76,6 +85,10 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
     shell.paintBackground = [this] { desk->paintBackground(); };
     shell.minimised = [this] { return isMinimized(); };
     makeShortcuts();
+    connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*before*/, const QWidget* now) {
+        if (now && desk->isAncestorOf(now))
+            focusWentTo(*now);
+    });
     showState();
     screenView.refresh();
     if (auto* application = dynamic_cast<Application*>(qApp))
@@ -85,6 +98,7 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
 }
 
 MainWindow::~MainWindow() {
+    disconnect(qApp, nullptr, this, nullptr);  // the windows that end move the focus
     if (auto* application = dynamic_cast<Application*>(qApp))
         application->failed = Application::writeFailure;
     shell.paintBackground = [] {};
@@ -123,7 +137,7 @@ void MainWindow::makeStatusBar() {
     auto* panel = new QLabel(QStringLiteral("Powered by   Meridane Works"));
     panel->setObjectName(QStringLiteral("statusPanel"));
     statusBar()->addWidget(panel);
-    openForms = new WindowRow(proposal.screen, screenView);
+    openForms = new WindowRow(proposal.screen, screenView, previewWindows);
     statusBar()->addWidget(openForms, 1);
 }
 
@@ -131,19 +145,21 @@ void MainWindow::makeShortcuts() {
     const auto on = [this](const QKeySequence& keys, const std::function<void()>& what) {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, what);
     };
-    const auto onFront = [this](const std::function<void(ChildWindow&)>& what) {
+    const auto onFront = [this](const std::function<void(ChildFrame&)>& what) {
         const Form* front = proposal.screen.frontForm();
-        if (ChildWindow* window = front ? screenView.windowOf(*front) : nullptr)
+        if (ChildFrame* guest = screenView.guest())
+            what(*guest);
+        else if (ChildWindow* window = front ? screenView.windowOf(*front) : nullptr)
             what(*window);
     };
-    onKeys(Qt::CTRL | Qt::Key_F4, [](Form& front) { user::close(front); });
-    onKeys(Qt::CTRL | Qt::Key_PageDown, [](Form& front) { user::turnPage(front, true); });
-    onKeys(Qt::CTRL | Qt::Key_PageUp, [](Form& front) { user::turnPage(front, false); });
+    on(Qt::CTRL | Qt::Key_F4, [onFront] { onFront([](ChildFrame& window) { window.closeWindow(); }); });
+    on(Qt::CTRL | Qt::Key_PageDown, [onFront] { onFront([](ChildFrame& window) { window.turnPage(true); }); });
+    on(Qt::CTRL | Qt::Key_PageUp, [onFront] { onFront([](ChildFrame& window) { window.turnPage(false); }); });
     on(Qt::CTRL | Qt::Key_Tab, [this] { openForms->step(false); });
     on(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { openForms->step(true); });
     // The keys that windows within a window have always had.
-    on(Qt::CTRL | Qt::Key_F8, [onFront] { onFront([](ChildWindow& window) { window.beginSizing(); }); });
-    on(Qt::CTRL | Qt::Key_F10, [onFront] { onFront([](ChildWindow& window) { window.toggleMaximised(); }); });
+    on(Qt::CTRL | Qt::Key_F8, [onFront] { onFront([](ChildFrame& window) { window.beginSizing(); }); });
+    on(Qt::CTRL | Qt::Key_F10, [onFront] { onFront([](ChildFrame& window) { window.toggleMaximised(); }); });
 }
 
 void MainWindow::makeTimers() {
@@ -203,14 +219,22 @@ void MainWindow::closeIfAsked() {
     }
 }
 
-void MainWindow::onKeys(QKeyCombination keys, const std::function<void(Form& front)>& reaction) {
-    const auto* shortcut = new QShortcut(QKeySequence(keys), this);
-    connect(shortcut, &QShortcut::activated, this, [this, reaction] {
-        screenView.act(Qt::OtherFocusReason, [&] {
-            if (Form* front = proposal.screen.frontForm())
-                reaction(*front);
-        });
-    });
+void MainWindow::focusWentTo(const QWidget& widget) {
+    PreviewWindow* owner = nullptr;
+    for (PreviewWindow* preview : previewWindows.windows())
+        if (preview == &widget || preview->isAncestorOf(&widget))
+            owner = preview;
+    if (owner && !owner->inReach())
+        screenView.focusStrayed();
+    else if (owner != screenView.guest())
+        screenView.setGuest(owner);
+}
+
+void MainWindow::printPreview(const Paper& paper, const PaperPages& pages, QWidget* window) {
+    if (printWithDialog)
+        printWithDialog(paper, pages, window);
+    else
+        proposal.screen.ports.printer.print(paper);
 }
 
 bool MainWindow::event(QEvent* event) {

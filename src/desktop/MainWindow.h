@@ -7,6 +7,7 @@
 #include <string>
 
 #include "desktop/Desk.h"
+#include "desktop/PreviewWindows.h"
 #include "desktop/ScreenView.h"
 #include "desktop/WindowRow.h"
 
@@ -30,6 +31,9 @@ public:
     ~MainWindow() override;
 
     ScreenView& forms() { return screenView; }
+    PreviewWindows& previews() { return previewWindows; }
+    /// Prints a preview with a dialog; without one set, on the default printer.
+    std::function<void(const Paper& paper, const PaperPages& pages, QWidget* window)> printWithDialog;
     /// Closes the window as the user would, as soon as no act is under way.
     void closeWhenIdle();
     /// The menu entry of that name; null when there is none.
@@ -49,14 +53,16 @@ private:
     /// Makes the window fit the screen together with its frame, while it has the size that it was given at first.
     void fitScreen();
     void closeIfAsked();
-    /// Lets the keys act on the front form.
-    void onKeys(QKeyCombination keys, const std::function<void(Form& front)>& reaction);
+    void printPreview(const Paper& paper, const PaperPages& pages, QWidget* window);
+    /// The keyboard came to a widget by itself, with a click for instance.
+    void focusWentTo(const QWidget& widget);
 
     Proposal& proposal;
     mdiInterface& shell;
     Desk* desk;
     QSize ownSize;
     ScreenView screenView;
+    PreviewWindows previewWindows;
     WindowRow* openForms = nullptr;
     std::map<std::string, QAction*, std::less<>> entries;
     bool closeAsked = false;

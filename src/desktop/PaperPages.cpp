@@ -99,6 +99,18 @@ void PaperPages::place(const PaperStrip& strip) {
     y += strip.height() - from;
 }
 
+QString PaperPages::text(int page) const {
+    QString text;
+    for (const PaperStrip& strip : header)
+        text += strip.plainText();
+    for (const Placed& placed : pages[static_cast<std::size_t>(page)])
+        if (placed.from <= 0)
+            text += placed.strip->plainText();
+    for (const PaperStrip& strip : footer)
+        text += strip.plainText();
+    return text;
+}
+
 void PaperPages::paint(QPainter& painter, int page) const {
     painter.save();
     painter.translate(margin, margin);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSizeF>
+#include <QString>
 #include <vector>
 
 #include "controls/Paper.h"
@@ -21,6 +22,9 @@ public:
     /// Draws the page, counted from 0, on a painter whose unit is a tenth of a point and whose origin is the corner of
     /// the sheet.
     void paint(QPainter& painter, int page) const;
+
+    /// What stands on the page, line by line, for those who hear it.
+    QString text(int page) const;
 
     /// Size of the sheet in tenths of a point.
     static QSizeF sheet();

@@ -76,4 +76,12 @@ std::string pdfOf(const Paper& paper, const PaperPages& pages) {
     return (paper.person.empty() ? bytes : withAuthor(bytes, toQt(paper.person))).toStdString();
 }
 
+void PdfFiles::print(const Paper& /*paper*/) {
+    throw RuntimeError(ErrorNumber::PrinterError);
+}
+
+void PdfFiles::writePdf(const Paper& paper, const std::filesystem::path& file) {
+    files.writeWhole(file, pdfOf(paper));
+}
+
 }  // namespace plandesk::desktop

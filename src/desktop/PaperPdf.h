@@ -3,6 +3,7 @@
 #include <string>
 
 #include "controls/Paper.h"
+#include "controls/Ports.h"
 
 namespace plandesk::desktop {
 
@@ -12,5 +13,18 @@ class PaperPages;
 /// properties. The same paper gives the same bytes, but for the time of making and what is drawn from it.
 std::string pdfOf(const Paper& paper);
 std::string pdfOf(const Paper& paper, const PaperPages& pages);
+
+/// Papers as files alone: there is no printer.
+class PdfFiles : public Printer {
+public:
+    explicit PdfFiles(Files& files) : files(files) {}
+
+    bool ready() override { return false; }
+    void print(const Paper& paper) override;
+    void writePdf(const Paper& paper, const std::filesystem::path& file) override;
+
+private:
+    Files& files;
+};
 
 }  // namespace plandesk::desktop

@@ -50,6 +50,10 @@ qreal PaperStrip::cut(qreal from, qreal room) const {
     return best;
 }
 
+QString PaperStrip::plainText() const {
+    return text->toPlainText().remove(QChar::ObjectReplacementCharacter).simplified() + '\n';
+}
+
 void PaperStrip::paint(QPainter& painter, qreal from, qreal to) const {
     const qreal width = columns.back().left + columns.back().width;
     painter.save();

@@ -36,6 +36,8 @@ public:
     /// Where the strip is cut when no more than `room` of it, counted from `from`, is left on a page: below the last
     /// line of text that fits as a whole, in all columns; `from` when not one does.
     qreal cut(qreal from, qreal room) const;
+    /// Its words in one line, with the line's end.
+    QString plainText() const;
     /// Draws the part between two heights, the first of them at the painter's origin.
     void paint(QPainter& painter, qreal from, qreal to) const;
 

@@ -130,12 +130,15 @@ bool QtDialogs::askYesNo(const Message& question) {
     return box.exec() == QMessageBox::Yes;
 }
 
+QString QtDialogs::firstFolder() const {
+    return lastFolder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) : lastFolder;
+}
+
 std::string QtDialogs::chosenPath(QFileDialog& chooser, const FileDialog& dialog) {
     chooser.setObjectName(QStringLiteral("fileDialog"));
     chooser.setNameFilters({toQt(dialog.filter), QFileDialog::tr("All files (*)")});
     chooser.setDefaultSuffix(toQt(dialog.defaultExtension));
-    chooser.setDirectory(lastFolder.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-                                              : lastFolder);
+    chooser.setDirectory(firstFolder());
     const QString name = toQt(dialog.fileName);
     if (const QString shown = name.isEmpty() ? safeFileName(toQt(dialog.proposedName)) : name;
         !shown.isEmpty() && chooser.acceptMode() == QFileDialog::AcceptSave)
@@ -157,6 +160,18 @@ std::string QtDialogs::saveFile(const FileDialog& dialog) {
     QFileDialog chooser(parent, toQt(dialog.title));
     chooser.setAcceptMode(QFileDialog::AcceptSave);
     return chosenPath(chooser, dialog);
+}
+
+std::string QtDialogs::chooseFolder(const std::string& title) {
+    QFileDialog chooser(parent, toQt(title));
+    chooser.setObjectName(QStringLiteral("folderDialog"));
+    chooser.setFileMode(QFileDialog::Directory);
+    chooser.setOption(QFileDialog::ShowDirsOnly);
+    chooser.setDirectory(firstFolder());
+    if (chooser.exec() != QDialog::Accepted || chooser.selectedFiles().isEmpty())
+        return {};
+    lastFolder = chooser.selectedFiles().constFirst();
+    return fromQt(lastFolder);
 }
 
 Date QtClock::today() const {

@@ -23,6 +23,7 @@ public:
     bool askYesNo(const Message& question) override;
     std::string openFile(const FileDialog& dialog) override;
     std::string saveFile(const FileDialog& dialog) override;
+    std::string chooseFolder(const std::string& title) override;
 
     QPointer<QWidget> parent;
     /// Where the control stands on the machine's screen; an empty rectangle when it cannot be seen.
@@ -30,6 +31,8 @@ public:
 
 private:
     QString titleOf(const Message& message) const;
+    /// Where file dialogs begin.
+    QString firstFolder() const;
     std::string chosenPath(QFileDialog& chooser, const FileDialog& dialog);
 
     const Program& program;

@@ -68,6 +68,7 @@ void ScreenView::refresh() {
     constexpr int rounds = 3;  // giving the focus runs reactions, which may change more
     for (int round = 0; round < rounds; ++round) {
         guarded([this] { showForms(); });
+        guarded(formsShown);
         guarded([this] { showControls(); });
         if (std::exchange(mainChanged, false))
             guarded(mainWindowTouched);
@@ -83,6 +84,8 @@ void ScreenView::showForms() {
         return;
     for (Form* form : std::exchange(changedForms, {}))
         guarded([&] { showForm(*form); });
+    if (!raised.empty())
+        guestWindow = nullptr;
     for (Form* form : std::exchange(raised, {}))
         if (ChildWindow* window = windowOf(*form))
             window->raise();
@@ -90,9 +93,29 @@ void ScreenView::showForms() {
     if (const Form* modal = screen.modalForm())
         if (ChildWindow* window = windowOf(*modal))
             window->raise();
-    for (const auto& [form, window] : windows)
-        window->colourBar(form == screen.frontForm());
+    colourBars();
     mainChanged = true;
+}
+
+void ScreenView::colourBars() {
+    for (const auto& [form, window] : windows)
+        window->colourBar(form == screen.frontForm() && !guestWindow);
+}
+
+void ScreenView::setGuest(ChildFrame* window) {
+    if (ChildFrame* before = std::exchange(guestWindow, window); before && before != window)
+        before->colourBar(false);
+    if (window) {
+        window->raise();
+        window->colourBar(true);
+        window->takeKeys();
+    } else if (const Form* front = screen.frontForm()) {
+        if (ChildWindow* shown = windowOf(*front))
+            shown->raise();
+    }
+    colourBars();
+    mainChanged = true;
+    focusStrayed();
 }
 
 void ScreenView::showForm(Form& form) {
@@ -133,7 +156,7 @@ Control* ScreenView::keyboardTarget(const Form& form, bool atFirst) const {
 bool ScreenView::giveFocus() {
     Form* front = screen.frontForm();
     const Control* focused = screen.focused();
-    if (underWay > 0 || !front)
+    if (underWay > 0 || !front || guestWindow)
         return false;
     // A page that was turned by a button or a tab starts in its first answer.
     const bool turned = front->takePageTurn() && (!focused || &focused->form() == front);
@@ -152,6 +175,8 @@ void ScreenView::placeKeyboard() {
     if (!focusMoved || QApplication::activePopupWidget())
         return;
     focusMoved = false;
+    if (guestWindow)
+        return guestWindow->takeKeys();
     const Control* focused = screen.focused();
     const Form* form = focused ? &focused->form() : screen.frontForm();
     if (FormView* view = form ? viewOf(*form) : nullptr)

@@ -16,6 +16,7 @@ class QWidget;
 
 namespace plandesk::desktop {
 
+class ChildFrame;
 class ChildWindow;
 class FormView;
 
@@ -62,12 +63,20 @@ public:
     /// The toolkit moved the focus by itself; it is put back in a moment.
     void focusStrayed();
 
+    /// A window on the desk that is no form came to the front, above all forms, and has the keyboard; with null the
+    /// forms have both again.
+    void setGuest(ChildFrame* window);
+    ChildFrame* guest() const { return guestWindow; }
+    /// Shows what changed when the running act has ended.
+    void later();
+
     /// View of the form; null when it is not drawn yet.
     FormView* viewOf(const Form& form) const;
     ChildWindow* windowOf(const Form& form) const;
     /// What one sees of the control, on the machine's screen; empty when it cannot be seen.
     QRect placeOnScreen(const Control& control) const;
 
+    std::function<void()> formsShown = [] {};         ///< other windows of the desk are shown now
     std::function<void()> mainWindowTouched = [] {};  ///< caption, menu or the open forms changed
 
 private:
@@ -77,8 +86,8 @@ private:
     void focusChanged(Control* focused) override;
     void mainWindowChanged() override;
 
-    void later();
     void showForms();
+    void colourBars();
     void showForm(Form& form);
     void showControls();
     /// Whether the control stands on a page of its form that is not the one shown.
@@ -97,6 +106,7 @@ private:
     std::unordered_set<Form*> changedForms;
     std::vector<Form*> raised;  ///< each came to the front, the last one last
     std::unordered_set<Control*> changedControls;
+    ChildFrame* guestWindow = nullptr;
     bool deskFilled = false;
     bool mainChanged = false;
     bool focusMoved = false;  ///< the keyboard may not be where the focus is

@@ -7,15 +7,16 @@
 
 #include "controls/Form.h"
 #include "controls/Screen.h"
-#include "controls/User.h"
-#include "desktop/FormNames.h"
+#include "desktop/ChildWindow.h"
+#include "desktop/PreviewWindows.h"
 #include "desktop/ScreenView.h"
 
 namespace plandesk::desktop {
 
-WindowRow::WindowRow(Screen& screen, ScreenView& view) : screen(screen), view(view) {
+WindowRow::WindowRow(Screen& screen, ScreenView& view, const PreviewWindows& previews)
+    : screen(screen), view(view), previews(previews) {
     setObjectName(QStringLiteral("openForms"));
-    setAccessibleName(tr("Open forms"));
+    setAccessibleName(tr("Open forms and reports"));
     setShape(RoundedSouth);
     setDrawBase(false);
     setExpanding(false);
@@ -40,40 +41,48 @@ QSize WindowRow::tabSizeHint(int index) const {
     return {std::min(natural.width(), characters * fontMetrics().averageCharWidth()), sizeHint().height()};
 }
 
+std::vector<ChildFrame*> WindowRow::inUse() const {
+    std::vector<ChildFrame*> windows;
+    for (const Form* form : screen.visibleForms())
+        if (ChildWindow* window = view.windowOf(*form))
+            windows.push_back(window);
+    for (PreviewWindow* preview : previews.windows())
+        windows.insert(preview == view.guest() ? windows.begin() : windows.end(), preview);
+    return windows;
+}
+
 void WindowRow::sync() {
     const QSignalBlocker quiet(this);
-    const std::vector<Form*> visible = screen.visibleForms();
-    std::erase_if(open, [&](const Form* form) { return std::ranges::find(visible, form) == visible.end(); });
-    for (auto form = visible.rbegin(); form != visible.rend(); ++form)
-        if (std::ranges::find(open, *form) == open.end())
-            open.push_back(*form);
+    const std::vector<ChildFrame*> present = inUse();
+    std::erase_if(open, [&](const ChildFrame* window) { return std::ranges::find(present, window) == present.end(); });
+    for (auto window = present.rbegin(); window != present.rend(); ++window)
+        if (std::ranges::find(open, *window) == open.end())
+            open.push_back(*window);
     while (count() > static_cast<int>(open.size()))
         removeTab(count() - 1);
     for (std::size_t number = 0; number < open.size(); ++number) {
         const int tab = static_cast<int>(number);
-        const QString name = windowName(*open[number]);
+        const QString name = open[number]->accessibleName();
         const QString text = QString(name).replace('&', QStringLiteral("&&"));
         if (tab == count())
             addTab(text);
         if (tabText(tab) != text)
             setTabText(tab, text);
         setTabToolTip(tab, name + QStringLiteral(" (Ctrl+Tab)"));
-        if (open[number] == screen.frontForm())
+        if (open[number] == present.front())
             setCurrentIndex(tab);
     }
 }
 
-void WindowRow::bringToFront(Form* form) {
-    view.act(Qt::OtherFocusReason, [&] {
-        const std::vector<Form*> visible = screen.visibleForms();
-        if (std::ranges::find(visible, form) != visible.end())
-            user::bringToFront(*form);
-    });
+void WindowRow::bringToFront(ChildFrame* window) {
+    const std::vector<ChildFrame*> present = inUse();
+    if (std::ranges::find(present, window) != present.end())
+        window->bringToFront(Qt::OtherFocusReason);
 }
 
 void WindowRow::step(bool back) {
     if (used.empty()) {
-        used = screen.visibleForms();
+        used = inUse();
         place = 0;
         qApp->installEventFilter(this);
     }

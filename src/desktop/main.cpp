@@ -7,6 +7,7 @@
 #include "desktop/MainWindow.h"
 #include "desktop/Process.h"
 #include "desktop/QtPorts.h"
+#include "desktop/QtPrinter.h"
 #include "desktop/QtProgress.h"
 #include "desktop/Theme.h"
 #include "shell/mdiInterface.h"
@@ -29,10 +30,14 @@ int main(int, char* arguments[]) {
     QtDialogs dialogs(program);
     QtProgress progress;
     FileStore files;
-    Proposal proposal({dialogs, clock, files, program, progress});
+    QtPrinter printer(files);
+    Proposal proposal({dialogs, clock, files, program, progress, printer});
     mdiInterface shell(proposal);
     MainWindow window(proposal, shell);
     dialogs.parent = progress.parent = &window;
+    window.printWithDialog = [&printer](const Paper& paper, const PaperPages& pages, QWidget* above) {
+        printer.printWithDialog(paper, pages, above);
+    };
     dialogs.placeOnScreen = [&window](const Control& control) { return window.forms().placeOnScreen(control); };
     const EndSignals endSignals([&window] { window.closeWhenIdle(); });
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,

@@ -7,10 +7,13 @@
 #include <filesystem>
 #include <iostream>
 
+#include "controls/User.h"
 #include "desktop/ChildWindow.h"
 #include "desktop/Theme.h"
 #include "gui/Orders.h"
 #include "gui/Session.h"
+#include "particulars/frmAnnexureA.h"
+#include "reports/ReportDesk.h"
 
 namespace {
 
@@ -104,6 +107,22 @@ void takeLandRecords(const std::filesystem::path& folder, const std::string& suf
     take("frmDiscretionrevisedCase", enterDiscretionRevised);
 }
 
+/// Reports as previews, one over the other.
+void takeReports(const std::filesystem::path& folder, const std::string& suffix) {
+    Session session;
+    Camera camera(session, folder, suffix);
+    session.press("mnuNew");
+    session.form<frmAnnexureA>().txtApplicantNm.setText("Sunil Vasant Karkhanis");
+    const auto act = [&](const std::string& name, const std::function<void()>& what) {
+        session.window.forms().act(Qt::OtherFocusReason, what);
+        camera.take("report-" + name);
+    };
+    act("particulars", [&] { user::click(session.form<frmAnnexureA>().cmdPrint); });
+    act("closed", [&] { session.shell.reports().close("rptAnnexutreA"); });
+    act("receipt", [&] { session.proposal.commands.print("rptReciept"); });
+    act("checklist", [&] { session.proposal.commands.print("rptDocChecklist"); });
+}
+
 /// Three pages in the windows of common screens, maximised in the widest.
 void takeSizes(const std::filesystem::path& folder) {
     for (const QSize size : {QSize(1024, 700), QSize(1366, 768), QSize(1920, 1080)}) {
@@ -134,11 +153,13 @@ int main(int argc, char* argv[]) {
     std::filesystem::create_directories(folder);
     takeAll(folder, "");
     takeLandRecords(folder, "");
+    takeReports(folder, "");
     takeSizes(folder);
     QFont large = QApplication::font();
     large.setPointSizeF(2 * large.pointSizeF());
     QApplication::setFont(large);
     takeAll(folder, "-large");
     takeLandRecords(folder, "-large");
+    takeReports(folder, "-large");
     return 0;
 }

@@ -1,0 +1,85 @@
+// How long papers take: from the click to the first preview, from one page to the next, and to a file.
+
+#include <QApplication>
+#include <chrono>
+#include <memory>
+
+#include <benchmark/benchmark.h>
+
+#include "controls/User.h"
+#include "desktop/PaperPages.h"
+#include "desktop/PaperPdf.h"
+#include "desktop/PreviewPage.h"
+#include "desktop/PreviewWindow.h"
+#include "desktop/Theme.h"
+#include "gui/Session.h"
+#include "particulars/frmAnnexureA.h"
+#include "reports/ReportDesk.h"
+#include "reports/layouts/Layouts.h"
+
+namespace {
+
+using namespace plandesk;
+using test::Session;
+
+void needApplication() {
+    if (qApp)
+        return;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static int count = 1;
+    static char name[] = "plandesk-bench";
+    static char* arguments[] = {name, nullptr};
+    new QApplication(count, arguments);  // lives as long as the process
+    desktop::useTheme();
+}
+
+void click(Session& session, std::string_view button) {
+    session.window.forms().act(Qt::OtherFocusReason, [&] { user::click(*session.form<frmAnnexureA>().find(button)); });
+    session.settle();
+}
+
+/// The print button of the particulars in a system that has shown no report yet.
+void firstPreview(benchmark::State& state) {
+    needApplication();
+    for (auto round : state) {
+        Session session;
+        session.press("mnuNew");
+        const auto start = std::chrono::steady_clock::now();
+        click(session, "cmdPrint");
+        state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        if (session.window.previews().windows().empty())
+            state.SkipWithError("no preview opened");
+    }
+}
+BENCHMARK(firstPreview)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void turnPage(benchmark::State& state) {
+    needApplication();
+    Session session;
+    session.window.forms().act(Qt::OtherFocusReason, [&] { session.shell.reports().show("rptDocChecklist"); });
+    session.settle();
+    desktop::PreviewPage& page = session.window.previews().windowOf("rptDocChecklist")->page();
+    for (auto round : state) {
+        page.turnTo(1 - page.page());
+        session.settle();
+    }
+}
+BENCHMARK(turnPage)->Unit(benchmark::kMillisecond);
+
+void layOutAllPapers(benchmark::State& state) {
+    needApplication();
+    for (auto round : state)
+        for (const Paper& paper : reportLayouts())
+            benchmark::DoNotOptimize(desktop::PaperPages(paper).count());
+}
+BENCHMARK(layOutAllPapers)->Unit(benchmark::kMillisecond);
+
+void allPapersAsPdf(benchmark::State& state) {
+    needApplication();
+    for (auto round : state)
+        for (const Paper& paper : reportLayouts())
+            benchmark::DoNotOptimize(desktop::pdfOf(paper).size());
+}
+BENCHMARK(allPapersAsPdf)->Unit(benchmark::kMillisecond);
+
+}  // namespace
