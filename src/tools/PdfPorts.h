@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDate>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <utility>
+
+#include "controls/Ports.h"
+
+// The machine as a program sees it that opens one file and asks nobody.
+
+namespace plandesk::tools {
+
+/// Opens the one file; what the system has to say goes to the error stream.
+class OpenDialogs : public Dialogs {
+public:
+    explicit OpenDialogs(std::filesystem::path file) : file(std::move(file)) {}
+
+    void showMessage(const Message& message) override { std::cerr << file.string() << ": " << message.text << '\n'; }
+    bool askYesNo(const Message& /*question*/) override { return false; }
+    std::string openFile(const FileDialog& /*dialog*/) override { return file.string(); }
+    std::string saveFile(const FileDialog& dialog) override { return dialog.fileName; }
+
+private:
+    std::filesystem::path file;
+};
+
+class MachineClock : public Clock {
+public:
+    Date today() const override {
+        const QDate today = QDate::currentDate();
+        return {today.year(), today.month(), today.day()};
+    }
+};
+
+class OwnFolder : public Program {
+public:
+    std::string folder() const override { return std::filesystem::read_symlink("/proc/self/exe").parent_path(); }
+    std::string title() const override { return "Plandesk"; }
+    std::string version() const override { return ""; }
+    bool startSystemInformation() override { return false; }
+    void end() override {}
+};
+
+}  // namespace plandesk::tools
