@@ -37,18 +37,7 @@ constexpr std::array questions = std::to_array<Question>({
     {"frmNaOrder", "txtNARemark", "N.A. Order Remark"},
 });
 
-struct LandRecordsLayout : testing::Test, World {
-    /// The first row that `wanted` accepts; null without one.
-    template <class Wanted>
-    const LayoutRow* row(std::string_view form, Wanted wanted) {
-        for (const LayoutPage& page : proposal.forms.touch(form)->layout().pages)
-            for (const LayoutGroup& group : page.groups)
-                for (const LayoutRow& row : group.rows)
-                    if (wanted(row))
-                        return &row;
-        return nullptr;
-    }
-};
+struct LandRecordsLayout : testing::Test, World {};
 
 TEST_F(LandRecordsLayout, HasAPlaceForEveryVisibleControl) {
     for (const std::string_view form : {"frmPlotExtractRelation", "frmMain712", "frmPRCEXT", "frmNaOrder"})
@@ -58,9 +47,7 @@ TEST_F(LandRecordsLayout, HasAPlaceForEveryVisibleControl) {
 TEST_F(LandRecordsLayout, AsksItsQuestionsInTheirWords) {
     for (const Question& asked : questions) {
         SCOPED_TRACE(asked.control);
-        const LayoutRow* found = row(asked.form, [&](const LayoutRow& each) {
-            return (std::string(each.controls) + " ").starts_with(std::string(asked.control) + " ");
-        });
+        const LayoutRow* found = rowOf(*proposal.forms.touch(asked.form), asked.control);
         ASSERT_NE(found, nullptr);
         EXPECT_EQ(found->question, asked.question);
         EXPECT_EQ(found->unit, asked.unit);
@@ -71,7 +58,10 @@ TEST_F(LandRecordsLayout, AsksItsQuestionsInTheirWords) {
 TEST_F(LandRecordsLayout, HeadsTheGridsOfOwnersAndHolders) {
     for (const std::string_view form : {"frmMain712", "frmPRCEXT"})
         for (const std::string_view heading : {"Original Ownership", "Power Of Attorney Information"})
-            EXPECT_NE(row(form, [&](const LayoutRow& each) { return each.question == heading; }), nullptr) << heading;
+            EXPECT_NE(
+                findRow(*proposal.forms.touch(form), [&](const LayoutRow& row) { return row.question == heading; }),
+                nullptr)
+                << heading;
 }
 
 TEST_F(LandRecordsLayout, CallsTheExtractFormsByTheirOwnCaptionsUntilTheChecklistOpensThem) {

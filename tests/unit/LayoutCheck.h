@@ -37,6 +37,24 @@ inline std::vector<std::string> layoutNames(const Form& form) {
     return names;
 }
 
+/// The first row that `wanted` accepts; null without one.
+template <class Wanted>
+const LayoutRow* findRow(const Form& form, Wanted wanted) {
+    for (const LayoutPage& page : form.layout().pages)
+        for (const LayoutGroup& group : page.groups)
+            for (const LayoutRow& row : group.rows)
+                if (wanted(row))
+                    return &row;
+    return nullptr;
+}
+
+/// The row whose first control is that; null without one.
+inline const LayoutRow* rowOf(const Form& form, std::string_view control) {
+    return findRow(form, [control](const LayoutRow& row) {
+        return (std::string(row.controls) + " ").starts_with(std::string(control) + " ");
+    });
+}
+
 /// What is wrong with the layout: names that the form does not have, names that stand twice, and visible controls that
 /// have no place. Empty when the layout is whole.
 inline std::vector<std::string> layoutFaults(const Form& form) {
