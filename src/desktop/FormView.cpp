@@ -223,7 +223,10 @@ QSize FormView::naturalSize(QSize limit) {
     const int leastCharacters = belongsToProposal ? 162 : 60;
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const int rowsWidth = std::max(pages[current].view->naturalWidth(), topRows ? topRows->naturalWidth() : 0);
-    const int wanted = std::max(rowsWidth + scrollBar, leastCharacters * gap());
+    int buttonsWidth = 4 * gap();
+    for (const ControlView* button : buttons)
+        buttonsWidth += button->shownByCode() ? button->naturalWidth(false) + gap() : 0;
+    const int wanted = std::max({rowsWidth + scrollBar, buttonsWidth, leastCharacters * gap()});
     const int newWidth = std::min(std::max(wanted, width()), limit.width());
     if (belongsToProposal)
         return {newWidth, limit.height()};
