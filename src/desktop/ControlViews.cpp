@@ -206,10 +206,9 @@ private:
         markCurrent();
     }
     void name(const QString&, const QString&) override {}
-    /// Of numbered buttons the one in another colour is the current one; the two colours are hard to tell apart.
+    /// Of numbered buttons the white one is the current one; the colours are hard to tell apart.
     void markCurrent() {
-        const bool current =
-            subject->index() != Control::noIndex && subject->backColor() != subject->form().backColor();
+        const bool current = subject->index() != Control::noIndex && subject->backColor() == white;
         if (QFont font = button.font(); font.bold() != current) {
             font.setBold(current);
             button.setFont(font);

@@ -44,18 +44,18 @@ FieldReference fieldNamed(const std::string& word) {
 }
 
 void expectReport(Session& session, const Words& words) {
-    const auto [field, row] = fieldNamed(words[1].text);
+    const FieldReference field = fieldNamed(words[1].text);
     const Preview* report = lastOf(session, words[0]);
     if (!report)
         return;
     if (std::ranges::none_of(findReport(report->name).feed->rows,
-                             [&](const FeedRow& known) { return equalsIgnoringCase(known.column, field); }))
-        throw ScriptError("unknown field " + quote(field));
+                             [&](const FeedRow& known) { return equalsIgnoringCase(known.column, field.name); }))
+        throw ScriptError("unknown field " + quote(field.name));
     const std::string what = words[0].text + " " + words[1].text;
     const std::vector<std::vector<std::string>>& rows = report->data.rows;
-    if (const std::string* found = report->data.find(field, row))
+    if (const std::string* found = report->data.find(field.name, field.row))
         compare(session, what, words[2].text, *found);
-    else if (rows.empty() && row == 0)  // a report that was never fed prints empty fields
+    else if (rows.empty() && field.row == 0)  // a report that was never fed prints empty fields
         compare(session, what, words[2].text, "");
     else
         session.failed(what + " " + quote(words[2].text), std::to_string(rows.size()) + " rows");
