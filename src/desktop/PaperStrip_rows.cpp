@@ -44,8 +44,11 @@ std::unique_ptr<QTextDocument> rowOfCells(const PaperRow& row, const std::vector
         widths.append(QTextLength(QTextLength::FixedLength, column.width));
     format.setColumnWidthConstraints(widths);
     QTextCursor cursor(document.get());
+    cursor.beginEditBlock();  // laid out once, at the end
     QTextTable* table = cursor.insertTable(1, static_cast<int>(columns.size()), format);
     for (std::size_t column = 0; column < columns.size() && column < row.cells.size(); ++column) {
+        if (row.cells[column].empty())
+            continue;
         QTextTableCell cell = table->cellAt(0, static_cast<int>(column));
         QTextTableCellFormat room;
         room.setLeftPadding(padding.flush && column == 0 ? 0 : padding.across);
@@ -59,6 +62,7 @@ std::unique_ptr<QTextDocument> rowOfCells(const PaperRow& row, const std::vector
         inside.setBlockFormat(block);
         insertItems(inside, row.cells[column], looks[column], date);
     }
+    cursor.endEditBlock();
     return document;
 }
 
@@ -76,6 +80,7 @@ std::unique_ptr<QTextDocument> paragraph(const PaperRow& row, const TextLook& lo
                                          qreal indent, int lineHeight, const Date& date, qreal width) {
     auto document = paperDocument(width);
     QTextCursor cursor(document.get());
+    cursor.beginEditBlock();
     QTextBlockFormat format;
     format.setAlignment(alignment);
     format.setLeftMargin(indent);
@@ -87,6 +92,7 @@ std::unique_ptr<QTextDocument> paragraph(const PaperRow& row, const TextLook& lo
             cursor.insertText(QString(QChar::LineSeparator));
         insertItems(cursor, cell, look, date);
     }
+    cursor.endEditBlock();
     return document;
 }
 

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QTextOption>
 #include <algorithm>
+#include <map>
+#include <utility>
 
 #include "desktop/QtText.h"
 
@@ -50,7 +52,12 @@ bool closesUp(const QString& text) {
 
 QFont paperFont(qreal points, bool bold) {
     constexpr int unitsPerPoint = 10;
-    QFont font;
+    // A font that is kept knows where its glyphs are, in its own thread.
+    static thread_local std::map<std::pair<int, bool>, QFont> fonts;
+    const auto [place, isNew] = fonts.try_emplace({qRound(points * unitsPerPoint), bold});
+    QFont& font = place->second;
+    if (!isNew)
+        return font;
     font.setFamilies({QStringLiteral("Liberation Sans"), QStringLiteral("Lohit Devanagari")});
     font.setPixelSize(qRound(points * unitsPerPoint));
     font.setBold(bold);
@@ -68,14 +75,14 @@ std::unique_ptr<QTextDocument> paperDocument(qreal width) {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     document->setDefaultTextOption(option);
-    document->documentLayout()->registerHandler(EmptyField::type, &emptyField);
     document->setTextWidth(width);
+    document->documentLayout()->registerHandler(EmptyField::type, &emptyField);
     return document;
 }
 
 void insertItems(QTextCursor& cursor, const PaperCell& items, const TextLook& look, const Date& date) {
     QTextCharFormat plain;
-    plain.setFont(paperFont(look.points, look.bold));
+    plain.setFont(paperFont(look.points, look.bold), QTextCharFormat::FontPropertiesSpecifiedOnly);
     bool begun = false;
     // A question that has an answer needs no rule beside it, and one that has none needs one.
     const bool answered = !std::ranges::all_of(items, isEmptyField);
@@ -97,7 +104,7 @@ void insertItems(QTextCursor& cursor, const PaperCell& items, const TextLook& lo
             continue;
         }
         if (item.isField() && look.field == FieldLook::Bold)
-            format.setFont(paperFont(look.points, true));
+            format.setFont(paperFont(look.points, true), QTextCharFormat::FontPropertiesSpecifiedOnly);
         if (item.isField() && look.field == FieldLook::Blank)
             format.setFontUnderline(true);
         cursor.insertText(text, format);

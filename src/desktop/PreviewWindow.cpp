@@ -36,8 +36,8 @@ PreviewWindow::PreviewWindow(const Preview& preview, PreviewRoom& room)
     auto* column = new QVBoxLayout(contents);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(makeBar(*contents));
     column->addWidget(view, 1);
+    column->addWidget(makeBar(*contents));  // the navigator covers what is above
     setContents(*contents);
     view->changed = [this] { showState(); };
     fit();

@@ -14,13 +14,13 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/FileStore.h"
-#include "desktop/PaperPdf.h"
 #include "document/XmlDocument.h"
 #include "proposal/Proposal.h"
 #include "reports/ReportCatalogue.h"
 #include "reports/ReportDesk.h"
 #include "shell/mdiInterface.h"
 #include "tools/PdfPorts.h"
+#include "tools/PdfWork.h"
 
 namespace {
 
@@ -78,11 +78,11 @@ int writeReports(const Options& options) {
     tools::MachineClock clock;
     tools::OwnFolder program;
     FileStore files;
-    desktop::PdfFiles printer(files);
-    Proposal proposal({dialogs, clock, files, program, Progress::unheard(), printer});
+    Proposal proposal({dialogs, clock, files, program});
     mdiInterface shell(proposal);
     shell.press("mnuOpen");
     proposal.isDirectPrint = true;  // nothing is shown
+    std::vector<Paper> papers;
     std::set<const Feed*> fed;
     for (const ReportRow& report : reportCatalogue()) {
         const auto& wanted = options.reports;
@@ -90,9 +90,13 @@ int writeReports(const Options& options) {
             continue;
         if (fed.insert(report.feed).second && !proposal.commands.feed(report.name))
             return cannot;
-        const fs::path written = options.folder / (std::string(report.name) + ".pdf");
+        papers.push_back(shell.reports().filled(report.name).paper);
+    }
+    tools::PdfWork work(papers);
+    for (std::size_t paper = 0; paper < papers.size(); ++paper) {
+        const fs::path written = options.folder / (std::string(papers[paper].name) + ".pdf");
         try {
-            shell.reports().writePdf(report.name, options.folder);
+            files.writeWhole(written, work.bytesOf(paper));
         } catch (const RuntimeError& error) {
             std::cerr << written.string() << ": " << error.description << '\n';
             return cannot;

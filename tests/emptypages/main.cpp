@@ -1,4 +1,5 @@
-// An empty program of the toolkit that writes one page of PDF eighteen times: what plandesk-pdf is measured against.
+// An empty program of the toolkit that writes one page of PDF eighteen times, a title and plain text: what plandesk-pdf
+// is measured against.
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -18,6 +19,10 @@ int main(int count, char* arguments[]) {
         writer.setPageSize(QPageSize(QPageSize::A4));
         writer.setResolution(dotsPerInch);
         QPainter painter(&writer);
+        QFont bold = font;
+        bold.setBold(true);
+        painter.setFont(bold);
+        painter.drawText(0, 0, QStringLiteral("The title of a page"));
         painter.setFont(font);
         for (int line = 0; line < 50; ++line)
             painter.drawText(0, (line + 1) * dotsPerInch / 6,

@@ -17,6 +17,7 @@
 #include "gui/Session.h"
 #include "particulars/frmAnnexureA.h"
 #include "reports/ReportDesk.h"
+#include "reports/frmReportNav.h"
 
 using namespace plandesk;
 using namespace plandesk::test;
@@ -310,6 +311,32 @@ private slots:
         session.settle();
         QVERIFY(preview.width() <= session.window.centralWidget()->width());
         QVERIFY(preview.height() <= session.window.centralWidget()->height());
+    }
+
+    void theNavigatorStandsAboveThePagesThatItTurns() {
+        PreviewSession session;
+        session.window.forms().act(Qt::OtherFocusReason, [&] { session.proposal.commands.print("rptAnnexutreA"); });
+        session.settle();
+        auto& navigator = session.proposal.forms.get<frmReportNav>();
+        QWidget* above = session.window.forms().windowOf(navigator);
+        QVERIFY(above && above->isVisible());
+        const QObjectList& stack = session.window.centralWidget()->children();
+        QVERIFY(stack.indexOf(above) > stack.indexOf(session.find("rptAnnexutreA")));
+        QVERIFY(above->isAncestorOf(QApplication::focusWidget()));
+        QWidget* last = session.window.forms().viewOf(navigator)->widgetOf(navigator.cmdNavNext);
+        QTest::mouseClick(last, Qt::LeftButton);
+        session.settle();
+        PreviewWindow* fifth = session.find("rptAnnexutreA4");
+        QVERIFY(fifth);
+        QVERIFY(stack.indexOf(fifth) > stack.indexOf(session.find("rptAnnexutreA")));
+        QVERIFY(stack.indexOf(above) > stack.indexOf(fifth));
+        QTest::mouseClick(fifth->page().viewport(), Qt::LeftButton);
+        session.settle();
+        QVERIFY(fifth->isAncestorOf(QApplication::focusWidget()));
+        QVERIFY(above->isVisible());
+        session.press(nullptr, Qt::Key_Escape);
+        QVERIFY(!session.find("rptAnnexutreA4"));
+        QVERIFY(!session.proposal.forms.loaded("frmReportNav"));
     }
 
     void allAreClosedWithTheReports() {

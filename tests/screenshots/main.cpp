@@ -14,6 +14,7 @@
 #include "gui/Session.h"
 #include "particulars/frmAnnexureA.h"
 #include "reports/ReportDesk.h"
+#include "reports/frmReportNav.h"
 
 namespace {
 
@@ -117,10 +118,13 @@ void takeReports(const std::filesystem::path& folder, const std::string& suffix)
         session.window.forms().act(Qt::OtherFocusReason, what);
         camera.take("report-" + name);
     };
-    act("particulars", [&] { user::click(session.form<frmAnnexureA>().cmdPrint); });
-    act("closed", [&] { session.shell.reports().close("rptAnnexutreA"); });
+    act("particulars", [&] { session.proposal.commands.print("rptAnnexutreA"); });
+    if (auto* navigator = dynamic_cast<frmReportNav*>(session.proposal.forms.loaded("frmReportNav")))
+        act("page-5", [&] { user::click(navigator->cmdNavNext); });
+    act("closed", [&] { session.shell.reports().close("rptAnnexutreA4"); });
     act("receipt", [&] { session.proposal.commands.print("rptReciept"); });
     act("checklist", [&] { session.proposal.commands.print("rptDocChecklist"); });
+    act("printing", [&] { session.proposal.commands.open("frmPrint"); });
 }
 
 /// Three pages in the windows of common screens, maximised in the widest.
