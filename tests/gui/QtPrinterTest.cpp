@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTimer>
 
 #include "base/RuntimeError.h"
 #include "controls/FileStore.h"
