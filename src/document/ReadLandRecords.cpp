@@ -123,6 +123,8 @@ void readPlots(const PlotBlock& block, Proposal& proposal, std::string_view cont
         const std::size_t end = rest.find("@->");
         rest = end == std::string_view::npos ? std::string_view() : rest.substr(end + 3);
     }
+    if (plots.recordCount() > 0)
+        plots.setAbsolutePosition(plots.recordCount());  // the row read last is current, as in every table
 }
 
 double totalExtracts(Recordset& plots) {

@@ -25,6 +25,9 @@ constexpr std::string_view emptyUS20a1 = "#################^#^#^#^#^#^#^";
 constexpr std::size_t mostPieces = 24;
 constexpr int schemePairs = 7;
 
+/// Children of an extract's element that stand at the same place in each.
+enum ExtractChild : std::size_t { areaDivision = 0, ulcOrder = 1, us84Order = 2, plotCount = 3 };
+
 Pieces piecesOr(std::string_view mask, std::string_view text) {
     return firstPieces(trim(text).empty() ? mask : text, "#", mostPieces);
 }
@@ -57,13 +60,13 @@ void readOrder(Tables& tables, std::string_view content, std::int32_t extract) {
     row.update();
 }
 
-/// `plots`: the number of plots, which the order's own text does not hold.
-void readUS84(Tables& tables, std::string_view content, std::string_view plots, std::int32_t extract) {
-    const Pieces pieces = piecesOr(emptyUS84, content);
+/// The order's own text does not hold the number of plots.
+void readUS84(Tables& tables, const XmlChildren& children, std::int32_t extract) {
+    const Pieces pieces = piecesOr(emptyUS84, children.text(us84Order));
     Recordset& row = tables.ensure(&Tables::rsULCOrderUS84);
     row.addNew();
     setPieces(row, pieces, {US84::CaseNo, US84::ResultDate, US84::AppName, US84::AppAddress});
-    row.set(US84::NoOfPlots, std::string(plots));
+    row.set(US84::NoOfPlots, std::string(children.text(plotCount)));
     setPieces(row, pieces,
               {US84::TotalAreaUnderOwnerShip, US84::AreaDeduction, US84::GreenBelt, US84::Surplus, US84::Survey}, 4);
     row.set(US84::ExtNo, extract);
@@ -112,12 +115,11 @@ void readUS22(Tables& tables, std::string_view content, std::int32_t extract) {
     row.update();
 }
 
-/// The children of an extract's element stand at fixed places; the plots push those behind them down.
+/// The plots push the children behind them down.
 void readExtract(Tables& tables, const XmlChildren& children, std::int32_t extract) {
-    constexpr std::size_t plotCount = 3;
-    readOwnership(tables, children.text(0), extract);
-    readOrder(tables, children.text(1), extract);
-    readUS84(tables, children.text(2), children.text(plotCount), extract);
+    readOwnership(tables, children.text(areaDivision), extract);
+    readOrder(tables, children.text(ulcOrder), extract);
+    readUS84(tables, children, extract);
     const int plots = toInteger32(leadingNumber(children.text(plotCount)));
     std::size_t next = plotCount + 1;
     for (int plot = 1; plot <= plots; ++plot)

@@ -262,16 +262,13 @@ void frmScrutinyULC::cmdDetails_Click() {
         form.show();
         (form.*loadOrder)();
     };
-    switch (static_cast<int>(valueNumber(orders.get(ULCOrderColumn::ULCOrderSelection)))) {
-    case 1:
-        return open(&frmUS84::loadUS84Order);
-    case 2:
-        return open(&frmULC20aDetails::loadUS20a1Order);
-    case 3:
-        return open(&frmUS22::loadUS22Order);
-    default:
-        return;
-    }
+    const double selection = valueNumber(orders.get(ULCOrderColumn::ULCOrderSelection));
+    if (selection == 1)
+        open(&frmUS84::loadUS84Order);
+    else if (selection == 2)
+        open(&frmULC20aDetails::loadUS20a1Order);
+    else if (selection == 3)
+        open(&frmUS22::loadUS22Order);
 }
 
 void frmScrutinyULC::cmdSave_Click() {

@@ -78,6 +78,7 @@ TEST_F(ReadBlocks, PlotsComeBackByTheirPlaceWithTheirCounts) {
     EXPECT_TRUE(relation().cmdAddPlotPRC.enabled());
     EXPECT_EQ(proposal.noOfExtract712, 3);
     EXPECT_EQ(proposal.noOfPRC, 2);
+    EXPECT_EQ(tables.rsPlot712->absolutePosition(), 2);  // the row read last, with every row in sight
 }
 
 TEST_F(ReadBlocks, AnOlderPlotReadsBackAndAHyphenInItsNameEndsIt) {
@@ -275,6 +276,14 @@ TEST_F(ReadBlocks, MoreExtractsThanTheULCBlockHoldsKeepTheRowsBefore) {
     EXPECT_EQ(open(), missingBox);
     EXPECT_EQ(rows(&Tables::rsULCOrder).size(), 1U);
     EXPECT_FALSE(proposal.ownershipRelationSaved);
+}
+
+TEST_F(ReadBlocks, AnExtractThatEndsBeforeItsNumberOfPlotsLeavesItsOrderUnfinished) {
+    nts(ulc("", 1,
+            "<EXTRACT-1><AREADIVISION>Ram##</AREADIVISION><ULCORDER>Ram###</ULCORDER>"
+            "<ULC-US-84>C#03/02/2001#N#A#1#2#3#4#S</ULC-US-84></EXTRACT-1>"));
+    EXPECT_EQ(open(), missingBox);
+    EXPECT_EQ(rows(&Tables::rsULCOrderUS84), (Texts{"C|03/02/2001|N|A|null|null|null|null|null|null|null"}));
 }
 
 TEST_F(ReadBlocks, TheControllingDocumentIsTurnedOnAsByTheUser) {

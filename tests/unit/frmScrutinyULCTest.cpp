@@ -10,7 +10,9 @@ using ScrutinyULC = Orders;
 
 TEST_F(ScrutinyULC, BeforeAnyLandRecordItOpensWithEmptyListsAndNoError) {
     shell.press("mnuNew");
+    proposal.is712Current = true;
     auto& form = scrutiny();
+    EXPECT_FALSE(proposal.is712Current);
     EXPECT_TRUE(form.visible());
     EXPECT_EQ(form.cmbExtract.listCount(), 0);
     EXPECT_EQ(form.dgdOwner.rowCount(), 0);
@@ -151,11 +153,36 @@ TEST_F(ScrutinyULC, AnUnchosenOrderHasNoDetails) {
         EXPECT_EQ(proposal.forms.loaded(order), nullptr) << order;
 }
 
+TEST_F(ScrutinyULC, ACellThatHoldsNoItemsIndexHasNoDetails) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    for (const std::string_view selection : {"1.9", "4", "1e300"}) {
+        user::editCell(form.dgdULCOrderDetails, 0, ULCOrderColumn::ULCOrderSelection, selection);
+        user::click(form.cmdDetails);
+        for (const std::string_view order : {"frmUS84", "frmULC20aDetails", "frmUS22"})
+            EXPECT_EQ(proposal.forms.loaded(order), nullptr) << selection;
+    }
+    EXPECT_TRUE(ports.dialogs.take().empty());
+}
+
 TEST_F(ScrutinyULC, EachChoiceOpensItsOwnForm) {
     saveLandRecords();
     EXPECT_TRUE(us84().front());
     EXPECT_TRUE(us20().front());
     EXPECT_TRUE(us22().front());
+}
+
+TEST_F(ScrutinyULC, ASaveShowsTheChosenExtractAgain) {
+    saveLandRecords();
+    auto& form = scrutiny();
+    user::pick(form.cmbExtract, 1);
+    user::click(form.cmdSave);
+    EXPECT_NE(proposal.ULCScrutinyXML.find("<NOOFEXTRACT>3</NOOFEXTRACT>"), std::string::npos);
+    EXPECT_TRUE(form.visible());
+    ASSERT_EQ(form.dgdOwner.rowCount(), 1);
+    EXPECT_EQ(form.dgdOwner.cellText(0, OwnershipColumn::Name), "Bhide");
+    ASSERT_EQ(form.dgdULCOrderDetails.rowCount(), 1);
+    EXPECT_EQ(form.dgdULCOrderDetails.cellText(0, ULCOrderColumn::ExtNo), "2");
 }
 
 TEST_F(ScrutinyULC, ResetDoesNothing) {
