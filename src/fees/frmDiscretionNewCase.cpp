@@ -40,9 +40,14 @@ frmDiscretionNewCase::frmDiscretionNewCase(Proposal& proposal)
     Command9.click = [this] { hide(); };
     procedure("setDiscretionNewForSave", [this] { setDiscretionNewForSave(); });
     procedure("setRptDiscretion", [this] { this->proposal.commands.feed("rptDiscretionNewCase"); });
+    procedure("setBGColor", [this] { setBGColor(); });
 }
 
 void frmDiscretionNewCase::load() {
+    setBGColor();
+}
+
+void frmDiscretionNewCase::setBGColor() {
     setFormColors(*this, proposal);
 }
 

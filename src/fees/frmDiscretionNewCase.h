@@ -18,6 +18,7 @@ public:
     void load() override;
     const Layout& layout() const override;
     void enterPressed() override;
+    void setBGColor();
 
     /// Sets `discretionNewXML`: the remarks as they stand, neither trimmed nor escaped.
     void setDiscretionNewForSave();

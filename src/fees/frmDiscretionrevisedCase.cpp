@@ -81,9 +81,14 @@ frmDiscretionrevisedCase::frmDiscretionrevisedCase(Proposal& proposal)
     Command9.click = [this] { hide(); };
     procedure("setDiscretionForSave", [this] { setDiscretionForSave(); });
     procedure("setRPTDiscretionPrint", [this] { this->proposal.commands.feed("rptDiscretionRevCase"); });
+    procedure("setBGColor", [this] { setBGColor(); });
 }
 
 void frmDiscretionrevisedCase::load() {
+    setBGColor();
+}
+
+void frmDiscretionrevisedCase::setBGColor() {
     setFormColors(*this, proposal);
 }
 

@@ -17,6 +17,7 @@ public:
     void load() override;
     const Layout& layout() const override;
     void enterPressed() override;
+    void setBGColor();
 
     /// Sets `discretionRevisedXML`: the rows as they stand, neither trimmed nor escaped.
     void setDiscretionForSave();

@@ -3,6 +3,7 @@
 #include "controls/User.h"
 #include "fees/frmDiscretionNewCase.h"
 #include "fees/frmDiscretionrevisedCase.h"
+#include "unit/LayoutCheck.h"
 #include "unit/World.h"
 
 namespace plandesk::test {
@@ -32,6 +33,28 @@ TEST_F(Discretion, TheFormsHaveTheirRulesAndAmendments) {
                                         "Number of substructures", "Change in use ", "Balcony area", "Staircase area",
                                         "Podium premium ", "Road set-back area", "Building height",
                                         "Recrea. gnd./amenity space ", "coverage", "passage", "Number of tenements"}));
+}
+
+TEST_F(Discretion, RowsAreNumberedUnderTheirHeads) {
+    using Heads = std::vector<std::string_view>;
+    const std::pair<const Form*, Heads> told[] = {
+        {&newCase, {"Rule", "Architect Remarks"}},
+        {&revised,
+         {"(A) Amendments in revised drawing", "(B) Details/areas in Revised drawing",
+          "(C)Details/areas in sanctioned drawing", "(D)Architect's Remarks for discretion"}},
+    };
+    for (const auto& [form, heads] : told) {
+        EXPECT_EQ(layoutFaults(*form), std::vector<std::string>());
+        const LayoutGroup& table = form->layout().pages[0].groups[0];
+        EXPECT_EQ(Heads(table.heads.begin(), table.heads.end()), heads);
+        int number = 0;
+        for (const LayoutRow& row : table.rows)
+            EXPECT_EQ(row.item, std::to_string(++number));
+        EXPECT_EQ(form->at<Captioned>("Command5").caption(), "Print Particulars of Development");
+        EXPECT_EQ(form->at<Captioned>("Command9").caption(), "Close");
+    }
+    EXPECT_EQ(newCase.lblHead.caption(), "Discretion : New Case");
+    EXPECT_EQ(revised.lblHead.caption(), "Discretion : Revised Case");
 }
 
 TEST_F(Discretion, AFigureIsAnAmountOnceItIsLeftAndAnEmptyOneStaysEmpty) {
@@ -66,6 +89,15 @@ TEST_F(Discretion, TheRowsAreWrittenAsTheyStand) {
     revised.setDiscretionForSave();
     EXPECT_TRUE(proposal.discretionRevisedXML.starts_with("<DISC-REV><RULE-1>1#2# <3> </RULE-1><RULE-2>##</RULE-2>"));
     EXPECT_TRUE(proposal.discretionRevisedXML.ends_with("<RULE-19>##</RULE-19></DISC-REV>"));
+}
+
+TEST_F(Discretion, TheirColourIsThatOfEveryForm) {
+    for (Form* form : {static_cast<Form*>(&newCase), static_cast<Form*>(&revised)}) {
+        EXPECT_EQ(form->backColor(), proposal.formBackColor);
+        form->setBackColor(white);
+        form->call("setBGColor");
+        EXPECT_EQ(form->backColor(), proposal.formBackColor);
+    }
 }
 
 TEST_F(Discretion, CloseHidesAFormAndASaveDoesToo) {

@@ -45,13 +45,23 @@ TEST_F(ScrutinyULC, ItsListsAndColumnsAreTheSystemsOwn) {
             captions.emplace_back(grid->column(column).caption);
     EXPECT_EQ(captions, (Texts{"Group No", "Owner Name", "Area", "Document Status", "Group No", "Owner(s) Name",
                                "ULC Order", "Order No", "Details", "Remarks"}));
-    EXPECT_EQ(form.dgdOwner.column(0).width, 1000);
-    EXPECT_EQ(form.dgdOwner.column(2).width, 2000);
-    EXPECT_EQ(form.dgdULCOrderDetails.column(4).width, 900);
-    for (const int locked : {0, 1, 2})
-        EXPECT_FALSE(form.dgdOwner.editable(locked));
-    for (const int free : {3, 5})
-        EXPECT_TRUE(form.dgdULCOrderDetails.editable(free));
+    struct Rule {
+        bool locked;
+        bool button;
+        int width = -1;  ///< left to the form
+    };
+    const auto check = [](const Grid& grid, std::initializer_list<Rule> rules) {
+        for (int place = 0; const Rule& rule : rules) {
+            const GridColumn column = grid.column(place);
+            EXPECT_EQ(column.locked, rule.locked) << column.caption;
+            EXPECT_EQ(column.button, rule.button) << column.caption;
+            EXPECT_TRUE(rule.width < 0 ? column.width > 0 : column.width == rule.width) << column.caption;
+            ++place;
+        }
+    };
+    check(form.dgdOwner, {{true, false, 1000}, {true, false}, {true, false, 2000}, {false, true}});
+    check(form.dgdULCOrderDetails,
+          {{true, false, 1000}, {true, false}, {false, true}, {false, false}, {false, true, 900}, {false, false}});
 }
 
 TEST_F(ScrutinyULC, WithoutAPRCTheExtractsAreNotListed) {
