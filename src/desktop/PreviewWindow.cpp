@@ -56,6 +56,9 @@ QWidget* PreviewWindow::makeBar(QWidget& parent) {
     row->addWidget(button(*bar, "printButton", tr("Print..."), tr("Print"), QKeySequence::Print, [this] { print(); }));
     row->addWidget(button(*bar, "saveButton", tr("Save as PDF..."), tr("Save as PDF"), Qt::CTRL | Qt::SHIFT | Qt::Key_P,
                           [this] { saveAsPdf(); }));
+    row->addWidget(button(*bar, "closeAllButton", tr("Close all"), tr("Close all reports"),
+                          Qt::CTRL | Qt::SHIFT | Qt::Key_F4,
+                          [this] { act([this] { room.proposal.procedures.at("closeReports")(); }); }));
     row->addStretch(1);
     previous = button(
         *bar, "previousButton", QString(QChar(0x25C0)), tr("Previous page"), Qt::CTRL | Qt::Key_PageUp,

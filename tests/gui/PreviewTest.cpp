@@ -348,6 +348,20 @@ private slots:
         QVERIFY(session.window.previews().windows().empty());
         QVERIFY(!session.window.forms().guest());
     }
+
+    void closeAllLeadsBackToTheParticulars() {
+        PreviewSession session;
+        session.particulars().hide();
+        session.show("rptReciept");
+        PreviewWindow& checklist = session.show("rptDocChecklist");
+        session.click(checklist, "closeAllButton");
+        session.settle();
+        QVERIFY(session.window.previews().windows().empty());
+        QVERIFY(session.particulars().front());
+        session.show("rptReciept");
+        session.press(nullptr, Qt::Key_F4, Qt::ControlModifier | Qt::ShiftModifier);
+        QVERIFY(session.window.previews().windows().empty());
+    }
 };
 
 static const Registered<PreviewTest> registered;
