@@ -22,7 +22,7 @@ Control::Control(Form& form, ControlKind kind, std::string_view name, int index)
 }
 
 std::string Control::key() const {
-    return arrayIndex == noIndex ? controlName : controlName + "(" + std::to_string(arrayIndex) + ")";
+    return arrayIndex == noIndex ? name() : name() + "(" + std::to_string(arrayIndex) + ")";
 }
 
 void Control::setVisible(bool on) {
@@ -47,11 +47,11 @@ void Control::setBackColor(Colour colour) {
 }
 
 bool Control::focused() const {
-    return owner.screen().focused() == this;
+    return owner->screen().focused() == this;
 }
 
 void Control::setFocus() {
-    owner.screen().setFocus(*this);
+    owner->screen().setFocus(*this);
 }
 
 void Control::loseFocus() {
@@ -72,7 +72,7 @@ bool Control::fires(std::string_view event, std::string_view name, const std::fu
 }
 
 void Control::touched() {
-    owner.screen().controlTouched(*this);
+    owner->screen().controlTouched(*this);
 }
 
 }  // namespace plandesk

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "controls/Colour.h"
+#include "controls/Fixed.h"
 
 namespace plandesk {
 
@@ -38,9 +39,8 @@ public:
     Control(Form& form, ControlKind kind, std::string_view name, int index);
     virtual ~Control() = default;
     Control(const Control&) = delete;
-    Control& operator=(const Control&) = delete;
 
-    Form& form() const { return owner; }
+    Form& form() const { return *owner; }
     ControlKind kind() const { return controlKind; }
     const std::string& name() const { return controlName; }
     int index() const { return arrayIndex; }
@@ -75,20 +75,22 @@ public:
     virtual void tabbedInto() {}
 
     std::string toolTip;
-    std::function<void()> gotFocus;
-    std::function<void()> lostFocus;
+    Fixed<std::function<void()>> gotFocus;
+    Fixed<std::function<void()>> lostFocus;
     /// Asked when the user leaves for another control of the form; false holds the focus here.
-    std::function<bool()> leaveCheck;
+    Fixed<std::function<bool()>> leaveCheck;
 
 protected:
+    /// A control of the same class takes over what the other holds: neither its name nor its reactions, and none runs.
+    Control& operator=(const Control&) = default;
     /// Runs the reaction when `event` is its name, in any case; tells whether it is.
     static bool fires(std::string_view event, std::string_view name, const std::function<void()>& reaction);
     /// Tells the views that something of the control is to be painted anew.
     void touched();
 
 private:
-    Form& owner;
-    std::string controlName;
+    Fixed<Form&> owner;
+    Fixed<std::string> controlName;
     ControlKind controlKind;
     int arrayIndex;
     bool isVisible = true;

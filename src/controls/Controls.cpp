@@ -94,6 +94,11 @@ Frame::Frame(Form& form, std::string_view name, std::string_view caption, int in
 RichText::RichText(Form& form, std::string_view name, std::string_view html)
     : Control(form, ControlKind::RichText, name, noIndex), html(html) {}
 
+RichText& RichText::operator=(const RichText& other) {
+    Control::operator=(other);
+    return *this;
+}
+
 OptionButton::OptionButton(Form& form, OptionGroup& group, std::string_view name, std::string_view caption, int index)
     : Captioned(form, ControlKind::OptionButton, name, index, caption), siblings(group) {
     group.members.push_back(this);
@@ -117,7 +122,7 @@ void OptionButton::choose() {
 }
 
 void OptionButton::turnOn() {
-    for (OptionButton* other : siblings.members) {
+    for (OptionButton* other : siblings->members) {
         if (other != this && other->on) {
             other->on = false;
             other->touched();
@@ -128,7 +133,7 @@ void OptionButton::turnOn() {
 }
 
 std::vector<OptionButton*> OptionButton::others() const {
-    std::vector<OptionButton*> round = siblings.members;
+    std::vector<OptionButton*> round = siblings->members;
     std::rotate(round.begin(), std::ranges::find(round, this) + 1, round.end());
     std::erase_if(round, [](const OptionButton* option) { return !option->takesFocus(); });
     return round;

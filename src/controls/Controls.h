@@ -38,8 +38,8 @@ public:
     void moveCaretToEnd() { caretPlace = content.size(); }
     bool fire(std::string_view event) override;
 
-    std::function<void()> change;
-    KeyFilter keyPress;
+    Fixed<std::function<void()>> change;
+    Fixed<KeyFilter> keyPress;
     bool locked = false;
     bool multiLine = false;
     bool rightAligned = false;  ///< a column of numbers reads from its last digit
@@ -65,8 +65,8 @@ public:
     Colour foreColor() const { return fore; }
     void setForeColor(Colour colour);
 
-    std::function<void()> change;
-    std::function<void()> click;
+    Fixed<std::function<void()>> change;
+    Fixed<std::function<void()>> click;
 
 private:
     std::string words;
@@ -102,6 +102,10 @@ public:
 class RichText : public Control {
 public:
     RichText(Form& form, std::string_view name, std::string_view html);
+    RichText(const RichText&) = delete;
+    /// The text is the same in all forms of a class.
+    RichText& operator=(const RichText& other);
+    ~RichText() override = default;
     const std::string html;
 };
 
@@ -109,7 +113,7 @@ class OptionButton;
 
 /// The options of which at most one is on.
 struct OptionGroup {
-    std::vector<OptionButton*> members;
+    Fixed<std::vector<OptionButton*>> members;
 
     /// The member where Tab stops: the one that is on, or else the first that takes the focus; null when none does.
     OptionButton* stop() const;
@@ -128,14 +132,14 @@ public:
     /// An arrow ("Left", "Up", "Right", "Down") moves the focus round the group and chooses nothing; a character
     /// chooses the next member whose caption begins with it, in any case.
     std::string_view keyDown(std::string_view key) override;
-    const OptionGroup& group() const { return siblings; }
+    const OptionGroup& group() const { return *siblings; }
 
 private:
     void turnOn();
     /// The members that take the focus, from the one behind this on round the group to this.
     std::vector<OptionButton*> others() const;
 
-    OptionGroup& siblings;
+    Fixed<OptionGroup&> siblings;
     bool on = false;
 };
 
@@ -179,7 +183,7 @@ public:
     void pickNext(std::string_view letter);
     bool fire(std::string_view event) override;
 
-    std::function<void()> click;
+    Fixed<std::function<void()>> click;
 
 private:
     /// The position as an index. RuntimeError 381 for one that the list does not have.
@@ -200,7 +204,7 @@ public:
     void setDate(Date date);
     bool fire(std::string_view event) override;
 
-    std::function<void()> change;
+    Fixed<std::function<void()>> change;
 
 private:
     Date day;
@@ -217,7 +221,7 @@ public:
     void setTab(int tab);
     bool fire(std::string_view event) override;
 
-    std::function<void()> click;
+    Fixed<std::function<void()>> click;
 
 private:
     int tabs;

@@ -35,6 +35,21 @@ Form::~Form() {
     desk.forget(*this);
 }
 
+Form& Form::operator=(const Form& other) {
+    if (this == &other)
+        return *this;
+    title = other.title;
+    back = other.back;
+    shown = other.shown;
+    active = counterpart(other.active);
+    turned = other.turned;
+    return *this;
+}
+
+Control* Form::counterpart(const Control* control) const {
+    return control ? find(control->name(), control->index()) : nullptr;
+}
+
 const Layout& Form::layout() const {
     static const Layout none;
     return none;

@@ -39,7 +39,6 @@ public:
     Form(Screen& screen, std::string_view name, std::string_view caption);
     virtual ~Form();
     Form(const Form&) = delete;
-    Form& operator=(const Form&) = delete;
 
     /// The form's load reaction. Runs once, right after construction, when the form is first touched.
     virtual void load() {}
@@ -118,8 +117,14 @@ public:
     [[noreturn]] void missing(std::string_view wanted) const;
 
     Screen& screen() const { return desk; }
+    /// The control that is here what that one is on another form of the same class; null for null.
+    Control* counterpart(const Control* control) const;
 
 protected:
+    /// A form of the same class takes over what the other holds, by the assignment that the compiler makes of each
+    /// class: the values of its controls and members, neither its reactions nor its place on the screen. No reaction
+    /// runs. A member that cannot be assigned does not compile; one that must not be is `Fixed`.
+    Form& operator=(const Form& other);
     /// Makes a procedure without arguments reachable by name.
     void procedure(std::string_view procedureName, std::function<void()> body);
 

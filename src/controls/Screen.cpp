@@ -168,6 +168,23 @@ void Screen::unload(std::unique_ptr<Form> form) {
         unloaded.push_back(std::move(form));
 }
 
+void Screen::copyFrom(const Screen& original, const std::function<Form*(const Form&)>& copyOf) {
+    const auto copies = [&copyOf](const std::vector<Form*>& forms) {
+        std::vector<Form*> found;
+        for (const Form* form : forms)
+            if (Form* copy = copyOf(*form))
+                found.push_back(copy);
+        return found;
+    };
+    stack = copies(original.stack);
+    modals = copies(original.modals);
+    const Form* focusedForm = original.focus ? copyOf(original.focus->form()) : nullptr;
+    focus = focusedForm ? focusedForm->counterpart(original.focus) : nullptr;
+    focusArrived = original.focusArrived;
+    title = original.title;
+    over = original.over;
+}
+
 bool Screen::holds(const Form& form) const {
     return std::ranges::find(stack, &form) != stack.end();
 }

@@ -77,6 +77,10 @@ public:
     /// is one. The observer hears nothing more of it.
     void unload(std::unique_ptr<Form> form);
 
+    /// Takes over the order of the forms, the modal ones, the focus and the caption from another screen whose forms
+    /// have copies here; `copyOf` gives null for one that has none. Nothing reacts. Between two events only.
+    void copyFrom(const Screen& original, const std::function<Form*(const Form&)>& copyOf);
+
     bool ended() const { return over; }
     /// Ends the program at once.
     void end();

@@ -106,10 +106,26 @@ void readRow(const FieldRow& row, Form& form, const Pieces& fields) {
 
 }  // namespace
 
+void ReadXML::copyFrom(const ReadXML& original) {
+    proposalDom = original.proposalDom;
+    unreadText = original.unreadText;
+    optionNumber = original.optionNumber;
+}
+
 void ReadXML::LoadDocument(const std::string& path) {
     // Nobody looks at the result: a document without a root tells its own tale below.
-    const bool loaded = proposalDom.load(path);
+    const auto document = std::make_shared<XmlDocument>();
+    const bool loaded = document->load(path);
+    proposalDom = document;
     unreadText = loaded ? "" : path + " cannot be read, or is no well-formed XML file.";
+}
+
+bool ReadXML::LoadBytes(std::string_view bytes) {
+    const auto document = std::make_shared<XmlDocument>();
+    const bool loaded = document->loadBytes(bytes);
+    proposalDom = document;
+    unreadText = loaded ? "" : "The document is no well-formed XML file.";
+    return loaded;
 }
 
 template <class Body>
@@ -156,15 +172,15 @@ void ReadXML::readSections() {
 // back doubled.
 std::string ReadXML::flatten() const {
     std::string groups;
-    if (proposalDom.root() == XmlDocument::none)
+    if (proposalDom->root() == XmlDocument::none)
         return groups;
-    for (auto child = proposalDom.firstChild(proposalDom.root()); child != XmlDocument::none;
-         child = proposalDom.nextSibling(child)) {
-        if (equalsIgnoringCase(proposalDom.name(child), "NTS"))
+    for (auto child = proposalDom->firstChild(proposalDom->root()); child != XmlDocument::none;
+         child = proposalDom->nextSibling(child)) {
+        if (equalsIgnoringCase(proposalDom->name(child), "NTS"))
             continue;
-        for (auto field = proposalDom.firstChild(child); field != XmlDocument::none;
-             field = proposalDom.nextSibling(field)) {
-            appendDoubled(groups, proposalDom.text(field));
+        for (auto field = proposalDom->firstChild(child); field != XmlDocument::none;
+             field = proposalDom->nextSibling(field)) {
+            appendDoubled(groups, proposalDom->text(field));
             groups += "@";
         }
         groups += "||";
@@ -247,23 +263,23 @@ std::vector<ReadXML::Named> ReadXML::namedControls() {
 }
 
 void ReadXML::readAnnexureB() {
-    if (proposalDom.root() == XmlDocument::none)
+    if (proposalDom->root() == XmlDocument::none)
         return;
     const std::vector<Named> controls = namedControls();
     optionNumber = 0;
-    for (auto child = proposalDom.firstChild(proposalDom.root()); child != XmlDocument::none;
-         child = proposalDom.nextSibling(child)) {
-        if (!equalsIgnoringCase(proposalDom.name(child), "ANNEXUREB"))
+    for (auto child = proposalDom->firstChild(proposalDom->root()); child != XmlDocument::none;
+         child = proposalDom->nextSibling(child)) {
+        if (!equalsIgnoringCase(proposalDom->name(child), "ANNEXUREB"))
             continue;
-        for (auto element = proposalDom.firstChild(child); element != XmlDocument::none;
-             element = proposalDom.nextSibling(element))
+        for (auto element = proposalDom->firstChild(child); element != XmlDocument::none;
+             element = proposalDom->nextSibling(element))
             readNamed(element, controls);
     }
 }
 
 void ReadXML::readNamed(XmlDocument::Node element, std::span<const Named> controls) {
-    const std::string_view name = proposalDom.name(element);
-    const std::string_view text = proposalDom.text(element);
+    const std::string_view name = proposalDom->name(element);
+    const std::string_view text = proposalDom->text(element);
     if (name == streetsAndTrees)
         readStreetsAndTrees(text);
     for (const Named& named : controls) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -26,16 +27,22 @@ public:
     /// What a message about a failure of the reading means when the file could not be loaded; else empty.
     const std::string& unread() const { return unreadText; }
 
+    /// Takes over the document last loaded there and what is known of it.
+    void copyFrom(const ReadXML& original);
+
     /// Loads the file into `proposalDom`, which lives until the next load. A file that cannot be loaded shows nothing
     /// here and leaves a document without a root.
     void LoadDocument(const std::string& path);
+
+    /// The same of a file's bytes that are in memory. False when they cannot be loaded.
+    bool LoadBytes(std::string_view bytes);
 
     /// Reads the sections, checklists and fees by position and ANNEXUREB by name. One critical message for each failing
     /// statement: the error's number, " : " and its description.
     void readSections();
 
     /// The document last loaded, which the readers of the blocks work on.
-    const XmlDocument& document() const { return proposalDom; }
+    const XmlDocument& document() const { return *proposalDom; }
 
 private:
     /// A text box or option of the Particulars, by the name of the element of ANNEXUREB that it takes.
@@ -61,7 +68,7 @@ private:
     void readStreetsAndTrees(std::string_view text);
 
     Proposal& proposal;
-    XmlDocument proposalDom;
+    std::shared_ptr<const XmlDocument> proposalDom = std::make_shared<XmlDocument>();  ///< never changed once loaded
     std::string unreadText;  ///< why there is no document; empty when there is one
     int optionNumber = 0;    ///< number of the option element of ANNEXUREB read last
 };

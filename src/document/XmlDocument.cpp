@@ -226,7 +226,8 @@ private:
     std::size_t askAt = XmlDocument::longestTag;
 };
 
-bool parse(int file, XmlBuilder& builder) {
+template <class Source>
+bool parse(const Source& source, XmlBuilder& builder) {
     // The parser would tell of broken encodings on the program's error output; the messages of the reader tell of them.
     xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
     xmlSAXHandler sax = handlers();
@@ -239,7 +240,7 @@ bool parse(int file, XmlBuilder& builder) {
     std::array<char, XmlDocument::longestTag / 2> chunk;
     Waiting waiting;
     for (;;) {
-        const ssize_t length = read(file, chunk.data(), chunk.size());
+        const std::ptrdiff_t length = source(chunk);
         if (length < 0)
             return false;
         xmlParseChunk(parser.get(), chunk.data(), static_cast<int>(length), length == 0);
@@ -258,12 +259,25 @@ bool XmlDocument::load(const std::filesystem::path& path) {
     *this = {};
     const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status {};
-    bool loaded = file.number >= 0 && fstat(file.number, &status) == 0 && S_ISREG(status.st_mode);
-    if (loaded) {
-        reserve(static_cast<std::size_t>(status.st_size));
-        XmlBuilder builder(*this);
-        loaded = parse(file.number, builder);
-    }
+    if (file.number < 0 || fstat(file.number, &status) != 0 || !S_ISREG(status.st_mode))
+        return false;
+    return loadFrom(static_cast<std::size_t>(status.st_size),
+                    [&file](std::span<char> room) { return read(file.number, room.data(), room.size()); });
+}
+
+bool XmlDocument::loadBytes(std::string_view bytes) {
+    return loadFrom(bytes.size(), [&bytes](std::span<char> room) {
+        const std::size_t length = bytes.copy(room.data(), room.size());
+        bytes.remove_prefix(length);
+        return static_cast<std::ptrdiff_t>(length);
+    });
+}
+
+bool XmlDocument::loadFrom(std::size_t size, const Source& source) {
+    *this = {};
+    reserve(size);
+    XmlBuilder builder(*this);
+    const bool loaded = parse(source, builder);
     if (!loaded)
         *this = {};
     return loaded;

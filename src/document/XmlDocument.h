@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +27,8 @@ public:
     /// the document is then without a root. No network, no external entities; a reference to an entity that the file
     /// declares stands for nothing.
     bool load(const std::filesystem::path& path);
+    /// The same of a file's bytes that are in memory.
+    bool loadBytes(std::string_view bytes);
 
     /// The root element; `none` without one.
     Node root() const { return nodes.empty() ? none : 0; }
@@ -48,6 +53,10 @@ private:
         Node nextSibling;
     };
 
+    /// Gives the next bytes of a file: how many it put into the room, 0 at the end, less when it cannot.
+    using Source = std::function<std::ptrdiff_t(std::span<char> room)>;
+
+    bool loadFrom(std::size_t size, const Source& source);
     void reserve(std::size_t bytes);
 
     std::vector<Entry> nodes;

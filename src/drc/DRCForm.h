@@ -17,7 +17,7 @@ class EnterBox : public TextBox {
 public:
     using TextBox::TextBox;
     std::string_view keyDown(std::string_view key) override;
-    std::function<void()> enter;
+    Fixed<std::function<void()>> enter;
 };
 
 /// Save, Reset and Close at the foot of a form of development rights. Reset has no reaction.

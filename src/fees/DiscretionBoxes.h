@@ -1,6 +1,5 @@
 #pragma once
 
-#include <deque>
 #include <string_view>
 
 #include "controls/Controls.h"
@@ -8,8 +7,8 @@
 namespace plandesk {
 
 /// The members of a control array of that name, from index 0.
-inline std::deque<TextBox> discretionBoxes(Form& form, std::string_view name, std::size_t count) {
-    std::deque<TextBox> boxes;
+inline Series<TextBox> discretionBoxes(Form& form, std::string_view name, std::size_t count) {
+    Series<TextBox> boxes;
     for (std::size_t index = 0; index < count; ++index)
         boxes.emplace_back(form, name, static_cast<int>(index));
     return boxes;

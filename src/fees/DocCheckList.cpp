@@ -1,6 +1,7 @@
 #include "fees/DocCheckList.h"
 
 #include <optional>
+#include <utility>
 
 #include "base/Numbers.h"
 #include "base/Text.h"
@@ -13,8 +14,8 @@ namespace plandesk {
 
 namespace {
 
-std::deque<DocumentRow> makeRows(Form& form, const DocCheckListKind& kind) {
-    std::deque<DocumentRow> rows;
+Series<DocumentRow> makeRows(Form& form, const DocCheckListKind& kind) {
+    Series<DocumentRow> rows;
     for (const auto part : kind.documents)
         for (const std::string_view document : part)
             rows.emplace_back(form, static_cast<int>(rows.size()), document);
@@ -59,7 +60,7 @@ void DocCheckList::wireRows() {
 void DocCheckList::load() {
     cmdNext.setEnabled(false);
     for (DocumentRow& row : rows) {
-        if (row.enclosed.index() < kind.savedRows)
+        if (row.enclosed.index() < kind->savedRows)
             continue;
         row.enclosed.setVisible(false);
         row.pageFrom.setVisible(false);
@@ -69,7 +70,7 @@ void DocCheckList::load() {
 }
 
 const Layout& DocCheckList::layout() const {
-    return kind.layout;
+    return kind->layout;
 }
 
 void DocCheckList::txtDocPageNo_Change(DocumentRow& row, TextBox& page) {
@@ -96,11 +97,20 @@ DocCheckList::Fault DocCheckList::rowFault(DocumentRow& row) {
     return {};
 }
 
+std::vector<DocCheckList::Fault> DocCheckList::faults() {
+    std::vector<Fault> found;
+    for (DocumentRow& row : rows)
+        if (row.enclosed.index() < kind->savedRows)
+            if (Fault fault = rowFault(row); !fault.text.empty())
+                found.push_back(std::move(fault));
+    return found;
+}
+
 void DocCheckList::cmdSave_Click() {
-    std::string& list = proposal.*kind.list;
+    std::string& list = proposal.*kind->list;
     list.clear();
     for (DocumentRow& row : rows) {
-        if (row.enclosed.index() >= kind.savedRows)
+        if (row.enclosed.index() >= kind->savedRows)
             break;
         if (const Fault fault = rowFault(row); !fault.text.empty())
             return refuse(fault);
@@ -108,13 +118,13 @@ void DocCheckList::cmdSave_Click() {
     }
     auto& form = proposal.forms.get<frmAnnexureA>();
     // Nothing stands between the two lists: the last row of the one runs into the first of the other.
-    form.txtDocChkList.setText(kind.listBehind ? list + proposal.*kind.listBehind : list);
+    form.txtDocChkList.setText(kind->listBehind ? list + proposal.*kind->listBehind : list);
     hide();
     form.show();
 }
 
 void DocCheckList::refuse(const Fault& fault) {
-    (proposal.*kind.list).clear();
+    (proposal.*kind->list).clear();
     show();
     std::optional<Meaning> meant;
     if (fault.box)

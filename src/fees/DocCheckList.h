@@ -1,10 +1,10 @@
 #pragma once
 
 #include <array>
-#include <deque>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "controls/Controls.h"
 #include "particulars/StepLinks.h"
@@ -51,7 +51,7 @@ public:
     void cmdPrevious_Click();
 
     StepLinks links;
-    std::deque<DocumentRow> rows;
+    Series<DocumentRow> rows;
     std::array<Image, 4> Image1{
         {{*this, "Image1", 0}, {*this, "Image1", 1}, {*this, "Image1", 2}, {*this, "Image1", 3}}};
     Button cmdPrevious{*this, "cmdPrevious", "Move to previous form"};
@@ -61,20 +61,22 @@ public:
     Button Command5{*this, "Command5", "Print Particulars of Development"};
     Button cmdClose{*this, "cmdClose", "Close"};
 
-private:
     /// Why a row cannot stand, and the box to go to; no text when it can.
     struct Fault {
         std::string text;
         TextBox* box = nullptr;
     };
+    /// Of every row that is saved and cannot stand. Tells and moves nothing.
+    std::vector<Fault> faults();
 
+private:
     void wireRows();
     static void txtDocPageNo_Change(DocumentRow& row, TextBox& page);
     static std::string rowText(const DocumentRow& row);
     static Fault rowFault(DocumentRow& row);
     void refuse(const Fault& fault);
 
-    const DocCheckListKind& kind;
+    Fixed<const DocCheckListKind&> kind;
 };
 
 }  // namespace plandesk

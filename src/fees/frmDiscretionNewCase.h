@@ -1,6 +1,5 @@
 #pragma once
 
-#include <deque>
 #include <string_view>
 
 #include "controls/Controls.h"
@@ -24,7 +23,7 @@ public:
     void setDiscretionNewForSave();
 
     Label lblHead{*this, "lblHead", "Discretion : New Case"};
-    std::deque<TextBox> txtRule;  ///< the architect's remark on each of the 15 rules
+    Series<TextBox> txtRule;  ///< the architect's remark on each of the 15 rules
     Button Command5{*this, "Command5", "Print Particulars of Development"};
     Button Command9{*this, "Command9", "Close"};
 };

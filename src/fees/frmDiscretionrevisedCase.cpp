@@ -70,7 +70,7 @@ frmDiscretionrevisedCase::frmDiscretionrevisedCase(Proposal& proposal)
       txtRuleD(discretionBoxes(*this, "txtRuleD", amendments.size())) {
     for (const std::string_view amendment : amendments)
         lblRule.emplace_back(*this, "lblRule", amendment, static_cast<int>(lblRule.size()));
-    for (std::deque<TextBox>* figures : {&txtRule, &txtRuleC}) {
+    for (Series<TextBox>* figures : {&txtRule, &txtRuleC}) {
         for (TextBox& figure : *figures) {
             figure.keyPress = keyFilterDecimal;
             figure.lostFocus = [&figure] { figure.setText(formatAmount(figure.text())); };

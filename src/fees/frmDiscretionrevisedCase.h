@@ -1,6 +1,5 @@
 #pragma once
 
-#include <deque>
 #include <string_view>
 
 #include "controls/Controls.h"
@@ -23,10 +22,10 @@ public:
     void setDiscretionForSave();
 
     Label lblHead{*this, "lblHead", "Discretion : Revised Case"};
-    std::deque<Label> lblRule;     ///< the 19 amendments
-    std::deque<TextBox> txtRule;   ///< figure of the revised drawing
-    std::deque<TextBox> txtRuleC;  ///< figure of the sanctioned drawing
-    std::deque<TextBox> txtRuleD;  ///< the architect's remark
+    Series<Label> lblRule;     ///< the 19 amendments
+    Series<TextBox> txtRule;   ///< figure of the revised drawing
+    Series<TextBox> txtRuleC;  ///< figure of the sanctioned drawing
+    Series<TextBox> txtRuleD;  ///< the architect's remark
     Button Command5{*this, "Command5", "Print Particulars of Development"};
     Button Command9{*this, "Command9", "Close"};
 };

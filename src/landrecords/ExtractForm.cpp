@@ -28,7 +28,7 @@ ExtractForm::ExtractForm(Proposal& proposal, const ExtractFormKind& kind)
       cmdReferesh(*this, "cmdReferesh", kind.resetCaption),
       kind(kind),
       family(kind.family),
-      ownerLists(dgdOwner, cmbOwnSingingStatus, cmbEncumber, cmbOwnType, !family.is712) {
+      ownerLists(dgdOwner, cmbOwnSingingStatus, cmbEncumber, cmbOwnType, !family->is712) {
     txtRemark.multiLine = true;
     for (Grid* grid : {&dgdInfoOfExtract, &dgdOwner, &dgdPAH})
         grid->allowDelete = false;
@@ -69,11 +69,11 @@ void ExtractForm::wire() {
 void ExtractForm::load() {
     txtNoOfExtranct.setEnabled(false);
     txtCaseType.setText(proposal.forms.get<frmAnnexureA>().cboCaseType.text());
-    wording = family.is712 && proposal.is712Current ? &wording712 : &wordingPRC;
+    wording = family->is712 && proposal.is712Current ? &wording712 : &wordingPRC;
     txtNoOfExtranct.setText(std::to_string(proposal.*wording->family.total));
     applyWording();
     txtNoOfExtranct_LostFocus();
-    txtRemark.setText(proposal.*family.remark);
+    txtRemark.setText(proposal.*family->remark);
     setFormColors(*this, proposal);
 }
 
@@ -87,22 +87,22 @@ void ExtractForm::applyWording() {
 
 // The PRC form has no key handling of its own: Enter is handled in its grids and its count box alone.
 int ExtractForm::keyPress(int key) const {
-    return family.is712 ? DataForm::keyPress(key) : key;
+    return family->is712 ? DataForm::keyPress(key) : key;
 }
 
 bool ExtractForm::enterActsAsTab() const {
-    return family.is712 || txtNoOfExtranct.focused();
+    return family->is712 || txtNoOfExtranct.focused();
 }
 
 void ExtractForm::txtNoOfExtranct_LostFocus() {
     if (!alreadyFilled && leadingNumber(txtNoOfExtranct.text()) == 0)
         return;
-    if (!family.is712 && alreadyFilled)
+    if (!family->is712 && alreadyFilled)
         reread();
     Recordset& plots712 = proposal.tables.ensure(&Tables::rsPlot712);
-    if (family.is712 && plots712.rowCount() == 0)  // also while the plots of the PRCs are listed
+    if (family->is712 && plots712.rowCount() == 0)  // also while the plots of the PRCs are listed
         return;
-    if (!family.is712)
+    if (!family->is712)
         plots712.moveFirst();
     listExtracts();
     if (!alreadyFilled)
@@ -140,16 +140,16 @@ void ExtractForm::listExtracts() {
 void ExtractForm::buildRows() {
     const Meaning meant(screen(), txtNoOfExtranct);
     const std::int16_t count = toInteger16(leadingNumber(txtNoOfExtranct.text()));
-    Recordset* extracts = &proposal.tables.ensure(family.extracts);
+    Recordset* extracts = &proposal.tables.ensure(family->extracts);
     if (extracts->recordCount() > 0)
         return extracts->moveFirst();
     extracts->setFilter("");
     int number = extracts->recordCount() + 1;
     if (number > count) {
         number = 1;
-        if (family.is712) {  // PRCs are added beside the old ones
+        if (family->is712) {  // PRCs are added beside the old ones
             proposal.tables.create(extractTables);
-            extracts = &proposal.tables.ensure(family.extracts);
+            extracts = &proposal.tables.ensure(family->extracts);
         }
     }
     for (; number <= count; ++number) {
@@ -176,23 +176,23 @@ Recordset& ExtractForm::chosen(Tables::Member table) {
 }
 
 void ExtractForm::bindInfo() {
-    chosen(family.extracts);
-    dgdInfoOfExtract.bind(proposal.tables.*family.extracts);
+    chosen(family->extracts);
+    dgdInfoOfExtract.bind(proposal.tables.*family->extracts);
     dgdInfoOfExtract.setColumns(wording->infoColumns);
 }
 
 void ExtractForm::bindOwners() {
     bindingOwners = true;
-    chosen(family.owners);
-    dgdOwner.bind(proposal.tables.*family.owners);
+    chosen(family->owners);
+    dgdOwner.bind(proposal.tables.*family->owners);
     dgdOwner.setColumns(wording->ownerColumns);
     ownerCellChanged();
     bindingOwners = false;
 }
 
 void ExtractForm::bindHolders() {
-    chosen(family.holders);
-    dgdPAH.bind(proposal.tables.*family.holders);
+    chosen(family->holders);
+    dgdPAH.bind(proposal.tables.*family->holders);
     dgdPAHCallSetting();
 }
 
@@ -211,7 +211,7 @@ void ExtractForm::cmbExtract_Click() {
 
 void ExtractForm::infoUpdated(int column) {
     const auto number = [this, column] {
-        return toInteger16(valueNumber(proposal.tables.ensure(family.extracts).get(column)));
+        return toInteger16(valueNumber(proposal.tables.ensure(family->extracts).get(column)));
     };
     if (column == ExtractColumn::DateOf712) {
         placeDate(false);
@@ -224,7 +224,7 @@ void ExtractForm::infoUpdated(int column) {
 
 void ExtractForm::addOwner(std::int16_t count) {
     dgdOwner.bind(nullptr);
-    Recordset& owners = chosen(family.owners);
+    Recordset& owners = chosen(family->owners);
     owners.deleteVisible();
     for (int number = 1; number <= count; ++number) {
         owners.addNew();
@@ -240,7 +240,7 @@ void ExtractForm::addOwner(std::int16_t count) {
 
 void ExtractForm::addPAH(std::int16_t count) {
     dgdPAH.bind(nullptr);
-    Recordset& holders = chosen(family.holders);
+    Recordset& holders = chosen(family->holders);
     holders.deleteVisible();
     for (int number = 1; number <= count; ++number) {
         holders.addNew();
@@ -253,7 +253,7 @@ void ExtractForm::addPAH(std::int16_t count) {
 }
 
 void ExtractForm::placeDate(bool focus) {
-    Recordset& extracts = proposal.tables.ensure(family.extracts);
+    Recordset& extracts = proposal.tables.ensure(family->extracts);
     if (!hasCurrentRow(extracts))
         return;  // nothing to place the picker over
     if (const auto* date = std::get_if<Date>(&extracts.get(ExtractColumn::DateOf712)))
@@ -264,7 +264,7 @@ void ExtractForm::placeDate(bool focus) {
 }
 
 void ExtractForm::dateChosen() {
-    Recordset& extracts = proposal.tables.ensure(family.extracts);
+    Recordset& extracts = proposal.tables.ensure(family->extracts);
     if (!hasCurrentRow(extracts))
         return;
     extracts.set(ExtractColumn::DateOf712, DTPicker1.date());
@@ -278,7 +278,7 @@ void ExtractForm::ownerCellChanged() {
 }
 
 void ExtractForm::toggleSign() {
-    Recordset& holders = proposal.tables.ensure(family.holders);
+    Recordset& holders = proposal.tables.ensure(family->holders);
     if (!hasCurrentRow(holders))
         return;
     holders.set(HolderColumn::PAHSing, valueNumber(holders.get(HolderColumn::PAHSing)) == 0);
@@ -287,13 +287,13 @@ void ExtractForm::toggleSign() {
 }
 
 void ExtractForm::cmdSave_Click() {
-    if (kind.savesWithCountOnly && leadingNumber(txtNoOfExtranct.text()) == 0)
+    if (kind->savesWithCountOnly && leadingNumber(txtNoOfExtranct.text()) == 0)
         return;
-    if (kind.saveUnbindsOwners)
+    if (kind->saveUnbindsOwners)
         dgdOwner.bind(nullptr);  // until an extract is chosen again
-    if (kind.saveMakesPRCsTheSubject)
+    if (kind->saveMakesPRCsTheSubject)
         proposal.is712Current = false;
-    proposal.commands.buildBlock(kind.family.extractList);
+    proposal.commands.buildBlock(kind->family.extractList);
     buildOwnership(proposal);
     proposal.tables.rsOwnership712 = proposal.tables.rsOwnership;
     for (Grid* grid : {&dgdInfoOfExtract, &dgdOwner, &dgdPAH})
@@ -310,7 +310,7 @@ void ExtractForm::cmdReferesh_Click() {
     txtRemark.setText("");
     cmbExtract.clear();
     txtNoOfExtranct.setText("");
-    for (const Tables::Member table : kind.droppedByReset)
+    for (const Tables::Member table : kind->droppedByReset)
         (proposal.tables.*table).reset();
 }
 

@@ -79,10 +79,10 @@ private:
     void toggleSign();
     void cmdReferesh_Click();
 
-    const ExtractFormKind& kind;
-    const ExtractFamily& family;
+    Fixed<const ExtractFormKind&> kind;
+    Fixed<const ExtractFamily&> family;
     const ExtractWording* wording = nullptr;  ///< fixed when the form is loaded
-    OwnerLists ownerLists;
+    Fixed<OwnerLists> ownerLists;
     std::int16_t chosenExtract = 1;
     bool alreadyFilled = false;  ///< raised by Command1; a fill that stops early leaves it up
     bool bindingOwners = false;

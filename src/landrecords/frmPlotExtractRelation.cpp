@@ -37,7 +37,7 @@ void copyPlots(Recordset& from, Recordset& to) {
 
 frmPlotExtractRelation::frmPlotExtractRelation(Proposal& proposal)
     : DataForm(proposal, formName, "Plot Extract Relation Ship"),
-      tab712{
+      tab712(Tab{
           .family = family712,
           .plots = txtNoOfPlot712,
           .total = txtNoOfExtract712,
@@ -48,8 +48,8 @@ frmPlotExtractRelation::frmPlotExtractRelation(Proposal& proposal)
           .enterKey = "0",
           .unloads = "frmMain712",
           .message = "7/12 Extract Relationship saved Succussfully ! ",
-      },
-      tabPRC{
+      }),
+      tabPRC(Tab{
           .family = familyPRC,
           .plots = txtNoOfPlot,
           .total = txtNoOfPrc,
@@ -60,7 +60,7 @@ frmPlotExtractRelation::frmPlotExtractRelation(Proposal& proposal)
           .enterKey = "1",
           .unloads = "",
           .message = "PRC Extract Relationship saved Succussfully ! ",
-      } {
+      }) {
     wire(tab712);
     wire(tabPRC);
     cmdAddPlot.toolTip = cmdAddPlotPRC.toolTip = "Add New Plot !";

@@ -86,8 +86,8 @@ private:
     void plotDeleted();
     void leaveRelation(const Tab& tab);
 
-    const Tab tab712;
-    const Tab tabPRC;
+    Fixed<Tab> tab712;
+    Fixed<Tab> tabPRC;
     bool rowBeingDeleted = false;
 };
 

@@ -45,6 +45,13 @@ public:
     /// Whether the first page is complete. The first of the fifteen tests that fails is told in a message; its field
     /// gets the focus, on the first tab.
     bool validateAnnexureFirstPage();
+    /// A test of the first page that fails now.
+    struct FirstPageFault {
+        Control* field;
+        std::string text;
+    };
+    /// All of them, in their order. Tells and moves nothing.
+    std::vector<FirstPageFault> firstPageFaults() const;
     /// Fills the lists of case types, projects and villages. RuntimeError 53 without a village file, 9 for a line of it
     /// with too few fields, 13 for a village number that is none.
     void setComboValues();

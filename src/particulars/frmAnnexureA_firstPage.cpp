@@ -46,17 +46,25 @@ bool isEmpty(const Control& control) {
     return trim(dynamic_cast<const TextBox&>(control).text()).empty();
 }
 
-/// Whether the test passes. A failure is told in a message and gives its field the focus, on the first tab.
-bool passes(const FirstPageTest& test, frmAnnexureA& form) {
-    Control& field = form.at(test.field);
-    if (!isEmpty(field) || (!test.other.empty() && !isEmpty(form.at(test.other))))
-        return true;
+bool fails(const FirstPageTest& test, const Form& form) {
+    return isEmpty(form.at(test.field)) && (test.other.empty() || isEmpty(form.at(test.other)));
+}
+
+std::string messageOf(const FirstPageTest& test, const Form& form) {
     std::string text(test.message);
     if (!test.captionOf.empty())
         text = form.at<Label>(test.captionOf).caption() + " " + text;
+    return text;
+}
+
+/// Whether the test passes. A failure is told in a message and gives its field the focus, on the first tab.
+bool passes(const FirstPageTest& test, frmAnnexureA& form) {
+    if (!fails(test, form))
+        return true;
+    Control& field = form.at(test.field);
     {
         const Meaning meant(form.screen(), field);
-        form.screen().message(text, test.title);
+        form.screen().message(messageOf(test, form), test.title);
     }
     form.goToTab(0);
     form.show();
@@ -74,6 +82,14 @@ void frmAnnexureA::wireFirstPageTests() {
 
 bool frmAnnexureA::validateAnnexureFirstPage() {
     return std::ranges::all_of(firstPageTests, [this](const FirstPageTest& test) { return passes(test, *this); });
+}
+
+std::vector<frmAnnexureA::FirstPageFault> frmAnnexureA::firstPageFaults() const {
+    std::vector<FirstPageFault> faults;
+    for (const FirstPageTest& test : firstPageTests)
+        if (fails(test, *this))
+            faults.push_back({&at(test.field), messageOf(test, *this)});
+    return faults;
 }
 
 }  // namespace plandesk

@@ -11,6 +11,12 @@ class DataForm : public Form {
 public:
     DataForm(Proposal& proposal, std::string_view name, std::string_view caption)
         : Form(proposal.screen, name, caption), proposal(proposal) {}
+    DataForm(const DataForm&) = delete;
+    DataForm& operator=(const DataForm& other) {
+        Form::operator=(other);
+        return *this;
+    }
+    ~DataForm() override = default;
 
     int keyPress(int key) const override { return dropSpecialKeys(key); }
     bool enterActsAsTab() const override { return true; }

@@ -1,5 +1,6 @@
 #include "proposal/Forms.h"
 
+#include "base/RuntimeError.h"
 #include "proposal/Proposal.h"
 
 namespace plandesk {
@@ -68,6 +69,18 @@ void Forms::unloadDropped() {
     for (const FormRow& row : catalogue)
         if (row.droppedByNew)
             unload(row.name);
+}
+
+void Forms::copyFrom(const Forms& original) {
+    catalogue = original.catalogue;
+    rows = original.rows;
+    live.clear();
+    for (const auto& [name, form] : original.live) {
+        const FormRow& row = rows.at(name);
+        if (!row.assign)
+            throw RuntimeError(ErrorNumber::InvalidProcedureCall, name + " cannot be copied");
+        row.assign(*(live[name] = row.make(proposal)), *form);
+    }
 }
 
 }  // namespace plandesk

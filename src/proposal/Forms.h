@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "controls/Form.h"
@@ -19,13 +20,23 @@ struct FormRow {
     std::unique_ptr<Form> (*make)(Proposal& proposal) = nullptr;  ///< null: the form is still to come
     bool droppedByNew = false;                                    ///< New and Open unload it
     void (*open)(Proposal& proposal) = nullptr;                   ///< how it is opened; null: touched and shown
+    /// Assigns one form of the class to another. Null: the class cannot be assigned.
+    void (*assign)(Form& copy, const Form& original) = nullptr;
 };
+
+template <class T>
+constexpr decltype(FormRow::assign) assignment() {
+    if constexpr (std::is_copy_assignable_v<T>)
+        return [](Form& copy, const Form& original) { static_cast<T&>(copy) = static_cast<const T&>(original); };
+    else
+        return nullptr;
+}
 
 /// The row of a form whose class stands.
 template <class T>
 constexpr FormRow formRow(bool droppedByNew, void (*open)(Proposal& proposal) = nullptr) {
     return {T::formName, [](Proposal& owner) -> std::unique_ptr<Form> { return std::make_unique<T>(owner); },
-            droppedByNew, open};
+            droppedByNew, open, assignment<T>()};
 }
 
 /// The forms of the open proposal. Touching a form loads it: constructs it and runs its load reaction. Hiding keeps it,
@@ -64,6 +75,11 @@ public:
     void unload(std::string_view name);
     /// Unloads the forms that New and Open drop, in the order of the catalogue.
     void unloadDropped();
+
+    /// Makes the forms that are loaded there, without their load reactions, and assigns them their originals. The
+    /// tables that their grids show are still those of the originals. RuntimeError 5 for a form that cannot be
+    /// assigned.
+    void copyFrom(const Forms& original);
 
     /// The loaded forms by name.
     const std::map<std::string, std::unique_ptr<Form>, IgnoringCase>& all() const { return live; }

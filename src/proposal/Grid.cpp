@@ -27,6 +27,13 @@ void Grid::bind(std::shared_ptr<Recordset> table) {
     touched();
 }
 
+void Grid::settleIn(std::shared_ptr<Recordset> table) {
+    source = std::move(table);
+    for (Floating& floating : editors)
+        floating.editor = form().counterpart(floating.editor);
+    labelBelow = form().counterpart(labelBelow);
+}
+
 void Grid::setColumns(std::span<const GridColumn> columns) {
     settings = columns;
     touched();

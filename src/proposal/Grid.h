@@ -36,6 +36,10 @@ class Grid : public Control {
 public:
     Grid(Form& form, std::string_view name);
 
+    /// After an assignment from the grid of the same form elsewhere: shows that table instead, its copy, in the same
+    /// state, under an edit as before, and has the editors of its own form over its cells.
+    void settleIn(std::shared_ptr<Recordset> table);
+    const std::shared_ptr<Recordset>& tableReference() const { return source; }
     /// A null reference unbinds: the grid then shows nothing.
     void bind(std::shared_ptr<Recordset> table);
     Recordset* table() const { return source.get(); }
@@ -123,17 +127,17 @@ public:
     void loseFocus() override;
 
     bool allowDelete = true;
-    std::function<void(int column)> afterColumnUpdate;
-    std::function<void()> rowColumnChange;
-    std::function<void(int column)> click;
-    std::function<void(int column)> buttonClick;
+    Fixed<std::function<void(int column)>> afterColumnUpdate;
+    Fixed<std::function<void()>> rowColumnChange;
+    Fixed<std::function<void(int column)>> click;
+    Fixed<std::function<void(int column)>> buttonClick;
     /// The user starts to type into a cell; false when the reaction brought up an editor that takes the keys instead.
-    std::function<bool(int column)> editStart;
-    std::function<ComboBox*(int column)> listOf;  ///< what listAt gives
-    std::function<bool()> beforeDelete;           ///< false cancels
-    std::function<void()> afterDelete;
+    Fixed<std::function<bool(int column)>> editStart;
+    Fixed<std::function<ComboBox*(int column)>> listOf;  ///< what listAt gives
+    Fixed<std::function<bool()>> beforeDelete;           ///< false cancels
+    Fixed<std::function<void()>> afterDelete;
     /// Enter on the current cell; true when the reaction did all, false to act as Tab.
-    std::function<bool()> enterKey;
+    Fixed<std::function<bool()>> enterKey;
 
 private:
     bool has(int row, int column) const;
@@ -171,7 +175,7 @@ public:
     std::string_view keyDown(std::string_view key) override {
         if (key != "Tab" && key != "Shift+Tab" && key != "Enter" && key != "Esc")
             return Kind::keyDown(key);
-        if (!grid.takesFocus())
+        if (!grid->takesFocus())
             return key;
         if constexpr (std::is_base_of_v<Button, Kind>) {
             if (key == "Enter") {
@@ -179,11 +183,11 @@ public:
                 return "";
             }
         }
-        return grid.form().screen().moveFocus(grid) && key != "Esc" ? grid.keyDown(key) : "";
+        return grid->form().screen().moveFocus(*grid) && key != "Esc" ? grid->keyDown(key) : "";
     }
 
 private:
-    Grid& grid;
+    Fixed<Grid&> grid;
 };
 
 namespace user {

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "proposal/Grid.h"
+
 namespace plandesk {
 
 namespace {
@@ -46,6 +48,17 @@ constexpr std::array fragmentNames = std::to_array<Proposal::FragmentName>({
 }  // namespace
 
 Proposal::Proposal(const Ports& ports) : screen(ports) {}
+
+void Proposal::copyFrom(const Proposal& original) {
+    forms.copyFrom(original.forms);
+    Tables::Copies copies;
+    tables.copyFrom(original.tables, copies);
+    // A grid may still show a table that no variable refers to any more.
+    for (const auto& [name, form] : forms.all())
+        form->forEach<Grid>([&](Grid& grid) { grid.settleIn(Tables::copyOf(grid.tableReference(), copies)); });
+    screen.copyFrom(original.screen, [this](const Form& form) { return forms.loaded(form.name()); });
+    ProposalValues::operator=(original);
+}
 
 const std::span<const Proposal::FlagName> Proposal::flags = flagNames;
 const std::span<const Proposal::NumberName> Proposal::numbers = numberNames;

@@ -16,18 +16,8 @@
 
 namespace plandesk {
 
-/// The one open proposal: its flags, numbers and document fragments, its forms, and what they may ask of others.
-/// All state of the running system hangs here, so that several can live side by side.
-class Proposal {
-public:
-    explicit Proposal(const Ports& ports);
-    Proposal(const Proposal&) = delete;
-    Proposal& operator=(const Proposal&) = delete;
-
-    Screen screen;
-    Commands commands;
-    Tables tables;
-
+/// What the open proposal holds beside its tables and forms: plain values, assigned as a whole.
+struct ProposalValues {
     bool isNewProposal = false;    ///< a new proposal is being filled in
     bool isProposalOpen = false;   ///< the proposal has a file
     bool isSaveRequested = false;  ///< raised by Save, never read
@@ -80,6 +70,23 @@ public:
     std::string remarkPRC;
 
     std::string proposalText;  ///< the document as last joined
+};
+
+/// The one open proposal: its flags, numbers and document fragments, its forms, and what they may ask of others.
+/// All state of the running system hangs here, so that several can live side by side.
+class Proposal : public ProposalValues {
+public:
+    explicit Proposal(const Ports& ports);
+    Proposal(const Proposal&) = delete;
+    Proposal& operator=(const Proposal&) = delete;
+
+    /// Makes this the same as another proposal, down to the focus: its loaded forms, tables and values. No reaction
+    /// runs and no box is shown; commands, procedures and ports stay this one's own. Both between two events.
+    void copyFrom(const Proposal& original);
+
+    Screen screen;
+    Commands commands;
+    Tables tables;
 
     /// Procedures without arguments that are reachable by name.
     std::map<std::string, std::function<void()>, IgnoringCase> procedures;

@@ -5,6 +5,16 @@
 
 namespace plandesk {
 
+RecordView RecordView::over(std::pmr::map<std::uint64_t, TableRow>& copies) const {
+    RecordView view = *this;
+    for (TableRow*& row : view.rows)
+        if (row)
+            row = &copies.at(row->id);
+    if (view.addedRow)
+        view.addedRow = &copies.at(view.addedRow->id);
+    return view;
+}
+
 void RecordView::list(std::vector<TableRow*> visible, const std::optional<SortOrder>& order) {
     isListed = true;
     rows = std::move(visible);

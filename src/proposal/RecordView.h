@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <memory_resource>
 #include <optional>
 #include <vector>
@@ -27,6 +28,9 @@ class RecordView {
 public:
     /// `firstAdded`: the id from which on rows are added after the view was set.
     explicit RecordView(std::uint64_t firstAdded) : firstAdded(firstAdded) {}
+
+    /// The same view of a copy of its rows, by their ids.
+    RecordView over(std::pmr::map<std::uint64_t, TableRow>& copies) const;
 
     bool listed() const { return isListed; }
     /// Writes the list out: of the rows given, in table order, those that stood there when the view was set in sort

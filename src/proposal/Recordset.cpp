@@ -20,6 +20,22 @@ Recordset::Recordset(std::span<const Column> columns) : columnList(columns) {
         keyColumn = static_cast<int>(key - columns.begin());
 }
 
+std::shared_ptr<Recordset> Recordset::copy() const {
+    auto copy = std::make_shared<Recordset>(columnList);
+    for (const auto& [id, row] : rows)
+        copy->rows.emplace_hint(copy->rows.end(), id, TableRow{id, std::pmr::vector<Value>(row.values, &copy->memory)});
+    copy->nextId = nextId;
+    for (const KeyEntry& entry : keys)
+        copy->keys.insert(copy->keys.end(), {entry.key, &copy->rows.at(entry.row->id)});
+    copy->conditions = conditions;
+    copy->filterText = filterText;
+    copy->order = order;
+    copy->sortText = sortText;
+    copy->view = view.over(copy->rows);
+    copy->changeCount = changeCount;
+    return copy;
+}
+
 std::size_t Recordset::checked(int column) const {
     if (column < 0 || static_cast<std::size_t>(column) >= columnList.size())
         throw RuntimeError(ErrorNumber::ItemNotFound);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <memory_resource>
 #include <optional>
 #include <set>
@@ -24,7 +25,7 @@ class Bookmark {
 };
 
 /// An in-memory table: ordered rows of named, typed columns with a current row, a filter and a sort. A variable that is
-/// a reference to a table holds it by std::shared_ptr; the table itself is never copied.
+/// a reference to a table holds it by std::shared_ptr; only `copy` makes a second table of one.
 ///
 /// *Visible rows.* The rows that the filter lets through, in sort order (table order among equals, nulls first), are
 /// listed when the filter or the sort is set, and the first of them becomes current. A row stays in the list, at its
@@ -44,6 +45,9 @@ public:
     explicit Recordset(std::span<const Column> columns);
     Recordset(const Recordset&) = delete;
     Recordset& operator=(const Recordset&) = delete;
+
+    /// A second table with the same rows, filter, sort, visible rows and current row.
+    std::shared_ptr<Recordset> copy() const;
 
     std::span<const Column> columns() const { return columnList; }
 

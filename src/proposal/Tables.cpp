@@ -53,6 +53,22 @@ Recordset& Tables::ensure(Member table) {
     return *(this->*table);
 }
 
+Tables::Reference Tables::copyOf(const Reference& table, Copies& copies) {
+    if (!table)
+        return nullptr;
+    Reference& copy = copies[table.get()];
+    if (!copy)
+        copy = table->copy();
+    return copy;
+}
+
+void Tables::copyFrom(const Tables& original, Copies& copies) {
+    for (const TableDefinition& definition : tableDefinitions())
+        this->*definition.table = copyOf(original.*definition.table, copies);
+    for (const NamedTable& report : reportTables)
+        this->*report.table = copyOf(original.*report.table, copies);
+}
+
 std::vector<Tables::Named> Tables::byName() const {
     std::vector<Named> named;
     named.reserve(tableDefinitions().size() + reportTables.size());

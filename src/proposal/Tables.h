@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -70,6 +71,13 @@ struct Tables {
 
     /// The table, created empty if it was dropped or never made.
     Recordset& ensure(Member table);
+
+    /// Copies of tables by their originals. Variables that share a table share its copy.
+    using Copies = std::map<const Recordset*, Reference>;
+    /// The copy of that table, made at the first call; null for null.
+    static Reference copyOf(const Reference& table, Copies& copies);
+    /// Every variable gets the copy of the table it has there.
+    void copyFrom(const Tables& original, Copies& copies);
 
     struct Named {
         std::string_view name;

@@ -76,6 +76,13 @@ ReportDesk& ReportDesk::of(const Proposal& proposal) {
     return *proposal.commands.reports;
 }
 
+void ReportDesk::copyFrom(const ReportDesk& original) {
+    sources = original.sources;
+    open.clear();
+    for (const std::unique_ptr<Preview>& preview : original.open)
+        open.push_back(std::make_unique<Preview>(*preview));
+}
+
 ReportDesk::Source& ReportDesk::touch(std::string_view report) {
     const ReportRow& row = findReport(report);
     const auto known = std::ranges::find(sources, &row, &Source::report);

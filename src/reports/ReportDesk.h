@@ -79,6 +79,8 @@ public:
     bool pressClose(std::string_view report);
     /// Closes the preview; a page of the Particulars takes the navigator with it.
     void close(std::string_view report);
+    /// Holds what the other desk holds, with its open previews, of which nobody hears.
+    void copyFrom(const ReportDesk& original);
     /// Closes every preview and forgets what the reports were given.
     void unloadAll();
 

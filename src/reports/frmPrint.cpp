@@ -79,11 +79,11 @@ frmPrint::frmPrint(Proposal& proposal) : Form(proposal.screen, formName, "Print 
             document.setValue(SelectAllDoc.value());
     };
     cmdNavPrev.click = [this] { cmdNavPrev_Click(); };
-    cmdCancel.click = [this] { this->proposal.forms.unload(formName); };
+    cmdCancel.click = [this] { this->proposal->forms.unload(formName); };
 }
 
 void frmPrint::load() {
-    setFormColors(*this, proposal);
+    setFormColors(*this, *proposal);
     SelectAllDoc.setValue(1);
 }
 
@@ -129,12 +129,12 @@ std::optional<std::filesystem::path> frmPrint::askForFolder() {
 }
 
 void frmPrint::print(const PrintedDocument& document, const std::optional<std::filesystem::path>& folder) {
-    const DirectPrint direct(proposal.isDirectPrint);
-    if (!proposal.commands.feed(document.report))
+    const DirectPrint direct(proposal->isDirectPrint);
+    if (!proposal->commands.feed(document.report))
         return;  // it told why
     if (&document == &documents[payment])
-        proposal.noReportReturn = true;
-    ReportDesk& desk = ReportDesk::of(proposal);
+        proposal->noReportReturn = true;
+    ReportDesk& desk = ReportDesk::of(*proposal);
     for (const std::string_view report : reportsOf(document)) {
         if (folder)
             desk.writePdf(report, *folder);
@@ -143,7 +143,7 @@ void frmPrint::print(const PrintedDocument& document, const std::optional<std::f
     }
     for (const std::string_view form : document.forms)
         if (!form.empty())
-            proposal.forms.touch(form)->hide();
+            proposal->forms.touch(form)->hide();
 }
 
 }  // namespace plandesk

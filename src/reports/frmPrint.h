@@ -1,6 +1,5 @@
 #pragma once
 
-#include <deque>
 #include <filesystem>
 #include <optional>
 #include <string_view>
@@ -26,7 +25,7 @@ public:
     void cmdNavPrev_Click();
 
     CheckBox SelectAllDoc{*this, "SelectAllDoc", "All Documents"};
-    std::deque<CheckBox> PrintDoc;
+    Series<CheckBox> PrintDoc;
     Button cmdNavPrev{*this, "cmdNavPrev", "&Print"};
     Button cmdCancel{*this, "cmdCancel", "Cancel"};
 
@@ -35,7 +34,7 @@ private:
     std::optional<std::filesystem::path> askForFolder();
     void print(const PrintedDocument& document, const std::optional<std::filesystem::path>& folder);
 
-    Proposal& proposal;
+    Fixed<Proposal&> proposal;
 };
 
 }  // namespace plandesk

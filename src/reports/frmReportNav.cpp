@@ -45,7 +45,7 @@ frmReportNav::frmReportNav(Proposal& proposal)
 }
 
 void frmReportNav::load() {
-    setFormColors(*this, proposal);
+    setFormColors(*this, *proposal);
 }
 
 const Layout& frmReportNav::layout() const {
@@ -59,16 +59,16 @@ void frmReportNav::paintButtons() {
 
 void frmReportNav::cmdFormNo_Click(int page) {
     const auto place = static_cast<std::size_t>(page);
-    ReportDesk& desk = ReportDesk::of(proposal);
+    ReportDesk& desk = ReportDesk::of(*proposal);
     paintButtons();
-    bindParticularsPages(proposal, desk);
+    bindParticularsPages(*proposal, desk);
     cmdFormNo.at(place).setBackColor(white);
     desk.show(particularsPages.at(place));
 }
 
 void frmReportNav::Form_Activate() {
-    ReportDesk& desk = ReportDesk::of(proposal);
-    bindParticularsPages(proposal, desk);
+    ReportDesk& desk = ReportDesk::of(*proposal);
+    bindParticularsPages(*proposal, desk);
     desk.show(particularsPages.front());
 }
 

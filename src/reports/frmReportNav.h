@@ -36,7 +36,7 @@ public:
 private:
     void paintButtons();
 
-    Proposal& proposal;
+    Fixed<Proposal&> proposal;
 };
 
 /// Shows the navigator with the first page.

@@ -1,5 +1,6 @@
 #include "shell/FormCatalogue.h"
 
+#include <algorithm>
 #include <array>
 
 #include "drc/frmDRCTransfer.h"
@@ -70,6 +71,9 @@ constexpr std::array catalogue = std::to_array<FormRow>({
     formRow<frmHelp>(kept),
     formRow<frmAbout>(kept),
 });
+
+// A form with a member that cannot be assigned could not be copied with its proposal: see controls/Fixed.h.
+static_assert(std::ranges::all_of(catalogue, [](const FormRow& row) { return !row.make || row.assign; }));
 
 }  // namespace
 

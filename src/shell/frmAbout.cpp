@@ -33,7 +33,7 @@ const Layout& frmAbout::layout() const {
 }
 
 void frmAbout::load() {
-    setFormColors(*this, proposal);
+    setFormColors(*this, *proposal);
     showTitle(screen().ports.program.title());
     showVersion(screen().ports.program.version());
     readVersionFile();
@@ -74,7 +74,7 @@ void frmAbout::StartSysInfo() {
 }
 
 void frmAbout::close() {
-    proposal.forms.unload(formName);
+    proposal->forms.unload(formName);
 }
 
 }  // namespace plandesk

@@ -34,7 +34,7 @@ private:
     /// Unloads the form, so that the next opening reads the file again.
     void close();
 
-    Proposal& proposal;
+    Fixed<Proposal&> proposal;
 };
 
 }  // namespace plandesk

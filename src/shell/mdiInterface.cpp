@@ -100,6 +100,15 @@ void mdiInterface::loadRoutine() {
     refreshMenus();
 }
 
+void mdiInterface::copyFrom(const mdiInterface& original) {
+    proposal.copyFrom(original.proposal);
+    reader.copyFrom(original.reader);
+    desk->copyFrom(*original.desk);
+    back = original.back;
+    timer2Running = original.timer2Running;
+    closed = original.closed;
+}
+
 bool mdiInterface::available(std::string_view name) const {
     const MenuEntry* entry = findMenuEntry(name);
     return entry && !proposal.screen.modalForm() && !closed.contains(std::string(name)) &&

@@ -27,6 +27,17 @@ public:
     explicit mdiInterface(Proposal& proposal);
     ~mdiInterface();
 
+    /// The proposal that this window shows.
+    const Proposal& opened() const { return proposal; }
+
+    /// Makes this window and its proposal the same as another with its own: what can be pressed, what was read last,
+    /// the reports that are open, and the proposal as `Proposal::copyFrom` tells.
+    void copyFrom(const mdiInterface& original);
+
+    /// Opens a file's bytes as Open does after its dialog, under that path. False when they are no document; the
+    /// proposal counts as open then too.
+    bool openBytes(std::string_view bytes, const std::string& path);
+
     /// Whether the entry, and the submenu it stands in, can be pressed. False for a name that is no entry, and for all
     /// while a modal form is open.
     bool available(std::string_view name) const;
@@ -69,6 +80,9 @@ private:
     bool requireParticulars();
     /// The steps of opening a file, from the unload to the first page; a cancelled dialog leaves the forms unloaded.
     void openFile();
+    /// The document that is loaded becomes the proposal.
+    void readDocument(const std::string& path);
+    void renewTables();
     void readBlock(const DocumentBlock& block);
     void fillCommands();
     void openForm(std::string_view name);

@@ -68,10 +68,28 @@ void mdiInterface::openFile() {
         proposal.screen.ports.dialogs.openFile({"Select Proposals Path", "xml", "xml File(s) (*.xml)", "*.xml"});
     if (const std::string_view name = trim(path); name.empty() || equalsIgnoringCase(name, "*.xml"))
         return;
+    renewTables();
+    reader.LoadDocument(path);
+    readDocument(path);
+}
+
+bool mdiInterface::openBytes(std::string_view bytes, const std::string& path) {
+    proposal.isProposalOpen = true;
+    proposal.isNewProposal = false;
+    uloadAllForms();
+    renewTables();
+    const bool loaded = reader.LoadBytes(bytes);
+    readDocument(path);
+    return loaded;
+}
+
+void mdiInterface::renewTables() {
     proposal.tables.createAllTables();
     proposal.tables.create(&Tables::rsOwnership712);
     proposal.tables.create(&Tables::rsOwnership);
-    reader.LoadDocument(path);
+}
+
+void mdiInterface::readDocument(const std::string& path) {
     reader.readSections();
     for (const DocumentBlock& block : documentBlocks())
         if (block.read)

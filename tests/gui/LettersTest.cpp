@@ -40,7 +40,7 @@ private slots:
         auto& box = session.widget<QLineEdit>(page);
         QVERIFY(!box.isVisible());
         QVERIFY(!session.widget(form.lblPageNumber).isVisible());
-        session.widget<QRadioButton>(form.blanks.answer->yes).click();
+        session.widget<QRadioButton>(form.blanks.answer.front().yes).click();
         session.settle();
         QVERIFY(box.isVisible());
         QVERIFY(session.widget(form.lblPageNumber).isVisible());
@@ -49,7 +49,7 @@ private slots:
         session.settle();
         QTest::keyClicks(&box, "1#4");
         QCOMPARE(page.text(), std::string("14"));
-        session.widget<QRadioButton>(form.blanks.answer->no).click();
+        session.widget<QRadioButton>(form.blanks.answer.front().no).click();
         session.settle();
         QVERIFY(!box.isVisible());
         QCOMPARE(page.text(), std::string());

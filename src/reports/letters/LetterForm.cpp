@@ -16,8 +16,8 @@ LetterBlanks::LetterBlanks(Form& form, const Layout& sheet, std::string_view ans
         if (bracket < key.size())
             std::from_chars(key.data() + bracket + 1, key.data() + key.size(), index);
         if (name == answerName) {
-            if (!answer)
-                answer.emplace(form, name);
+            if (answer.empty())
+                answer.emplace_back(form, name);
         } else if (name.starts_with("DTPicker")) {
             dates.emplace_back(form, name, index);
         } else {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <deque>
-#include <optional>
 #include <string_view>
 
 #include "controls/Controls.h"
@@ -14,9 +12,9 @@ namespace plandesk {
 struct LetterBlanks {
     LetterBlanks(Form& form, const Layout& sheet, std::string_view answer);
 
-    std::deque<TextBox> boxes;
-    std::deque<DatePicker> dates;
-    std::optional<YesNo> answer;
+    Series<TextBox> boxes;
+    Series<DatePicker> dates;
+    Series<YesNo> answer;  ///< one, or none
 };
 
 /// A statutory letter: fixed wording with blanks. Nothing of it is saved with the proposal; the blanks keep what is
@@ -24,7 +22,7 @@ struct LetterBlanks {
 class LetterForm : public DataForm {
 public:
     void load() override;
-    const Layout& layout() const override { return letter; }
+    const Layout& layout() const override { return *letter; }
 
 protected:
     /// `sheet` outlives the form. `answer`: name of the letter's yes/no question, or empty.
@@ -32,7 +30,7 @@ protected:
                const Layout& sheet, std::string_view answer = {});
 
 private:
-    const Layout& letter;
+    Fixed<const Layout&> letter;
 
 public:
     LetterBlanks blanks;

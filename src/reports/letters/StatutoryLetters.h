@@ -26,7 +26,7 @@ public:
 private:
     /// The page is asked for once the plot was surrendered.
     void possessionreciept_Click();
-    TextBox& pageNumber;
+    Fixed<TextBox&> pageNumber;
 };
 
 /// Appendix G: the plinth stands.

@@ -46,16 +46,16 @@ frmnoticeofcommencementofwork::frmnoticeofcommencementofwork(Proposal& proposal)
     : LetterForm(proposal, formName, head, "rptNoticeforcommencementofwork", sheet, "possessionreciept"),
       pageNumber(at<TextBox>("txtNoticeForCommencment(15)")) {
     lblPageNumber.setVisible(false);
-    pageNumber.setVisible(false);
-    blanks.answer->onClick([this] { possessionreciept_Click(); });
+    pageNumber->setVisible(false);
+    blanks.answer.front().onClick([this] { possessionreciept_Click(); });
 }
 
 void frmnoticeofcommencementofwork::possessionreciept_Click() {
-    const bool surrendered = blanks.answer->yes.value();
+    const bool surrendered = blanks.answer.front().yes.value();
     lblPageNumber.setVisible(surrendered);
-    pageNumber.setVisible(surrendered);
+    pageNumber->setVisible(surrendered);
     if (!surrendered)
-        pageNumber.setText("");
+        pageNumber->setText("");
 }
 
 }  // namespace plandesk
