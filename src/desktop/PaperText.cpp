@@ -94,7 +94,7 @@ void insertItems(QTextCursor& cursor, const PaperCell& items, const TextLook& lo
         const QChar space = isEmptyField(item) ? QChar::Nbsp : QChar::Space;
         if (begun && item.onNewLine)
             cursor.insertText(QString(QChar::LineSeparator), plain);
-        else if (begun && !closesUp(text))
+        else if (begun && (item.isField() || !closesUp(text)))
             cursor.insertText(QString(space), plain);
         begun = true;
         QTextCharFormat format = plain;

@@ -7,6 +7,7 @@
 #include "desktop/ChildWindow.h"
 #include "desktop/ScreenView.h"
 #include "proposal/Proposal.h"
+#include "reports/ReportCatalogue.h"
 
 namespace plandesk::desktop {
 
@@ -25,22 +26,27 @@ PreviewWindow* PreviewWindows::windowOf(std::string_view report) const {
 }
 
 void PreviewWindows::sync() {
+    if (changed.empty())
+        return;
     for (const std::string& name : std::exchange(changed, {})) {
         const Preview* preview = room.reports.find(name);
         if (!preview)
             continue;
         if (!windowOf(name)) {
             open.push_back(new PreviewWindow(*preview, room));
+            open.back()->colourBar(false);
             open.back()->show();
         }
         windowOf(name)->showPreview(*preview);
     }
+    room.screen.windowsChanged();
     PreviewWindow* shown = windowOf(std::exchange(front, {}));
     if (!shown)
         return;
     shown->raise();
     // The navigator stays above the pages that it turns, and keeps the keyboard.
-    const Form* navigator = room.proposal.forms.loaded("frmReportNav");
+    const bool isPage = std::ranges::find(particularsPages, shown->report()) != particularsPages.end();
+    const Form* navigator = isPage ? room.proposal.forms.loaded("frmReportNav") : nullptr;
     if (ChildWindow* above = navigator && navigator->visible() ? room.screen.windowOf(*navigator) : nullptr)
         above->raise();
     else
@@ -55,12 +61,12 @@ void PreviewWindows::fit() {
 void PreviewWindows::reportShown(const Preview& preview) {
     changed.emplace(preview.name);
     front = preview.name;
-    room.screen.later();
+    room.screen.windowsChanged();
 }
 
 void PreviewWindows::reportChanged(const Preview& preview) {
     changed.emplace(preview.name);
-    room.screen.later();
+    room.screen.windowsChanged();
 }
 
 void PreviewWindows::reportClosed(std::string_view name) {
@@ -72,7 +78,7 @@ void PreviewWindows::reportClosed(std::string_view name) {
         room.screen.setGuest(nullptr);
     gone->hide();
     gone->deleteLater();
-    room.screen.later();
+    room.screen.windowsChanged();
 }
 
 }  // namespace plandesk::desktop

@@ -79,6 +79,11 @@ void ScreenView::refresh() {
     tellFailures();
 }
 
+void ScreenView::windowsChanged() {
+    mainChanged = true;
+    later();
+}
+
 void ScreenView::showForms() {
     if (changedForms.empty())
         return;

@@ -67,8 +67,8 @@ public:
     /// forms have both again.
     void setGuest(ChildFrame* window);
     ChildFrame* guest() const { return guestWindow; }
-    /// Shows what changed when the running act has ended.
-    void later();
+    /// Another window of the desk opened, closed or has another name; it is told when the running act has ended.
+    void windowsChanged();
 
     /// View of the form; null when it is not drawn yet.
     FormView* viewOf(const Form& form) const;
@@ -86,6 +86,7 @@ private:
     void focusChanged(Control* focused) override;
     void mainWindowChanged() override;
 
+    void later();
     void showForms();
     void colourBars();
     void showForm(Form& form);

@@ -241,10 +241,10 @@ private slots:
                            {.field = "a", .value = "7"},
                            {.text = " of the year"},
                            {.text = ", dated"},
-                           {.field = "b", .value = "today"},
+                           {.field = "b", .value = "..today"},
                            {.text = ". It is done"}}}}}}};
         QCOMPARE(sheetsOf(pdfOf(paper), "-raw").join("").trimmed(),
-                 QString("No. 7 of the year, dated today. It is done"));
+                 QString("No. 7 of the year, dated ..today. It is done"));
     }
 
     void charactersThatATextDocumentTakesForItsOwnDoNoHarm() {

@@ -334,9 +334,21 @@ private slots:
         session.settle();
         QVERIFY(fifth->isAncestorOf(QApplication::focusWidget()));
         QVERIFY(above->isVisible());
+        QStringList names;
+        for (int tab = 0; tab < session.row().count(); ++tab)
+            names << session.row().tabText(tab);
+        QVERIFY2(names.contains(fifth->caption()), qPrintable(names.join(", ")));
         session.press(nullptr, Qt::Key_Escape);
         QVERIFY(!session.find("rptAnnexutreA4"));
         QVERIFY(!session.proposal.forms.loaded("frmReportNav"));
+    }
+
+    void aReportThatIsNoPageStandsBeforeTheNavigator() {
+        PreviewSession session;
+        session.window.forms().act(Qt::OtherFocusReason, [&] { session.proposal.commands.print("rptAnnexutreA"); });
+        PreviewWindow& letter = session.show("rptReciept");
+        QCOMPARE(session.window.forms().guest(), &letter);
+        QVERIFY(letter.isAncestorOf(QApplication::focusWidget()));
     }
 
     void allAreClosedWithTheReports() {
