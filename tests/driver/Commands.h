@@ -25,6 +25,7 @@ std::span<const Command> userCommands();     ///< what the user does
 std::span<const Command> machineCommands();  ///< what the machine does
 std::span<const Command> lookCommands();     ///< what is looked at
 std::span<const Command> reportCommands();   ///< what is looked at of the reports
+std::span<const Command> reviewCommands();   ///< what the review finds
 
 /// Tells of a failure when the two differ; of long texts, what stands around the first difference.
 void compare(Session& session, const std::string& what, std::string_view expected, std::string_view found);

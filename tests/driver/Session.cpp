@@ -15,7 +15,8 @@ constexpr int deepestInclude = 16;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 const Command& findCommand(const std::string& name) {
-    for (const std::span<const Command> table : {userCommands(), machineCommands(), lookCommands(), reportCommands()})
+    for (const std::span<const Command> table :
+         {userCommands(), machineCommands(), lookCommands(), reportCommands(), reviewCommands()})
         if (const auto found = std::ranges::find(table, name, &Command::name); found != table.end())
             return *found;
     throw ScriptError("unknown command " + quote(name));

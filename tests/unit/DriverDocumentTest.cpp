@@ -16,7 +16,8 @@ namespace {
 /// Each command with the words it takes.
 std::set<std::string> ofTheDriver() {
     std::set<std::string> commands;
-    for (const std::span<const Command> table : {userCommands(), machineCommands(), lookCommands(), reportCommands()})
+    for (const std::span<const Command> table :
+         {userCommands(), machineCommands(), lookCommands(), reportCommands(), reviewCommands()})
         for (const Command& command : table)
             commands.insert(std::string(command.name) + (command.takes.empty() ? "" : " ") +
                             std::string(command.takes));

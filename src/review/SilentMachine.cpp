@@ -1,0 +1,7 @@
+#include "review/SilentMachine.h"
+
+namespace plandesk {
+
+SilentMachine::SilentMachine(const Ports& real) : real(real) {}
+
+}  // namespace plandesk
