@@ -15,6 +15,7 @@
 #include "desktop/Application.h"
 #include "desktop/ChildWindow.h"
 #include "desktop/LongText.h"
+#include "desktop/PreviewWindow.h"
 #include "desktop/QtText.h"
 #include "shell/mdiInterface.h"
 
@@ -157,6 +158,14 @@ void MainWindow::makeShortcuts() {
     on(Qt::CTRL | Qt::Key_PageUp, [onFront] { onFront([](ChildFrame& window) { window.turnPage(false); }); });
     on(Qt::CTRL | Qt::Key_Tab, [this] { openForms->step(false); });
     on(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { openForms->step(true); });
+    // Prints the report in front; without one, a choice of all that can be printed.
+    on(QKeySequence::Print, [this] {
+        if (auto* preview = dynamic_cast<PreviewWindow*>(screenView.guest()))
+            preview->print();
+        else if (!proposal.screen.modalForm())
+            screenView.act(Qt::ShortcutFocusReason,
+                           [this] { proposal.screen.event([this] { proposal.commands.open("frmPrint"); }); });
+    });
     // The keys that windows within a window have always had.
     on(Qt::CTRL | Qt::Key_F8, [onFront] { onFront([](ChildFrame& window) { window.beginSizing(); }); });
     on(Qt::CTRL | Qt::Key_F10, [onFront] { onFront([](ChildFrame& window) { window.toggleMaximised(); }); });

@@ -53,7 +53,11 @@ QWidget* PreviewWindow::makeBar(QWidget& parent) {
     auto* bar = new QWidget(&parent);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(6, 3, 6, 3);
-    row->addWidget(button(*bar, "printButton", tr("Print..."), tr("Print"), QKeySequence::Print, [this] { print(); }));
+    row->addWidget(button(
+        *bar, "printButton", tr("Print..."), tr("Print"), QKeySequence::Print, [this] { print(); }, true));
+    row->addWidget(button(*bar, "severalButton", tr("Several..."), tr("Choose documents and print them all"),
+                          Qt::CTRL | Qt::SHIFT | Qt::Key_L,
+                          [this] { act([this] { room.proposal.commands.open("frmPrint"); }); }));
     row->addWidget(button(*bar, "saveButton", tr("Save as PDF..."), tr("Save as PDF"), Qt::CTRL | Qt::SHIFT | Qt::Key_P,
                           [this] { saveAsPdf(); }));
     row->addWidget(button(*bar, "closeAllButton", tr("Close all"), tr("Close all reports"),

@@ -50,6 +50,8 @@ public:
     void turnPage(bool forwards) override;
     PreviewPage& page() const { return *view; }
     bool inReach() const override;
+    /// Prints with the usual dialog.
+    void print();
 
 protected:
     QSize naturalSize(QSize room) const override;
@@ -64,7 +66,6 @@ private:
                         const QKeySequence& keys, const std::function<void()>& pressed, bool known = false);
     void showState();
     void zoomBy(qreal factor);
-    void print();
     void saveAsPdf();
     /// Runs what may fail as an act of the user; a failure is told in a box.
     void act(const std::function<void()>& what);

@@ -222,6 +222,23 @@ private slots:
         QVERIFY(session.find("rptReciept"));
     }
 
+    void theListOfDocumentsIsOpenedByItsKeysAndFromAPreview() {
+        PreviewSession session;
+        const auto opened = [&] {
+            Form* list = session.proposal.forms.loaded("frmPrint");
+            const bool shown = list && list->front();
+            session.proposal.forms.unload("frmPrint");
+            session.settle();
+            return shown;
+        };
+        QVERIFY(!opened());
+        session.press(&session.window, Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(opened());
+        PreviewWindow& preview = session.show("rptReciept");
+        session.click(preview, "severalButton");
+        QVERIFY(opened());
+    }
+
     void whatIsFedAgainIsShownInItsPlace() {
         PreviewSession session;
         session.particulars().txtApplicantNm.setText("First");
