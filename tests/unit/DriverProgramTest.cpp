@@ -1,31 +1,20 @@
-#include <array>
-#include <cstdio>
 #include <ctime>
 #include <filesystem>
 #include <utility>
 
 #include "unit/DriverFixture.h"
+#include "unit/ProgramRun.h"
 
 namespace plandesk::driver::test {
 namespace {
 
 // The program itself.
 
-/// Exit status and what it printed, errors included.
-std::pair<int, std::string> runProgram(const std::string& arguments) {
-    const std::string program = (programFolder / "plandesk-driver").string();
-    FILE* pipe = popen(("'" + program + "' " + arguments + " 2>&1").c_str(), "r");
-    if (!pipe)
-        return {-1, "not started"};
-    std::string output;
-    std::array<char, 4096> block;
-    for (std::size_t count = 0; (count = fread(block.data(), 1, block.size(), pipe)) > 0;)
-        output.append(block.data(), count);
-    const int status = pclose(pipe);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, output};
-}
+using plandesk::test::Result;
 
-using Result = std::pair<int, std::string>;
+Result runProgram(const std::string& arguments) {
+    return plandesk::test::runProgram(programFolder / "plandesk-driver", arguments);
+}
 
 TEST_F(DriverInAFolder, TheProgramRunsAScriptFileOrStandardInput) {
     folder.write("held.txt", "expect-flag feeArea 0\nprint-flag feeArea\n");

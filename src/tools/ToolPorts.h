@@ -1,12 +1,14 @@
 #pragma once
 
-#include <QDate>
+#include <chrono>
+#include <ctime>
 #include <filesystem>
 #include <iostream>
 #include <string>
 #include <utility>
 
 #include "controls/Ports.h"
+#include "document/XmlDocument.h"
 
 // The machine as a program sees it that opens one file and asks nobody.
 
@@ -29,10 +31,23 @@ private:
 class MachineClock : public Clock {
 public:
     Date today() const override {
-        const QDate today = QDate::currentDate();
-        return {today.year(), today.month(), today.day()};
+        const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+        std::tm local = {};
+        localtime_r(&now, &local);
+        return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
     }
 };
+
+/// What keeps the file from being read as a proposal, in one line; empty when nothing does.
+inline std::string fileFault(const std::filesystem::path& file) {
+    XmlDocument document;
+    if (!document.load(file))
+        return file.string() + ": cannot be read, or is no well-formed XML file";
+    // The first element of every proposal document.
+    if (document.name(document.root()) != "INWARDINFO")
+        return file.string() + ": is no proposal document";
+    return "";
+}
 
 class OwnFolder : public Program {
 public:

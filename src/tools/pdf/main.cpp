@@ -14,13 +14,12 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/FileStore.h"
-#include "document/XmlDocument.h"
 #include "proposal/Proposal.h"
 #include "reports/ReportCatalogue.h"
 #include "reports/ReportDesk.h"
 #include "shell/mdiInterface.h"
-#include "tools/PdfPorts.h"
-#include "tools/PdfWork.h"
+#include "tools/ToolPorts.h"
+#include "tools/pdf/PdfWork.h"
 
 namespace {
 
@@ -60,17 +59,6 @@ Options parse(const std::vector<std::string>& arguments) {
     else
         std::tie(options.file, options.folder) = std::pair(places[0], places[1]);
     return options;
-}
-
-/// What keeps the file from being read as a proposal; empty when nothing does.
-std::string fileFault(const fs::path& file) {
-    XmlDocument document;
-    if (!document.load(file))
-        return file.string() + ": cannot be read, or is no well-formed XML file";
-    // The first element of every proposal document.
-    if (document.name(document.root()) != "INWARDINFO")
-        return file.string() + ": is no proposal document";
-    return "";
 }
 
 int writeReports(const Options& options) {
@@ -118,7 +106,7 @@ int main(int count, char** values) {
     try {
         Options options = parse({values + 1, values + count});
         if (options.fault.empty())
-            options.fault = fileFault(options.file);
+            options.fault = tools::fileFault(options.file);
         std::error_code error;
         if (options.fault.empty() && !fs::is_directory(options.folder, error))
             options.fault = options.folder.string() + ": there is no such folder";
