@@ -291,15 +291,6 @@ std::string formatAmount(double value) {
     return number.negative && !isZero ? "-" + units : units;
 }
 
-std::string groupedAmount(double value) {
-    constexpr std::size_t group = 3;
-    std::string text = formatAmount(value);
-    const std::size_t first = text.starts_with('-') ? 1 : 0;
-    for (std::size_t end = text.find('.'); end > first + group; end -= group)
-        text.insert(end - group, ",");
-    return text;
-}
-
 std::string formatAmount(std::string_view text) {
     const std::optional<double> value = numberOf(text);
     return value ? formatAmount(*value) : std::string(text);

@@ -34,9 +34,6 @@ std::string numberText(double value);
 /// RuntimeError 6 for a value that is not finite.
 std::string formatAmount(double value);
 
-/// As formatAmount, with a comma between the thousands of the whole part.
-std::string groupedAmount(double value);
-
 /// A text that is a number is given in the form of formatAmount; any other text, the empty one and a number beyond the
 /// range of a double too, is given back as it is.
 std::string formatAmount(std::string_view text);

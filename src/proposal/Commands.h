@@ -26,7 +26,7 @@ struct Commands {
     std::function<void(Fragment)> buildBlock = [](Fragment) {};
     /// Reads that block again from the document last opened.
     std::function<void(Fragment)> readBlock = [](Fragment) {};
-    /// Opens the form of that name as the catalogue of forms tells; one that does not exist yet is told in a box.
+    /// Opens the form of that name as the catalogue of forms tells. RuntimeError 3265 when there is none.
     std::function<void(std::string_view name)> open = [](std::string_view) {};
     /// Runs the procedure that feeds the report of that name from the live forms. False when it told of a failure
     /// itself. RuntimeError 3265 for an unknown report.

@@ -12,8 +12,7 @@ void Forms::declare(std::span<const FormRow> all) {
 }
 
 void Forms::add(const FormRow& row) {
-    if (row.make)
-        rows[std::string(row.name)] = row;
+    rows[std::string(row.name)] = row;
 }
 
 Form* Forms::touch(std::string_view name) {

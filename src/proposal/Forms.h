@@ -17,9 +17,9 @@ class Proposal;
 /// One form of the system, a row of the catalogue of forms.
 struct FormRow {
     std::string_view name;
-    std::unique_ptr<Form> (*make)(Proposal& proposal) = nullptr;  ///< null: the form is still to come
-    bool droppedByNew = false;                                    ///< New and Open unload it
-    void (*open)(Proposal& proposal) = nullptr;                   ///< how it is opened; null: touched and shown
+    std::unique_ptr<Form> (*make)(Proposal& proposal) = nullptr;
+    bool droppedByNew = false;                   ///< New and Open unload it
+    void (*open)(Proposal& proposal) = nullptr;  ///< how it is opened; null: touched and shown
     /// Assigns one form of the class to another. Null: the class cannot be assigned.
     void (*assign)(Form& copy, const Form& original) = nullptr;
 };
@@ -32,7 +32,7 @@ constexpr decltype(FormRow::assign) assignment() {
         return nullptr;
 }
 
-/// The row of a form whose class stands.
+/// The row of a form, from its class.
 template <class T>
 constexpr FormRow formRow(bool droppedByNew, void (*open)(Proposal& proposal) = nullptr) {
     return {T::formName, [](Proposal& owner) -> std::unique_ptr<Form> { return std::make_unique<T>(owner); },
@@ -89,7 +89,7 @@ private:
 
     Proposal& proposal;
     std::span<const FormRow> catalogue;
-    std::map<std::string, FormRow, IgnoringCase> rows;  ///< of the forms that can be made
+    std::map<std::string, FormRow, IgnoringCase> rows;
     std::map<std::string, std::unique_ptr<Form>, IgnoringCase> live;
 };
 

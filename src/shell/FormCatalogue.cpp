@@ -73,7 +73,7 @@ constexpr std::array catalogue = std::to_array<FormRow>({
 });
 
 // A form with a member that cannot be assigned could not be copied with its proposal: see controls/Fixed.h.
-static_assert(std::ranges::all_of(catalogue, [](const FormRow& row) { return !row.make || row.assign; }));
+static_assert(std::ranges::all_of(catalogue, [](const FormRow& row) { return row.make && row.assign; }));
 
 }  // namespace
 

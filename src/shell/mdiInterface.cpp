@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Controls.h"
 #include "document/DocumentBlocks.h"
@@ -112,7 +113,6 @@ void mdiInterface::copyFrom(const mdiInterface& original) {
 bool mdiInterface::available(std::string_view name) const {
     const MenuEntry* entry = findMenuEntry(name);
     return entry && !proposal.screen.modalForm() && !closed.contains(std::string(name)) &&
-           (entry->form.empty() || proposal.forms.known(entry->form)) &&
            (entry->parent.empty() || available(entry->parent));
 }
 
@@ -212,11 +212,7 @@ void mdiInterface::closeReports() {
 
 void mdiInterface::openForm(std::string_view name) {
     if (!proposal.forms.open(name))
-        tellNotThereYet();
-}
-
-void mdiInterface::tellNotThereYet() {
-    proposal.screen.message("This form is not there yet.", "");
+        throw RuntimeError(ErrorNumber::ItemNotFound, "There is no form " + std::string(name));
 }
 
 void mdiInterface::setAvailable(std::string_view entry, bool on) {

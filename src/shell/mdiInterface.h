@@ -86,7 +86,6 @@ private:
     void readBlock(const DocumentBlock& block);
     void fillCommands();
     void openForm(std::string_view name);
-    void tellNotThereYet();
     void setAvailable(std::string_view entry, bool on);
 
     Proposal& proposal;

@@ -136,7 +136,7 @@ void frmUS84::loadUS84Order() {
     }
     rowsOfExtract(proposal, &Tables::rsUS84Plots, extract);
     // The form's total takes over from the stored one, through its change of caption, unless it stands there already.
-    lblTotalArea.setCaption(groupedAmount(totalArea()));
+    lblTotalArea.setCaption(formatGrouped(totalArea()));
     dgdTableAB.refresh();
 }
 

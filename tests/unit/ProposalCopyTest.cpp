@@ -59,8 +59,7 @@ TEST(ProposalCopy, HoldsWhatTheOriginalHoldsAndLeavesItAlone) {
     original.fillFirstPage();
     original.relatePlots();
     for (const FormRow& row : formCatalogue())
-        if (row.make)
-            original.proposal.forms.touch(row.name);
+        original.proposal.forms.touch(row.name);
     const std::string before = stateOfAll(original);
     FormEvents copy;
     copyTo(copy, original);
