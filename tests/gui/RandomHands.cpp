@@ -83,6 +83,13 @@ std::string RandomDialogs::saveFile(const FileDialog& dialog) {
     return QtDialogs::saveFile(dialog);
 }
 
+std::string RandomDialogs::chooseFolder(const std::string& title) {
+    if (!dice.oneIn(10))
+        return dice.oneIn(4) ? std::string() : folder.string();
+    answerSoon();
+    return QtDialogs::chooseFolder(title);
+}
+
 std::string RandomDialogs::path(const FileDialog& dialog) {
     return dice.oneIn(4) ? dialog.fileName : (folder / ("proposal-" + std::to_string(dice.below(4)) + ".xml")).string();
 }

@@ -43,6 +43,7 @@ public:
     bool askYesNo(const Message& question) override;
     std::string openFile(const FileDialog& dialog) override;
     std::string saveFile(const FileDialog& dialog) override;
+    std::string chooseFolder(const std::string& title) override;
 
     /// Every box since the last call.
     std::vector<Message> take() { return std::exchange(messages, {}); }
