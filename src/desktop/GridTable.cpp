@@ -7,6 +7,7 @@
 #include <array>
 #include <numeric>
 
+#include "base/Counted.h"
 #include "desktop/CellPainter.h"
 #include "desktop/QtText.h"
 
@@ -162,6 +163,10 @@ GridTable::Fit GridTable::fitFor(int width) const {
 }
 
 void GridTable::fitColumns() {
+    constexpr int deepest = 3;  // by then nothing moves any more, or goes to and fro
+    if (fitting == deepest)
+        return;
+    const Counted running(fitting);
     const Fit fit = fitFor(viewport()->width());
     // Widths that the user has drawn since stay until the columns need others.
     if (fit.widths != fitted) {
@@ -172,8 +177,12 @@ void GridTable::fitColumns() {
         }
         fitted = fit.widths;
     }
-    if (horizontalHeader()->minimumHeight() != fit.headHeight) {
-        horizontalHeader()->setFixedHeight(fit.headHeight);
+    // A higher head can bring a scroll bar, which narrows the columns and makes the head higher still, and a lower one
+    // can take it away: within one fitting the head only grows.
+    const int present = horizontalHeader()->minimumHeight();
+    const int wanted = fitting > 1 ? std::max(fit.headHeight, present) : fit.headHeight;
+    if (wanted != present) {
+        horizontalHeader()->setFixedHeight(wanted);
         updateGeometries();
     }
 }

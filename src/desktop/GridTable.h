@@ -68,6 +68,7 @@ private:
 
     GridModel* grid = nullptr;
     std::vector<int> fitted;  ///< widths that the columns were given last
+    int fitting = 0;          ///< fittings of the columns under way, one in the other
 };
 
 }  // namespace plandesk::desktop

@@ -362,7 +362,8 @@ private slots:
             return event.isAccepted();
         };
         QVERIFY(turn());
-        QCOMPARE(stage.shown().verticalScrollBar()->value(), 2);
+        QVERIFY(stage.shown().verticalScrollBar()->maximum() > 0);
+        QCOMPARE(stage.shown().verticalScrollBar()->value(), stage.shown().verticalScrollBar()->maximum());
         QVERIFY(!turn());
     }
 
