@@ -1,12 +1,11 @@
 #pragma once
 
-#include <chrono>
-#include <ctime>
 #include <filesystem>
 #include <iostream>
 #include <string>
 #include <utility>
 
+#include "controls/MachineClock.h"
 #include "controls/Ports.h"
 #include "document/XmlDocument.h"
 
@@ -26,16 +25,6 @@ public:
 
 private:
     std::filesystem::path file;
-};
-
-class MachineClock : public Clock {
-public:
-    Date today() const override {
-        const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-        std::tm local = {};
-        localtime_r(&now, &local);
-        return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
-    }
 };
 
 /// What keeps the file from being read as a proposal, in one line; empty when nothing does.

@@ -1,9 +1,9 @@
 #include "driver/RecordingPorts.h"
 
 #include <array>
-#include <chrono>
-#include <ctime>
 #include <utility>
+
+#include "controls/MachineClock.h"
 
 namespace plandesk::driver {
 
@@ -52,12 +52,7 @@ void RecordingReports::reportPrinted(const Preview& preview) {
 }
 
 Date SetClock::today() const {
-    if (set)
-        return *set;
-    const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-    std::tm local = {};
-    localtime_r(&now, &local);
-    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday};
+    return set ? *set : MachineClock().today();
 }
 
 ScriptedProgram::ScriptedProgram(std::string folder) : ownFolder(std::move(folder)) {

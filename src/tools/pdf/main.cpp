@@ -63,7 +63,7 @@ Options parse(const std::vector<std::string>& arguments) {
 
 int writeReports(const Options& options) {
     tools::OpenDialogs dialogs(options.file);
-    tools::MachineClock clock;
+    MachineClock clock;
     tools::OwnFolder program;
     FileStore files;
     Proposal proposal({dialogs, clock, files, program});

@@ -64,7 +64,7 @@ struct Opened {
     explicit Opened(const std::string& file) : dialogs(file) { shell.press("mnuOpen"); }
 
     QuietDialogs dialogs;
-    tools::MachineClock clock;
+    MachineClock clock;
     tools::OwnFolder program;
     FileStore files;
     Proposal proposal{{dialogs, clock, files, program}};
