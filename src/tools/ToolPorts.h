@@ -5,9 +5,12 @@
 #include <string>
 #include <utility>
 
+#include "controls/FileStore.h"
 #include "controls/MachineClock.h"
 #include "controls/Ports.h"
 #include "document/XmlDocument.h"
+#include "particulars/frmAnnexureA.h"
+#include "shell/mdiInterface.h"
 
 // The machine as a program sees it that opens one file and asks nobody.
 
@@ -46,5 +49,28 @@ public:
     bool startSystemInformation() override { return false; }
     void end() override {}
 };
+
+/// Remembers what is said.
+class HeardDialogs : public OpenDialogs {
+public:
+    HeardDialogs() : OpenDialogs({}) {}
+    void showMessage(const Message& message) override {
+        heard = message.detail.empty() ? message.text : message.detail;
+    }
+    std::string heard;
+};
+
+/// What keeps the list of villages from being read, in one line; empty when nothing does. Without all of it a proposal
+/// would lose its village.
+inline std::string villagesFault() {
+    HeardDialogs dialogs;
+    MachineClock clock;
+    OwnFolder program;
+    FileStore files;
+    Proposal proposal({dialogs, clock, files, program});
+    const mdiInterface shell(proposal);
+    proposal.forms.get<frmAnnexureA>();
+    return dialogs.heard;
+}
 
 }  // namespace plandesk::tools

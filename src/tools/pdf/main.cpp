@@ -18,6 +18,7 @@
 #include "reports/ReportCatalogue.h"
 #include "reports/ReportDesk.h"
 #include "shell/mdiInterface.h"
+#include "tools/Streams.h"
 #include "tools/ToolPorts.h"
 #include "tools/pdf/PdfWork.h"
 
@@ -25,8 +26,7 @@ namespace {
 
 using namespace plandesk;
 namespace fs = std::filesystem;
-
-constexpr int cannot = 2;
+using tools::cannot;
 
 struct Options {
     fs::path file;
@@ -103,6 +103,7 @@ void onlyFailures(QtMsgType type, const QMessageLogContext& /*context*/, const Q
 }  // namespace
 
 int main(int count, char** values) {
+    tools::keepStreams();
     try {
         Options options = parse({values + 1, values + count});
         if (options.fault.empty())
@@ -110,6 +111,8 @@ int main(int count, char** values) {
         std::error_code error;
         if (options.fault.empty() && !fs::is_directory(options.folder, error))
             options.fault = options.folder.string() + ": there is no such folder";
+        if (options.fault.empty())
+            options.fault = tools::villagesFault();
         if (!options.fault.empty()) {
             std::cerr << options.fault << '\n';
             return cannot;
@@ -119,7 +122,7 @@ int main(int count, char** values) {
         int one = 1;  // the toolkit is to find no options of its own
         const QGuiApplication application(one, values);
         std::setlocale(LC_NUMERIC, "C");
-        return writeReports(options);
+        return tools::ended(writeReports(options));
     } catch (...) {
         std::cerr << failureText() << '\n';
     }

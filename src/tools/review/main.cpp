@@ -14,6 +14,7 @@
 #include "controls/FileStore.h"
 #include "review/CarriedAnswers.h"
 #include "review/Review.h"
+#include "tools/Streams.h"
 #include "tools/ToolPorts.h"
 
 namespace {
@@ -22,7 +23,6 @@ using namespace plandesk;
 using Json = nlohmann::ordered_json;
 
 constexpr int something = 1;
-constexpr int cannot = 2;
 
 struct Options {
     bool json = false;
@@ -49,6 +49,8 @@ Options parse(const std::vector<std::string>& arguments) {
     for (const std::string& file : options.files)
         if (options.fault.empty())
             options.fault = tools::fileFault(file);
+    if (options.fault.empty())
+        options.fault = tools::villagesFault();
     return options;
 }
 
@@ -144,13 +146,14 @@ int tellDifferences(const Options& options) {
 }  // namespace
 
 int main(int count, char** values) {
+    tools::keepStreams();
     try {
         const Options options = parse({values + 1, values + count});
         if (options.fault.empty())
-            return options.compare ? tellDifferences(options) : tellFindings(options);
+            return tools::ended(options.compare ? tellDifferences(options) : tellFindings(options));
         std::cerr << options.fault << '\n';
     } catch (...) {
         std::cerr << failureText() << '\n';
     }
-    return cannot;
+    return tools::cannot;
 }
