@@ -1,12 +1,14 @@
-// plandesk-startup RUNS FACTOR REFERENCE PROGRAM: starts the two programs in turn on the present display and tells how
-// long each takes from its start until its window is on the screen, painted, and answers. Fails when the median of
-// PROGRAM is more than FACTOR times that of REFERENCE.
+// plandesk-startup RUNS TIMES MEMORY REFERENCE PROGRAM: starts the two programs in turn on the present display and
+// tells how long each takes from its start until its window is on the screen, painted, and answers, and how much memory
+// of its own (anonymous pages) it then has. Fails when the median of PROGRAM is more than TIMES that of REFERENCE in
+// time, or more than MEMORY times it in memory.
 
 #include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <iomanip>
 #include <iostream>
 #include <memory>
@@ -105,7 +107,21 @@ private:
     xcb_atom_t pingAtom = 0;
 };
 
-double timeToUsableWindow(Display& display, const std::string& program) {
+struct Start {
+    double milliseconds = 0;
+    double megabytes = 0;
+};
+
+/// Memory that belongs to the process alone, and no file: what it has written to.
+double anonymousMegabytes(pid_t process) {
+    std::ifstream rollup("/proc/" + std::to_string(process) + "/smaps_rollup");
+    for (std::string line; std::getline(rollup, line);)
+        if (line.starts_with("Anonymous:"))
+            return std::atof(line.c_str() + std::strlen("Anonymous:")) / 1024;
+    throw std::runtime_error("the memory of the program cannot be read");
+}
+
+Start startToUsableWindow(Display& display, const std::string& program) {
     std::string name = program;
     char* arguments[] = {name.data(), nullptr};
     const auto start = Clock::now();
@@ -117,40 +133,49 @@ double timeToUsableWindow(Display& display, const std::string& program) {
     display.ping(window);
     display.ping(window);
     const Milliseconds taken = Clock::now() - start;
+    const double memory = anonymousMegabytes(process);
     kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
-    return taken.count();
+    return {taken.count(), memory};
 }
 
-double median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+double median(const std::vector<Start>& starts, double Start::*figure) {
+    std::vector<double> figures;
+    for (const Start& start : starts)
+        figures.push_back(start.*figure);
+    std::sort(figures.begin(), figures.end());
+    return figures[figures.size() / 2];
 }
 
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 5) {
-        std::cerr << "usage: plandesk-startup RUNS FACTOR REFERENCE PROGRAM\n";
+    if (argc != 6) {
+        std::cerr << "usage: plandesk-startup RUNS TIMES MEMORY REFERENCE PROGRAM\n";
         return 2;
     }
     try {
         const int runs = std::atoi(argv[1]);
-        const double allowed = std::atof(argv[2]);
-        std::vector<double> reference;
-        std::vector<double> program;
+        std::vector<Start> reference;
+        std::vector<Start> program;
         Display display;
-        timeToUsableWindow(display, argv[3]);  // the first of each only brings the files into memory
-        timeToUsableWindow(display, argv[4]);
+        startToUsableWindow(display, argv[4]);  // the first of each only brings the files into memory
+        startToUsableWindow(display, argv[5]);
         for (int run = 0; run < runs; ++run) {
-            reference.push_back(timeToUsableWindow(display, argv[3]));
-            program.push_back(timeToUsableWindow(display, argv[4]));
+            reference.push_back(startToUsableWindow(display, argv[4]));
+            program.push_back(startToUsableWindow(display, argv[5]));
         }
-        const double factor = median(program) / median(reference);
-        std::cout << std::fixed << std::setprecision(1) << "empty window " << median(reference) << " ms, program "
-                  << median(program) << " ms, medians of " << runs << " starts each; " << std::setprecision(2) << factor
-                  << " times, allowed " << allowed << '\n';
-        return factor <= allowed ? 0 : 1;
+        const auto compare = [&](double Start::*figure, const char* unit, double allowed) {
+            const double empty = median(reference, figure);
+            const double own = median(program, figure);
+            std::cout << std::fixed << std::setprecision(1) << "empty window " << empty << unit << ", program " << own
+                      << unit << ", medians of " << runs << " starts each; " << std::setprecision(2) << own / empty
+                      << " times, allowed " << allowed << '\n';
+            return own / empty <= allowed;
+        };
+        const bool quick = compare(&Start::milliseconds, " ms", std::atof(argv[2]));
+        const bool small = compare(&Start::megabytes, " MB", std::atof(argv[3]));
+        return quick && small ? 0 : 1;
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
         return 2;
