@@ -72,6 +72,7 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
     setCentralWidget(desk);
     makeMenu();
     makeStatusBar();
+    review = std::make_unique<ReviewDesk>(ReviewDesk::Room{*this, proposal, shell, screenView}, entry("mnuHelp"));
     makeTimers();
     screenView.mainWindowTouched = [this] { showState(); };
     screenView.formsShown = [this] { previewWindows.sync(); };
@@ -192,6 +193,7 @@ void MainWindow::showState() {
     for (const auto& [name, action] : entries)
         action->setEnabled(shell.available(name));
     openForms->sync();
+    review->showState();
 }
 
 void MainWindow::showEvent(QShowEvent* event) {

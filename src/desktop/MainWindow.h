@@ -4,10 +4,12 @@
 #include <QTimer>
 #include <functional>
 #include <map>
+#include <memory>
 #include <string>
 
 #include "desktop/Desk.h"
 #include "desktop/PreviewWindows.h"
+#include "desktop/ReviewDesk.h"
 #include "desktop/ScreenView.h"
 #include "desktop/WindowRow.h"
 
@@ -64,6 +66,7 @@ private:
     ScreenView screenView;
     PreviewWindows previewWindows;
     WindowRow* openForms = nullptr;
+    std::unique_ptr<ReviewDesk> review;
     std::map<std::string, QAction*, std::less<>> entries;
     bool closeAsked = false;
     QTimer timer1;

@@ -34,7 +34,10 @@ void ScreenView::act(Qt::FocusReason howFocusMoves, const std::function<void()>&
         const Counted running(underWay);
         guarded(what);
     }
+    keysWanted = true;
     refresh();
+    keysWanted = false;
+    guarded(acted);
 }
 
 void ScreenView::failed() noexcept {
@@ -179,6 +182,8 @@ void ScreenView::placeKeyboard() {
     // A menu or an open list has the keyboard for itself; the next look comes when it has closed.
     if (!focusMoved || QApplication::activePopupWidget())
         return;
+    if (!std::exchange(keysWanted, false) && keyboardElsewhere())
+        return;
     focusMoved = false;
     if (guestWindow)
         return guestWindow->takeKeys();
@@ -211,6 +216,11 @@ void ScreenView::dialogClosed() {
 void ScreenView::focusStrayed() {
     focusMoved = true;
     later();
+}
+
+void ScreenView::takeKeysBack() {
+    keysWanted = true;
+    focusStrayed();
 }
 
 ChildWindow* ScreenView::windowOf(const Form& form) const {

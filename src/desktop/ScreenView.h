@@ -62,6 +62,8 @@ public:
     void dialogClosed();
     /// The toolkit moved the focus by itself; it is put back in a moment.
     void focusStrayed();
+    /// The keyboard goes to where the focus is, from wherever it is now.
+    void takeKeysBack();
 
     /// A window on the desk that is no form came to the front, above all forms, and has the keyboard; with null the
     /// forms have both again.
@@ -78,6 +80,9 @@ public:
 
     std::function<void()> formsShown = [] {};         ///< other windows of the desk are shown now
     std::function<void()> mainWindowTouched = [] {};  ///< caption, menu or the open forms changed
+    std::function<void()> acted = [] {};              ///< an act of the user has ended
+    /// Whether a part of the window beside the forms has the keyboard; it keeps it until the user acts on the forms.
+    std::function<bool()> keyboardElsewhere = [] { return false; };
 
 private:
     void controlChanged(Control& control) override;
@@ -112,6 +117,7 @@ private:
     bool mainChanged = false;
     bool focusMoved = false;  ///< the keyboard may not be where the focus is
     bool arrived = false;     ///< the focused control has not had the keyboard since it got the focus
+    bool keysWanted = false;  ///< the user acted on the forms, which are to have the keyboard
     bool posted = false;
     int underWay = 0;
     std::set<std::string> failures;  ///< since the user's last act

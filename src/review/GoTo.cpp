@@ -2,33 +2,28 @@
 
 #include <algorithm>
 
-#include "base/Text.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/Grid.h"
+#include "review/AnswerCounts.h"
+#include "review/Questions.h"
 
 namespace plandesk {
 
 namespace {
 
-bool names(const LayoutRow& row, std::string_view key) {
-    return std::ranges::any_of(split(row.controls, " "), [key](const std::string& each) { return each == key; });
+bool behindFirstPage(std::string_view form, int page) {
+    return form == AnnexureACont::formName || (form == frmAnnexureA::formName && page > 0);
 }
 
-/// The page of the form that the control stands on; -1 when it stands on none.
-int pageOf(const Form& form, std::string_view key) {
-    const auto pages = form.layout().pages;
-    for (std::size_t page = 0; page < pages.size(); ++page)
-        for (const LayoutGroup& group : pages[page].groups)
-            if (std::ranges::any_of(group.rows, [key](const LayoutRow& row) { return names(row, key); }))
-                return static_cast<int>(page);
-    return -1;
+const frmAnnexureA* firstPageOf(const Proposal& proposal) {
+    return static_cast<const frmAnnexureA*>(proposal.forms.loaded(frmAnnexureA::formName));
 }
 
 bool closed(const Proposal& proposal, const Form& form, int page) {
-    if (form.name() != AnnexureACont::formName && (form.name() != frmAnnexureA::formName || page <= 0))
+    if (!behindFirstPage(form.name(), page))
         return false;
-    const auto* first = static_cast<const frmAnnexureA*>(proposal.forms.loaded(frmAnnexureA::formName));
+    const frmAnnexureA* first = firstPageOf(proposal);
     return !first || !first->firstPageFaults().empty();
 }
 
@@ -67,6 +62,20 @@ bool goTo(Proposal& proposal, std::string_view form, std::string_view control, i
             wanted->setFocus();
     });
     return true;
+}
+
+std::string whatOpens(const Proposal& proposal, std::string_view form, std::string_view control) {
+    const frmAnnexureA* first = firstPageOf(proposal);
+    const Form* sheet = proposal.forms.loaded(form);
+    if (!first || !behindFirstPage(form, sheet ? pageOf(*sheet, control) : 0))
+        return "";
+    const auto faults = first->firstPageFaults();
+    if (faults.empty())
+        return "";
+    for (const Question& question : questionsOf(*first))
+        if (std::ranges::find(question.controls, faults.front().field) != question.controls.end())
+            return wordsOf(question);
+    return faults.front().field->key();
 }
 
 }  // namespace plandesk

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "proposal/Proposal.h"
@@ -11,5 +12,9 @@ namespace plandesk {
 /// happens, when there is no such control, or when it stands on a page that opens once the first page is complete.
 /// `row` counts all rows of the grid's table.
 bool goTo(Proposal& proposal, std::string_view form, std::string_view control, int row = -1, int column = -1);
+
+/// Where `goTo` refuses since the first page is not complete: the question of it that is to be answered next. Empty
+/// where the control's page is open.
+std::string whatOpens(const Proposal& proposal, std::string_view form, std::string_view control);
 
 }  // namespace plandesk

@@ -1,11 +1,13 @@
 // Takes a picture of every page of every form at 1024 x 700, once with the system's font and once with one of twice the
-// size, and of some in other sizes of the window, into the folder given as the only argument.
+// size, and of some in other sizes of the window, into the folder given as the first argument. A second one takes one
+// set of them alone.
 
 #include <QApplication>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <filesystem>
 #include <iostream>
+#include <map>
 
 #include "controls/User.h"
 #include "desktop/ChildWindow.h"
@@ -128,11 +130,12 @@ void takeReports(const std::filesystem::path& folder, const std::string& suffix)
 }
 
 /// Three pages in the windows of common screens, maximised in the widest.
-void takeSizes(const std::filesystem::path& folder) {
+void takeSizes(const std::filesystem::path& folder, const std::string& suffix) {
+    if (!suffix.empty())
+        return;
     for (const QSize size : {QSize(1024, 700), QSize(1366, 768), QSize(1920, 1080)}) {
         Session session(size);
-        const std::string suffix = "-" + std::to_string(size.width()) + "x" + std::to_string(size.height());
-        Camera camera(session, folder, suffix);
+        Camera camera(session, folder, "-" + std::to_string(size.width()) + "x" + std::to_string(size.height()));
         session.press("mnuNew");
         for (Form* form : {session.proposal.forms.touch("frmAnnexureA"), session.proposal.forms.touch("frmPayDetail"),
                            session.proposal.forms.touch("frmDocCheckList")}) {
@@ -144,26 +147,65 @@ void takeSizes(const std::filesystem::path& folder) {
     }
 }
 
+/// The review's panel beside a proposal that is half filled in, in the windows of common screens.
+void takeReview(const std::filesystem::path& folder, const std::string& suffix) {
+    for (const QSize size : {QSize(1366, 768), QSize(1920, 1080)}) {
+        Session session(size);
+        Camera camera(session, folder,
+                      "-" + std::to_string(size.width()) + "x" + std::to_string(size.height()) + suffix);
+        session.press("mnuNew");
+        session.proposal.forms.touch("frmPayDetail");
+        session.proposal.forms.touch("frmDocCheckList");
+        auto& form = session.form<frmAnnexureA>();
+        form.txtTitle.setText("Residential building at Tervale & Balundi");
+        form.txtApplicantNm.setText("Sunil Vasant Karkhanis");
+        form.txtApplicantAddr.setText("8, Tilak Path, Vedhapur");
+        form.txtArchNm.setText("Lim@ye");
+        form.txtArchFirstName.setText("Gauri");
+        form.txtPltArea.setText("850");
+        form.cboCaseType.setListIndex(0);
+        const auto key = [&](Qt::Key pressed) {
+            QTest::keyClick(&session.window, pressed);
+            QTest::qWait(500);
+        };
+        key(Qt::Key_F9);
+        camera.take("review-list");
+        key(Qt::Key_F8);
+        key(Qt::Key_F8);
+        camera.take("review-finding");
+        QTest::keyClick(&session.window, Qt::Key_F, Qt::ControlModifier);
+        session.settle();
+        QTest::keyClicks(QApplication::focusWidget(), "area");
+        QTest::qWait(100);
+        camera.take("review-search");
+    }
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 2) {
-        std::cerr << "usage: plandesk-screenshots FOLDER\n";
+    using Take = void (*)(const std::filesystem::path& folder, const std::string& suffix);
+    const std::map<std::string, Take> sets = {{"forms", takeAll},
+                                              {"land-records", takeLandRecords},
+                                              {"reports", takeReports},
+                                              {"review", takeReview},
+                                              {"sizes", takeSizes}};
+    const std::string wanted = argc == 3 ? argv[2] : "";
+    if (argc < 2 || argc > 3 || (argc == 3 && !sets.contains(wanted))) {
+        std::cerr << "usage: plandesk-screenshots FOLDER [forms|land-records|reports|review|sizes]\n";
         return 2;
     }
     QApplication application(argc, argv);
     desktop::useTheme();
     const std::filesystem::path folder = argv[1];
     std::filesystem::create_directories(folder);
-    takeAll(folder, "");
-    takeLandRecords(folder, "");
-    takeReports(folder, "");
-    takeSizes(folder);
-    QFont large = QApplication::font();
-    large.setPointSizeF(2 * large.pointSizeF());
-    QApplication::setFont(large);
-    takeAll(folder, "-large");
-    takeLandRecords(folder, "-large");
-    takeReports(folder, "-large");
+    for (const std::string suffix : {"", "-large"}) {
+        for (const auto& [name, take] : sets)
+            if (wanted.empty() || wanted == name)
+                take(folder, suffix);
+        QFont large = QApplication::font();
+        large.setPointSizeF(2 * large.pointSizeF());
+        QApplication::setFont(large);
+    }
     return 0;
 }

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QKeySequence>
+#include <QObject>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "desktop/ReviewLook.h"
+
+class QAction;
+class QLabel;
+class QMainWindow;
+class QMenu;
+
+namespace plandesk {
+class Proposal;
+class mdiInterface;
+}  // namespace plandesk
+
+namespace plandesk::desktop {
+
+class ReviewCopy;
+class ReviewPanel;
+class ScreenView;
+
+/// The review in the main window: its menu, its panel at the right, its counts in the status bar. As long as the panel
+/// is closed it does nothing. It changes nothing of the proposal by itself; going to a finding is an act of the user.
+class ReviewDesk : public QObject {
+public:
+    struct Room {
+        QMainWindow& window;
+        Proposal& proposal;
+        mdiInterface& shell;
+        ScreenView& forms;
+    };
+    /// `before`: the entry of the menu bar that the review's menu stands before.
+    ReviewDesk(const Room& room, QAction* before);
+    ~ReviewDesk() override;
+
+    /// Shows which of its commands are available now.
+    void showState();
+    QAction* entry(const QString& name) const;
+
+private:
+    void makeMenu(QAction* before);
+    QAction* add(QMenu& menu, const char* name, const QString& text, const QKeySequence& keys,
+                 const std::function<void()>& command);
+
+    void setOpen(bool on);
+    bool open() const;
+    void openedOrClosed();
+    bool begun() const;
+    void changed();
+    void look();
+    void looked(std::unique_ptr<ReviewResult> result);
+
+    void step(bool back);
+    void go(const ReviewTarget& target);
+    void goToPage(const ReviewPage& page);
+    void compare();
+    void saveList();
+    ReviewGroup find(const QString& words);
+
+    /// Made when it is opened for the first time.
+    ReviewPanel& madePanel();
+
+    Room room;
+    ReviewPanel* panel = nullptr;
+    bool wasOpen = false;
+    QLabel* counts;
+    QMenu* menu = nullptr;
+    ReviewLook lookout;
+    QTimer pause;  ///< runs while the user may still be typing
+    bool stepWhenLooked = false;
+    std::unique_ptr<ReviewCopy> searched;  ///< what questions are looked for in, until the user acts again
+};
+
+}  // namespace plandesk::desktop
