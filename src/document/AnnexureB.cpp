@@ -17,18 +17,12 @@ namespace plandesk {
 
 namespace {
 
-enum class Sheet { First, Second };  // frmAnnexureA, AnnexureACont
-enum class ValueForm { YesNo, Text, EscapedText };
-
-struct Row {
-    std::string_view element;  // a box is named txt and the element, a yes/no question as the element
-    Sheet sheet;
-    ValueForm form;
-};
+using Sheet = AnnexureRow::Sheet;
+using ValueForm = AnnexureRow::ValueForm;
 
 // Text is written as typed, so "&" or "<" in it makes the file ill-formed: which elements are escaped is the block's
 // own.
-constexpr std::array rows = std::to_array<Row>({
+constexpr std::array rows = std::to_array<AnnexureRow>({
     {"IsAffectRoadReservation", Sheet::First, ValueForm::YesNo},
     {"IsAnyDeductOfRoadLine", Sheet::First, ValueForm::YesNo},
     {"TotalAreaRoadDeduction", Sheet::First, ValueForm::Text},
@@ -87,12 +81,7 @@ constexpr std::array rows = std::to_array<Row>({
     {"SectionRemark4", Sheet::Second, ValueForm::Text},
 });
 
-struct Part {
-    Sheet sheet;
-    std::string_view control;
-};
-
-constexpr auto streetsAndTreesParts = inPlace<StreetsAndTrees, Part>({
+constexpr auto streetsAndTreesParts = inPlace<StreetsAndTrees, StreetsAndTrees::Part>({
     {StreetsAndTrees::Abutting, {Sheet::First, "Opt77"}},
     {StreetsAndTrees::StreetWidth, {Sheet::First, "txtFstStreetWidth"}},
     {StreetsAndTrees::ExistingWidth, {Sheet::First, "txtFstExistingWidth"}},
@@ -100,7 +89,7 @@ constexpr auto streetsAndTreesParts = inPlace<StreetsAndTrees, Part>({
     {StreetsAndTrees::TreesAffected, {Sheet::Second, "txtNoOfTreesAffected"}},
 });
 
-std::string value(const Form& form, const Row& row) {
+std::string value(const Form& form, const AnnexureRow& row) {
     if (row.form == ValueForm::YesNo)
         return answer(form, row.element);
     const std::string text = answer(form, "txt" + std::string(row.element));
@@ -109,15 +98,23 @@ std::string value(const Form& form, const Row& row) {
 
 }  // namespace
 
+std::span<const AnnexureRow> annexureRows() {
+    return rows;
+}
+
+std::span<const StreetsAndTrees::Part> StreetsAndTrees::parts() {
+    return streetsAndTreesParts;
+}
+
 void buildAnnexureB(Proposal& proposal) {
     const Form& first = proposal.forms.get<frmAnnexureA>();
     const Form& second = proposal.forms.get<AnnexureACont>();
     std::string block = "<ANNEXUREB>";
-    for (const Row& row : rows)
+    for (const AnnexureRow& row : rows)
         appendElement(block, row.element, value(row.sheet == Sheet::First ? first : second, row));
     std::vector<std::string> parts;
     parts.reserve(streetsAndTreesParts.size());
-    for (const Part& part : streetsAndTreesParts)
+    for (const StreetsAndTrees::Part& part : streetsAndTreesParts)
         parts.push_back(answer(part.sheet == Sheet::First ? first : second, part.control));
     appendElement(block, streetsAndTrees, join(parts, "#"));
     proposal.annexureBXML = block + "</ANNEXUREB>";

@@ -36,6 +36,15 @@ std::string_view trimmedText(const Value& cell) {
     return text ? trim(*text) : std::string_view();
 }
 
+void appendJoined(std::string& xml, std::span<const JoinedPiece> pieces, std::span<const Value> row) {
+    for (const JoinedPiece& piece : pieces) {
+        if (&piece != pieces.data() && !piece.glued)
+            xml += '#';
+        if (!row.empty())
+            piece.append(xml, row[static_cast<std::size_t>(piece.column)]);
+    }
+}
+
 void appendNumber(std::string& xml, int number) {
     char digits[16];
     xml.append(digits, std::to_chars(digits, std::end(digits), number).ptr);

@@ -1,5 +1,6 @@
 #include "document/LandRecordBlocks.h"
 
+#include <array>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -23,95 +24,80 @@ namespace {
 
 using Text = std::string;
 
-/// What the two blocks do not share.
-struct Block {
-    std::string_view element;
-    std::string_view count;
-    std::string_view extract;  ///< element of one extract, numbered
-    std::string_view remark;
-    const ExtractFormKind& form;
-    std::span<const int> statics;  ///< columns of the extract that `Static` holds
-};
-
-constexpr int statics712[] = {ExtractColumn::SurveyNo, ExtractColumn::HissaNo,    ExtractColumn::DateOf712,
-                              ExtractColumn::FerFarNo, ExtractColumn::NoOfOwners, ExtractColumn::CumulativeArea,
-                              ExtractColumn::NoOfPAHs};
-constexpr int staticsPRC[] = {  // without FerFarNo
-    ExtractColumn::SurveyNo,   ExtractColumn::HissaNo,        ExtractColumn::DateOf712,
-    ExtractColumn::NoOfOwners, ExtractColumn::CumulativeArea, ExtractColumn::NoOfPAHs};
-
-constexpr Block block712 = {
-    .element = "a712Extract",
-    .count = "NoOfExtract",
-    .extract = "Extract",
-    .remark = "Remark712",
-    .form = form712,
-    .statics = statics712,
-};
-
-constexpr Block blockPRC = {
-    .element = "PRC",
-    .count = "NoOfPRC",
-    .extract = "PRC",
-    .remark = "RemarkPRC",
-    .form = formPRC,
-    .statics = staticsPRC,
-};
-
 using Row = std::span<const Value>;
 
-void appendStatics(Text& xml, const Block& block, Row extract) {
-    xml += "<Static>";
-    for (const int column : block.statics) {
-        if (column != block.statics.front())
-            xml += '#';
-        const auto append = block.form.family.is712 ? appendEscaped : appendTrimmed;
-        append(xml, extract[static_cast<std::size_t>(column)]);
-    }
-    xml += "</Static>";
-}
-
-std::string_view statusWord(const Value& status) {
+void appendStatus(Text& xml, const Value& status) {
     const auto* text = std::get_if<Text>(&status);
     // "---- Select ----" of the list is not the untouched default, and so is written as "PAH".
-    return !text || trim(*text) == trim(noStatus) ? "" : *text == "Signed" ? "Sign" : "PAH";
+    if (text && trim(*text) != trim(noStatus))
+        xml += *text == "Signed" ? "Sign" : "PAH";
 }
 
-void appendOwner(Text& xml, const Block& block, Row owner) {
-    appendEscaped(xml, owner[OwnerColumn::Name]);
-    xml.append("#").append(statusWord(owner[OwnerColumn::SingingStatus])).append("#");
-    appendNumber(xml, encumbranceCode(trimmedText(owner[OwnerColumn::Encumbrances])));
-    std::string_view type = trimmedText(owner[OwnerColumn::OwnerType]);
-    if (type == trim(noOwnerType))
-        type = {};
-    // The 7/12 block has no "#" before the type: its reader expects three pieces.
-    if (block.form.family.is712)
-        appendEscapedText(xml, type);
-    else
-        xml.append("#").append(type);
+void appendEncumbrance(Text& xml, const Value& encumbrance) {
+    appendNumber(xml, encumbranceCode(trimmedText(encumbrance)));
 }
 
-void appendHolder(Text& xml, const Block& /*block*/, Row holder) {
-    appendTrimmed(xml, holder[HolderColumn::Name]);
-    xml += valueNumber(holder[HolderColumn::PAHSing]) != 0 ? "#1" : "#0";
+std::string_view typeOf(const Value& cell) {
+    const std::string_view type = trimmedText(cell);
+    return type == trim(noOwnerType) ? std::string_view() : type;
 }
 
-/// What an extract has several of: an element with their number, then a numbered one for each.
-struct Members {
-    Tables::Member ExtractFamily::*table;
-    std::string_view count;
-    std::string_view element;
-    void (*append)(Text& xml, const Block& block, Row row);
+void appendEscapedType(Text& xml, const Value& type) {
+    appendEscapedText(xml, typeOf(type));
+}
+
+void appendType(Text& xml, const Value& type) {
+    xml += typeOf(type);
+}
+
+void appendSign(Text& xml, const Value& sign) {
+    xml += valueNumber(sign) != 0 ? '1' : '0';
+}
+
+constexpr auto statics712 = piecesOf(
+    appendEscaped, {ExtractColumn::SurveyNo, ExtractColumn::HissaNo, ExtractColumn::DateOf712, ExtractColumn::FerFarNo,
+                    ExtractColumn::NoOfOwners, ExtractColumn::CumulativeArea, ExtractColumn::NoOfPAHs});
+constexpr auto staticsPRC = piecesOf(  // without FerFarNo
+    appendTrimmed, {ExtractColumn::SurveyNo, ExtractColumn::HissaNo, ExtractColumn::DateOf712,
+                    ExtractColumn::NoOfOwners, ExtractColumn::CumulativeArea, ExtractColumn::NoOfPAHs});
+
+constexpr JoinedPiece owner712[] = {
+    {OwnerColumn::Name, appendEscaped},
+    {OwnerColumn::SingingStatus, appendStatus},
+    {OwnerColumn::Encumbrances, appendEncumbrance},
+    {OwnerColumn::OwnerType, appendEscapedType, true},  // glued: the reader expects three pieces
+};
+constexpr JoinedPiece ownerPRC[] = {
+    {OwnerColumn::Name, appendEscaped},
+    {OwnerColumn::SingingStatus, appendStatus},
+    {OwnerColumn::Encumbrances, appendEncumbrance},
+    {OwnerColumn::OwnerType, appendType},
+};
+constexpr JoinedPiece holder[] = {
+    {HolderColumn::Name, appendTrimmed},
+    {HolderColumn::PAHSing, appendSign},
 };
 
-constexpr Members members[] = {
-    {&ExtractFamily::owners, "NoOfOwner", "OWNER", appendOwner},
-    {&ExtractFamily::holders, "NoOfPAH", "PAH", appendHolder},
-};
-
-Recordset& tableOf(const Members& each, const Block& block, Proposal& proposal) {
-    return proposal.tables.ensure(block.form.family.*each.table);
-}
+constexpr std::array blocks = std::to_array<WrittenExtracts>({
+    {.element = "a712Extract",
+     .count = "NoOfExtract",
+     .extract = "Extract",
+     .remark = "Remark712",
+     .form = form712,
+     .statics = {"Static", &Tables::rsExtract712, statics712},
+     .members = {{{"NoOfOwner", {"OWNER", &Tables::rsOwner712, owner712}},
+                  {"NoOfPAH", {"PAH", &Tables::rsPAH712, holder}}}}},
+    {.element = "PRC",
+     .count = "NoOfPRC",
+     .extract = "PRC",
+     .remark = "RemarkPRC",
+     .form = formPRC,
+     .statics = {"Static", &Tables::rsExtractPRC, staticsPRC},
+     .members = {{{"NoOfOwner", {"OWNER", &Tables::rsOwnerPRC, ownerPRC}},
+                  {"NoOfPAH", {"PAH", &Tables::rsPAHPRC, holder}}}}},
+});
+constexpr const WrittenExtracts& block712 = blocks[0];
+constexpr const WrittenExtracts& blockPRC = blocks[1];
 
 /// RuntimeError 3001 for a row without one.
 std::int32_t extractNumber(Row extract) {
@@ -120,19 +106,21 @@ std::int32_t extractNumber(Row extract) {
     throw RuntimeError(ErrorNumber::ArgumentsOfWrongType);
 }
 
-void appendExtract(Text& xml, const Block& block, Proposal& proposal, Recordset& extracts) {
+void appendExtract(Text& xml, const WrittenExtracts& block, Proposal& proposal, Recordset& extracts) {
     const int place = extracts.absolutePosition();
     const Row extract = extracts.row();
     const std::int32_t number = extractNumber(extract);
     openNumbered(xml, block.extract, place);
-    appendStatics(xml, block, extract);
-    for (const Members& each : members) {
-        const std::vector<Row> rows = tableOf(each, block, proposal).rowsOfKey(number);
-        appendElement(xml, each.count, std::to_string(rows.size()));
+    xml.append("<").append(block.statics.element).append(">");
+    appendJoined(xml, block.statics.pieces, extract);
+    xml.append("</").append(block.statics.element).append(">");
+    for (const auto& [count, each] : block.members) {
+        const std::vector<Row> rows = proposal.tables.ensure(each.table).rowsOfKey(number);
+        appendElement(xml, count, std::to_string(rows.size()));
         int next = 0;
         for (const Row row : rows) {
             openNumbered(xml, each.element, ++next);
-            each.append(xml, block, row);
+            appendJoined(xml, each.pieces, row);
             closeNumbered(xml, each.element, next);
         }
     }
@@ -152,7 +140,7 @@ Text remark(Proposal& proposal) {
     return form ? static_cast<frmMain712*>(form)->txtRemark.text() : proposal.remark712;
 }
 
-void build(const Block& block, Proposal& proposal) {
+void build(const WrittenExtracts& block, Proposal& proposal) {
     Recordset& extracts = proposal.tables.ensure(block.form.family.extracts);
     if (extracts.recordCount() == 0)
         return;
@@ -174,8 +162,8 @@ void build(const Block& block, Proposal& proposal) {
             appendExtract(xml, block, proposal, extracts);
             progress.step();
         }
-        for (const Members& each : members)
-            leaveFiltered(tableOf(each, block, proposal), number);
+        for (const auto& [count, each] : block.members)
+            leaveFiltered(proposal.tables.ensure(each.table), number);
     }
     const Text closing = remark(proposal);
     appendElement(xml, block.remark, EscapeXML(block.form.family.is712 ? trim(closing) : closing));
@@ -185,6 +173,10 @@ void build(const Block& block, Proposal& proposal) {
 }
 
 }  // namespace
+
+std::span<const WrittenExtracts> writtenExtracts() {
+    return blocks;
+}
 
 void buildExtractBlock(Proposal& proposal) {
     build(block712, proposal);

@@ -1,4 +1,5 @@
-#include "base/Text.h"
+#include <array>
+
 #include "document/LandRecordBlocks.h"
 #include "landrecords/frmNaOrder.h"
 #include "proposal/Element.h"
@@ -6,17 +7,30 @@
 
 namespace plandesk {
 
+namespace {
+
+constexpr std::array rows = std::to_array<PackedRow>({
+    {"OrderNo", "txtNaOrderNo"},
+    {"OrderDate", "DTPicker1"},
+    {"LandArea", "txtLandArea", asTyped},
+    {"AreaForNAOrder", "cmbAreaForNA"},
+    {"TxtArea1", "txtArea1"},
+    {"TxtArea2", "txtArea2"},
+    {"Remark", "txtNARemark", asTyped},
+});
+
+}  // namespace
+
+std::span<const PackedRow> naOrderRows() {
+    return rows;
+}
+
 void buildNAOrder(Proposal& proposal) {
     const auto& form = proposal.forms.get<frmNaOrder>();
     std::string& xml = proposal.naOrderXML;
     xml = "<NAOrder>";
-    appendElement(xml, "OrderNo", trim(form.txtNaOrderNo.text()));
-    appendElement(xml, "OrderDate", form.DTPicker1.date().text());
-    appendElement(xml, "LandArea", form.txtLandArea.text());
-    appendElement(xml, "AreaForNAOrder", trim(form.cmbAreaForNA.text()));
-    appendElement(xml, "TxtArea1", trim(form.txtArea1.text()));
-    appendElement(xml, "TxtArea2", trim(form.txtArea2.text()));
-    appendElement(xml, "Remark", form.txtNARemark.text());
+    for (const PackedRow& row : rows)
+        appendElement(xml, row.element, packedValue(form, row));
     xml += "</NAOrder>";
 }
 

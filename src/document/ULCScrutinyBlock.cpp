@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,39 +24,34 @@ using US84 = US84OrderColumn;
 using Plot = US84PlotColumn;
 using US20a1 = US20a1OrderColumn;
 using US22 = US22OrderColumn;
-using Append = void (*)(std::string& xml, const Value& value);
 
-/// A row of a table as one element: the trimmed values of these columns with "#" between. What is not escaped breaks
-/// the document with an "&" or "<".
-struct JoinedRow {
-    std::string_view element;
-    std::span<const int> columns;
-    Append append;
-};
-
-constexpr int areaColumns[] = {Ownership::Name, Ownership::Area, Ownership::DocStatus};
-constexpr int orderColumns[] = {Order::Name, Order::ULCOrderSelection, Order::OrderNo, Order::Remarks};
-constexpr int us84Columns[] = {
-    US84::CaseNo,        US84::ResultDate, US84::AppName, US84::AppAddress, US84::TotalAreaUnderOwnerShip,
-    US84::AreaDeduction, US84::GreenBelt,  US84::Surplus, US84::Survey};
-constexpr int plotColumns[] = {Plot::Village,      Plot::Taluka,       Plot::SrNo,      Plot::TotalArea,
-                               Plot::ResrvType,    Plot::ResArea,      Plot::GreenBelt, Plot::RoadWideing,
-                               Plot::ResrvArea,    Plot::NetDevArea,   Plot::UnDevArea, Plot::OpenSpace,
-                               Plot::Recreational, Plot::areaRemained, Plot::Surplus};
-constexpr int us20a1Columns[] = {US20a1::TypeOfScheme, US20a1::AMGSubmitted, US20a1::Details, US20a1::i,  US20a1::ii,
-                                 US20a1::iii,          US20a1::iv,           US20a1::v,       US20a1::vi, US20a1::vii,
-                                 US20a1::viii,         US20a1::ix,           US20a1::x,       US20a1::xi, US20a1::xii,
-                                 US20a1::Condition,    US20a1::SpecDisc};
-constexpr int us22Columns[] = {US22::FLD1, US22::FLD2};
+constexpr auto areaPieces = piecesOf(appendEscaped, {Ownership::Name, Ownership::Area, Ownership::DocStatus});
+constexpr auto orderPieces =
+    piecesOf(appendEscaped, {Order::Name, Order::ULCOrderSelection, Order::OrderNo, Order::Remarks});
+// What is not escaped breaks the document with an "&" or "<".
+constexpr auto us84Pieces = piecesOf(
+    appendTrimmed, {US84::CaseNo, US84::ResultDate, US84::AppName, US84::AppAddress, US84::TotalAreaUnderOwnerShip,
+                    US84::AreaDeduction, US84::GreenBelt, US84::Surplus, US84::Survey});
+constexpr auto plotPieces =
+    piecesOf(appendTrimmed, {Plot::Village, Plot::Taluka, Plot::SrNo, Plot::TotalArea, Plot::ResrvType, Plot::ResArea,
+                             Plot::GreenBelt, Plot::RoadWideing, Plot::ResrvArea, Plot::NetDevArea, Plot::UnDevArea,
+                             Plot::OpenSpace, Plot::Recreational, Plot::areaRemained, Plot::Surplus});
+constexpr auto us20a1Pieces =
+    piecesOf(appendTrimmed, {US20a1::TypeOfScheme, US20a1::AMGSubmitted, US20a1::Details, US20a1::i, US20a1::ii,
+                             US20a1::iii, US20a1::iv, US20a1::v, US20a1::vi, US20a1::vii, US20a1::viii, US20a1::ix,
+                             US20a1::x, US20a1::xi, US20a1::xii, US20a1::Condition, US20a1::SpecDisc});
+constexpr auto us22Pieces = piecesOf(appendTrimmed, {US22::FLD1, US22::FLD2});
 constexpr int schemeColumns[] = {SchemeColumn::FLD1, SchemeColumn::FLD2, SchemeColumn::FLD3, SchemeColumn::FLD4,
                                  SchemeColumn::FLD5, SchemeColumn::FLD6, SchemeColumn::FLD7};
 
-constexpr JoinedRow areaDivision = {"AREADIVISION", areaColumns, appendEscaped};
-constexpr JoinedRow ulcOrder = {"ULCORDER", orderColumns, appendEscaped};
-constexpr JoinedRow us84Order = {"ULC-US-84", us84Columns, appendTrimmed};
-constexpr JoinedRow us84Plot = {"US-84-PLOT-", plotColumns, appendTrimmed};
-constexpr JoinedRow us20a1Order = {"ULC-US-20a1", us20a1Columns, appendTrimmed};
-constexpr JoinedRow us22Order = {"ULC-US-22", us22Columns, appendTrimmed};
+constexpr JoinedRow areaDivision = {"AREADIVISION", &Tables::rsOwnership, areaPieces};
+constexpr JoinedRow ulcOrder = {"ULCORDER", &Tables::rsULCOrder, orderPieces};
+constexpr JoinedRow us84Order = {"ULC-US-84", &Tables::rsULCOrderUS84, us84Pieces};
+constexpr JoinedRow us84Plot = {"US-84-PLOT-", &Tables::rsUS84Plots, plotPieces};
+constexpr JoinedRow us20a1Order = {"ULC-US-20a1", &Tables::rsULCOrderUS20a1, us20a1Pieces};
+constexpr JoinedRow us22Order = {"ULC-US-22", &Tables::rsULCOrderUS22, us22Pieces};
+
+constexpr std::array rowsOfExtract = {areaDivision, ulcOrder, us84Order, us84Plot, us20a1Order, us22Order};
 
 using Row = std::span<const Value>;
 
@@ -88,6 +84,7 @@ public:
 
 private:
     std::vector<Row> rowsOf(Tables::Member table) { return proposal.tables.ensure(table).rowsOfKey(extract); }
+    std::vector<Row> rowsOf(const JoinedRow& row) { return rowsOf(row.table); }
 
     void appendExtract() {
         const int place = ownership.absolutePosition();
@@ -104,22 +101,16 @@ private:
         const Row order = orders.eof() ? Row() : orders.row();
         // Behind the last order the values are left out and the "#" stay.
         appendRow(ulcOrder, {&order, orders.eof() ? 0U : 1U});
-        appendIfAny(us84Order, rowsOf(&Tables::rsULCOrderUS84));
-        appendPlots(rowsOf(&Tables::rsUS84Plots));
+        appendIfAny(us84Order, rowsOf(us84Order));
+        appendPlots(rowsOf(us84Plot));
         appendSchemeOrder();
-        appendRow(us22Order, rowsOf(&Tables::rsULCOrderUS22));
+        appendRow(us22Order, rowsOf(us22Order));
         closeNumbered(xml, "EXTRACT-", place);
     }
 
     /// The first of the rows; without one the "#" alone.
     void appendValues(const JoinedRow& row, std::span<const Row> rows) {
-        std::string_view separator;
-        for (const int column : row.columns) {
-            xml += separator;
-            separator = "#";
-            if (!rows.empty())
-                row.append(xml, rows.front()[static_cast<std::size_t>(column)]);
-        }
+        appendJoined(xml, row.pieces, rows.empty() ? Row() : rows.front());
     }
 
     void open(std::string_view element) { xml.append("<").append(element).append(">"); }
@@ -150,7 +141,7 @@ private:
     /// The order, a "#" behind its last value too, and seven pairs of figures whatever the scheme. An order whose
     /// scheme was never opened has no pairs.
     void appendSchemeOrder() {
-        const std::vector<Row> order = rowsOf(&Tables::rsULCOrderUS20a1);
+        const std::vector<Row> order = rowsOf(us20a1Order);
         const std::vector<Row> built = rowsOf(&Tables::rsSchemeBuilt);
         open(us20a1Order.element);
         if (!order.empty()) {
@@ -196,6 +187,14 @@ private:
 };
 
 }  // namespace
+
+std::span<const JoinedRow> orderRows() {
+    return rowsOfExtract;
+}
+
+std::size_t schemePairs() {
+    return std::size(schemeColumns);
+}
 
 void buildULCScrutinyXML(Proposal& proposal) {
     proposal.ULCScrutinyXML = Builder(proposal).build();

@@ -48,9 +48,10 @@ constexpr auto sources = inPlace<Column, DRCSource>({
     {Column::ReceiptDate, {.text = &Proposal::drcReceiptDate}},
 });
 
-constexpr DRCTable table{&Tables::rsDRCTransfer, sources, &Proposal::drcTransferXML, "TRANSFERDRC", "ReceiptDate"};
-
 }  // namespace
+
+constinit const DRCTable frmDRCTransfer::table{&Tables::rsDRCTransfer, sources, &Proposal::drcTransferXML,
+                                               "TRANSFERDRC", "ReceiptDate"};
 
 frmDRCTransfer::frmDRCTransfer(Proposal& proposal) : DataForm(proposal, formName, "DRC Transfer Form") {
     readFigure(txtTotalBalanceAreaFigure, txtTotalBalanceAreaWords, " sq. mtrs.");

@@ -6,10 +6,13 @@
 
 namespace plandesk {
 
+struct DRCTable;
+
 /// The transfer deed of a development right certificate.
 class frmDRCTransfer : public DataForm {
 public:
     static constexpr std::string_view formName = "frmDRCTransfer";
+    static const DRCTable table;  ///< what a save keeps, column by column
 
     explicit frmDRCTransfer(Proposal& proposal);
     void load() override;

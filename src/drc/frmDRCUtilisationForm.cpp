@@ -52,14 +52,14 @@ constexpr auto sources = inPlace<Column, DRCSource>({
     {Column::ReceiptDate, {"DTPReceiptDate"}},
 });
 
-constexpr DRCTable table{&Tables::rsDRCUtilisation, sources, &Proposal::drcUtilisationXML, "UTILIZATIONDRC",
-                         "ReceiptDate"};
-
 constexpr std::array firstFields = {&frmDRCUtilisationForm::txtTransferorFolioNo,
                                     &frmDRCUtilisationForm::txtTransfareeName1,
                                     &frmDRCUtilisationForm::txtSMCAdminRegNo};
 
 }  // namespace
+
+constinit const DRCTable frmDRCUtilisationForm::table{&Tables::rsDRCUtilisation, sources, &Proposal::drcUtilisationXML,
+                                                      "UTILIZATIONDRC", "ReceiptDate"};
 
 frmDRCUtilisationForm::frmDRCUtilisationForm(Proposal& proposal) : DataForm(proposal, formName, "DRC Utilzation Form") {
     readFigure(txtAreaUtilizeFigure, txtAreaUtilizedToWords, " sq. mtrs.");

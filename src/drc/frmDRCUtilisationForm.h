@@ -6,11 +6,14 @@
 
 namespace plandesk {
 
+struct DRCTable;
+
 /// The use of a development right certificate on a plot. No balance is computed: each figure is typed, and the form
 /// only writes it out in words.
 class frmDRCUtilisationForm : public DataForm {
 public:
     static constexpr std::string_view formName = "frmDRCUtilisationForm";
+    static const DRCTable table;  ///< what a save keeps, column by column
 
     explicit frmDRCUtilisationForm(Proposal& proposal);
     void load() override;

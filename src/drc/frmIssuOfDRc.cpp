@@ -50,11 +50,12 @@ constexpr auto sources = inPlace<Column, DRCSource>({
     {Column::CheckedByDE, {"CheckedByDE", "Y", "N"}},
 });
 
-constexpr DRCTable table{&Tables::rsDRCIssue, sources, &Proposal::drcIssueXML, "ISSUEOFDRC", "CheckedByDE"};
-
 constexpr int sectors = 11;
 
 }  // namespace
+
+constinit const DRCTable frmIssuOfDRc::table{&Tables::rsDRCIssue, sources, &Proposal::drcIssueXML, "ISSUEOFDRC",
+                                             "CheckedByDE"};
 
 frmIssuOfDRc::frmIssuOfDRc(Proposal& proposal) : DataForm(proposal, formName, "Issue Of DRC") {
     for (int sector = 1; sector <= sectors; ++sector)

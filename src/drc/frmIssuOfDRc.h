@@ -6,11 +6,14 @@
 
 namespace plandesk {
 
+struct DRCTable;
+
 /// The application for a development right certificate: the land, the applicant, the licensed person, the reservation
 /// surrendered and the compensation received.
 class frmIssuOfDRc : public DataForm {
 public:
     static constexpr std::string_view formName = "frmIssuOfDRc";
+    static const DRCTable table;  ///< what a save keeps, column by column
 
     explicit frmIssuOfDRc(Proposal& proposal);
     void load() override;

@@ -4,7 +4,6 @@
 #include <array>
 
 #include "base/Text.h"
-#include "controls/Answers.h"
 #include "fees/PackedFees.h"
 #include "fees/frmPayDetail.h"
 #include "particulars/frmAnnexureA.h"
@@ -14,10 +13,6 @@ namespace plandesk {
 namespace {
 
 constexpr std::string_view separator = "$$";
-
-std::string asTyped(const Form& form, std::string_view control) {
-    return answer(form, control);
-}
 
 std::string mode(const Form& form, std::string_view /*controls*/) {
     const auto& payment = dynamic_cast<const frmPayDetail&>(form);

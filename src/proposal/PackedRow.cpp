@@ -7,6 +7,10 @@
 
 namespace plandesk {
 
+std::string asTyped(const Form& form, std::string_view control) {
+    return answer(form, control);
+}
+
 std::string packedValue(const Form& form, const PackedRow& row) {
     return row.value ? row.value(form, row.controls) : answers(form, row.controls);
 }

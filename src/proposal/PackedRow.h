@@ -17,6 +17,9 @@ struct PackedRow {
     std::string (*value)(const Form& form, std::string_view controls) = nullptr;
 };
 
+/// The answer of the one control as typed, blanks included: a `value` of rows.
+std::string asTyped(const Form& form, std::string_view control);
+
 std::string packedValue(const Form& form, const PackedRow& row);
 
 /// The values of all rows, joined by "$$".
