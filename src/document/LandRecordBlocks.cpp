@@ -16,6 +16,7 @@
 #include "landrecords/ExtractFormKind.h"
 #include "landrecords/frmPlotExtractRelation.h"
 #include "proposal/Element.h"
+#include "proposal/LandRecordColumns.h"
 #include "proposal/Proposal.h"
 
 namespace plandesk {

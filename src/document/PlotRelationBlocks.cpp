@@ -6,6 +6,7 @@
 #include "landrecords/PlotNumbering.h"
 #include "landrecords/frmPlotExtractRelation.h"
 #include "proposal/ExtractFamily.h"
+#include "proposal/LandRecordColumns.h"
 #include "proposal/Proposal.h"
 
 namespace plandesk {

@@ -7,6 +7,7 @@
 #include "landrecords/Encumbrances.h"
 #include "landrecords/frmNaOrder.h"
 #include "landrecords/frmPlotExtractRelation.h"
+#include "proposal/LandRecordColumns.h"
 #include "proposal/Proposal.h"
 
 namespace plandesk {

@@ -8,6 +8,8 @@
 #include "document/XmlChildren.h"
 #include "fees/frmDiscretionNewCase.h"
 #include "fees/frmDiscretionrevisedCase.h"
+#include "proposal/LandRecordColumns.h"
+#include "proposal/OrderColumns.h"
 #include "proposal/Proposal.h"
 #include "ulc/frmScrutinyULC.h"
 

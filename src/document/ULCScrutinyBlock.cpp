@@ -11,6 +11,8 @@
 #include "base/RuntimeError.h"
 #include "document/BlockText.h"
 #include "proposal/Element.h"
+#include "proposal/LandRecordColumns.h"
+#include "proposal/OrderColumns.h"
 #include "proposal/Proposal.h"
 #include "ulc/frmScrutinyULC.h"
 

@@ -2,8 +2,8 @@
 
 #include "drc/DRCTable.h"
 #include "drc/frmDRCTransferCont.h"
+#include "proposal/DRCColumns.h"
 #include "proposal/InPlace.h"
-#include "proposal/TableColumns.h"
 
 namespace plandesk {
 

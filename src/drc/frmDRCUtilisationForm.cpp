@@ -3,8 +3,8 @@
 #include <array>
 
 #include "drc/DRCTable.h"
+#include "proposal/DRCColumns.h"
 #include "proposal/InPlace.h"
-#include "proposal/TableColumns.h"
 
 namespace plandesk {
 

@@ -10,6 +10,7 @@
 #include "landrecords/Ownership.h"
 #include "landrecords/PlotNumbering.h"
 #include "particulars/frmAnnexureA.h"
+#include "proposal/LandRecordColumns.h"
 
 namespace plandesk {
 

@@ -4,6 +4,7 @@
 
 #include "landrecords/ExtractForm.h"
 #include "proposal/InPlace.h"
+#include "proposal/LandRecordColumns.h"
 
 namespace plandesk {
 

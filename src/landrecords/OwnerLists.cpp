@@ -8,7 +8,7 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "landrecords/Encumbrances.h"
-#include "proposal/TableColumns.h"
+#include "proposal/LandRecordColumns.h"
 
 namespace plandesk {
 

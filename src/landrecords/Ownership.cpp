@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "landrecords/frmPlotExtractRelation.h"
 #include "proposal/ExtractFamily.h"
+#include "proposal/LandRecordColumns.h"
 #include "proposal/Proposal.h"
 
 namespace plandesk {

@@ -7,7 +7,7 @@
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
-#include "proposal/TableColumns.h"
+#include "proposal/LandRecordColumns.h"
 
 namespace plandesk {
 

@@ -7,6 +7,7 @@
 #include "controls/Meaning.h"
 #include "proposal/ExtractGaps.h"
 #include "proposal/InPlace.h"
+#include "proposal/LandRecordColumns.h"
 
 namespace plandesk {
 

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "base/Numbers.h"
+#include "proposal/LandRecordColumns.h"
 
 namespace plandesk {
 

@@ -20,6 +20,12 @@ struct Column {
     ColumnKind kind = ColumnKind::Text;
     int width = 0;
 
+    static constexpr Column integer(std::string_view name) { return {name, ColumnKind::Integer}; }
+    static constexpr Column text(std::string_view name, int width) { return {name, ColumnKind::Text, width}; }
+    static constexpr Column date(std::string_view name) { return {name, ColumnKind::Date}; }
+    static constexpr Column number(std::string_view name) { return {name, ColumnKind::Double}; }
+    static constexpr Column boolean(std::string_view name) { return {name, ColumnKind::Boolean}; }
+
     bool operator==(const Column&) const = default;
 };
 

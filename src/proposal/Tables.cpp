@@ -2,9 +2,40 @@
 
 #include <algorithm>
 
+#include "proposal/DRCColumns.h"
+#include "proposal/LandRecordColumns.h"
+#include "proposal/OrderColumns.h"
+
 namespace plandesk {
 
 namespace {
+
+constexpr std::array definitions = std::to_array<TableDefinition>({
+    {"rsExtract712", &Tables::rsExtract712, extract712TableColumns},
+    {"rsExtractPRC", &Tables::rsExtractPRC, extractPRCTableColumns},
+    {"rsOwner712", &Tables::rsOwner712, ownerTableColumns},
+    {"rsOwnerPRC", &Tables::rsOwnerPRC, ownerTableColumns},
+    {"rsPAH712", &Tables::rsPAH712, holderTableColumns},
+    {"rsPAHPRC", &Tables::rsPAHPRC, holderTableColumns},
+    {"rsPlot712", &Tables::rsPlot712, plotTableColumns},
+    {"rsPlotPRC", &Tables::rsPlotPRC, plotTableColumns},
+    {"rsPlot712Saved", &Tables::rsPlot712Saved, plotTableColumns},
+    {"rsPlotPRCSaved", &Tables::rsPlotPRCSaved, plotTableColumns},
+    {"rsOwnership", &Tables::rsOwnership, ownershipTableColumns},
+    {"rsOwnership712", &Tables::rsOwnership712, ownershipTableColumns},
+    {"rsOwnershipPRC", &Tables::rsOwnershipPRC, ownershipTableColumns},
+    {"rsULCOrder", &Tables::rsULCOrder, ulcOrderTableColumns},
+    {"rsSchemeGrid", &Tables::rsSchemeGrid, schemeGridTableColumns},
+    {"rsUS84Plots", &Tables::rsUS84Plots, us84PlotTableColumns},
+    {"rsULCOrderUS84", &Tables::rsULCOrderUS84, us84OrderTableColumns},
+    {"rsULCOrderUS20a1", &Tables::rsULCOrderUS20a1, us20a1OrderTableColumns},
+    {"rsSchemeBuilt", &Tables::rsSchemeBuilt, schemeTableColumns},
+    {"rsSchemeSold", &Tables::rsSchemeSold, schemeTableColumns},
+    {"rsULCOrderUS22", &Tables::rsULCOrderUS22, us22OrderTableColumns},
+    {"rsDRCIssue", &Tables::rsDRCIssue, drcIssueTableColumns},
+    {"rsDRCTransfer", &Tables::rsDRCTransfer, drcTransferTableColumns},
+    {"rsDRCUtilisation", &Tables::rsDRCUtilisation, drcUtilisationTableColumns},
+});
 
 constexpr std::array plotTables = std::to_array<Tables::Member>({&Tables::rsPlotPRC, &Tables::rsPlot712});
 constexpr std::array plotAndOrderTables = std::to_array<Tables::Member>(
@@ -27,6 +58,10 @@ constexpr std::array allTables =
                                                     plotAndOrderTables, orderTables, ownershipTable});
 
 }  // namespace
+
+std::span<const TableDefinition> tableDefinitions() {
+    return definitions;
+}
 
 std::span<const std::span<const Tables::Member>> creationOrder() {
     return allTables;

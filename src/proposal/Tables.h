@@ -8,7 +8,11 @@
 #include <vector>
 
 #include "proposal/Recordset.h"
-#include "proposal/TableColumns.h"
+
+// Columns stand in LandRecordColumns.h, OrderColumns.h and DRCColumns.h: for each table an enumeration of their places,
+// by which everything goes that reads, writes, shows or reacts to one, and below it the columns. A place without its
+// column does not compile. The names in quotes are the system's own, misspellings included: look-ups, documents and
+// reports go by them.
 
 namespace plandesk {
 

@@ -8,6 +8,8 @@
 
 #include "base/Text.h"
 #include "proposal/Grid.h"
+#include "proposal/LandRecordColumns.h"
+#include "proposal/OrderColumns.h"
 #include "review/Questions.h"
 
 namespace plandesk {

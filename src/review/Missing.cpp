@@ -8,6 +8,8 @@
 #include "fees/frmDocCheckList1.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/Grid.h"
+#include "proposal/LandRecordColumns.h"
+#include "proposal/OrderColumns.h"
 #include "review/CarriedAnswers.h"
 #include "review/Checks.h"
 #include "review/Questions.h"

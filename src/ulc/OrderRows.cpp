@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Numbers.h"
+#include "proposal/OrderColumns.h"
 
 namespace plandesk {
 

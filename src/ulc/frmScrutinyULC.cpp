@@ -9,6 +9,8 @@
 #include "landrecords/PlotNumbering.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/InPlace.h"
+#include "proposal/LandRecordColumns.h"
+#include "proposal/OrderColumns.h"
 #include "ulc/OrderRows.h"
 #include "ulc/frmULC20aDetails.h"
 #include "ulc/frmUS22.h"

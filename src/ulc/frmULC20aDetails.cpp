@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "proposal/InPlace.h"
+#include "proposal/OrderColumns.h"
 #include "ulc/OrderRows.h"
 #include "ulc/Schemes.h"
 

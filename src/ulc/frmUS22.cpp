@@ -3,6 +3,7 @@
 #include <string>
 
 #include "base/Text.h"
+#include "proposal/OrderColumns.h"
 #include "ulc/OrderRows.h"
 
 namespace plandesk {

@@ -7,6 +7,7 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "proposal/InPlace.h"
+#include "proposal/OrderColumns.h"
 #include "ulc/OrderRows.h"
 
 namespace plandesk {

@@ -20,6 +20,8 @@
 #include "document/ProposalDocument.h"
 #include "landrecords/ExtractForm.h"
 #include "landrecords/OwnerLists.h"
+#include "proposal/LandRecordColumns.h"
+#include "proposal/OrderColumns.h"
 #include "unit/ScratchFolder.h"
 #include "unit/World.h"
 

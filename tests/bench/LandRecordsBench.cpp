@@ -6,6 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "proposal/LandRecordColumns.h"
 #include "unit/World.h"
 
 namespace plandesk::test {

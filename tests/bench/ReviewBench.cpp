@@ -5,6 +5,7 @@
 #include <benchmark/benchmark.h>
 
 #include "controls/User.h"
+#include "proposal/LandRecordColumns.h"
 #include "review/Review.h"
 #include "review/SilentSystem.h"
 #include "unit/World.h"

@@ -30,6 +30,7 @@
 #include "particulars/AnnexureACont.h"
 #include "particulars/PackedSections.h"
 #include "particulars/frmAnnexureA.h"
+#include "proposal/LandRecordColumns.h"
 
 namespace plandesk::contract {
 

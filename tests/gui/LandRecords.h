@@ -10,6 +10,7 @@
 #include "landrecords/ExtractForm.h"
 #include "landrecords/frmNaOrder.h"
 #include "landrecords/frmPlotExtractRelation.h"
+#include "proposal/LandRecordColumns.h"
 
 namespace plandesk::test {
 

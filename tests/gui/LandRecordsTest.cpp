@@ -281,3 +281,4 @@ private slots:
 static const Registered<LandRecordsTest> registered;
 
 #include "LandRecordsTest.moc"
+#include "proposal/LandRecordColumns.h"

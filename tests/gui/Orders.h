@@ -3,6 +3,7 @@
 #include "fees/frmDiscretionNewCase.h"
 #include "fees/frmDiscretionrevisedCase.h"
 #include "gui/LandRecords.h"
+#include "proposal/OrderColumns.h"
 #include "ulc/frmScrutinyULC.h"
 #include "ulc/frmULC20aDetails.h"
 #include "ulc/frmUS22.h"

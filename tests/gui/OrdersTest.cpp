@@ -130,3 +130,4 @@ private slots:
 static const Registered<OrdersTest> registered;
 
 #include "OrdersTest.moc"
+#include "proposal/OrderColumns.h"

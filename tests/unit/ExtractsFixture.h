@@ -9,6 +9,7 @@
 #include "fees/frmDocCheckList.h"
 #include "landrecords/ExtractForm.h"
 #include "landrecords/frmPlotExtractRelation.h"
+#include "proposal/LandRecordColumns.h"
 #include "unit/World.h"
 
 namespace plandesk::test {

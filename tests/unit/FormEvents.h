@@ -14,6 +14,7 @@
 #include "controls/Controls.h"
 #include "controls/User.h"
 #include "proposal/Grid.h"
+#include "proposal/LandRecordColumns.h"
 #include "reports/ReportCatalogue.h"
 #include "reports/ReportDesk.h"
 #include "unit/World.h"

@@ -5,6 +5,7 @@
 
 #include "base/Numbers.h"
 #include "proposal/ExtractGaps.h"
+#include "proposal/LandRecordColumns.h"
 
 // The gaps taken at their word: one after the other, every row moved at each. The measure for Renumbering.
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ExtractsFixture.h"
+#include "proposal/LandRecordColumns.h"
 #include "ulc/frmScrutinyULC.h"
 #include "ulc/frmULC20aDetails.h"
 #include "ulc/frmUS22.h"

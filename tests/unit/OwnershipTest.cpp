@@ -1,5 +1,6 @@
 #include "landrecords/Ownership.h"
 
+#include "proposal/LandRecordColumns.h"
 #include "unit/ExtractsFixture.h"
 
 namespace plandesk::test {

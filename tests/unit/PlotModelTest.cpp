@@ -9,6 +9,7 @@
 #include "controls/User.h"
 #include "document/DocumentBlocks.h"
 #include "landrecords/frmPlotExtractRelation.h"
+#include "proposal/LandRecordColumns.h"
 #include "proposal/Proposal.h"
 
 // The renumbering by changed plots against a second, slow one that takes every step at its word.

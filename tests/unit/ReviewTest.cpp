@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "particulars/frmAnnexureA.h"
+#include "proposal/LandRecordColumns.h"
 #include "review/FindQuestion.h"
 #include "review/GoTo.h"
 #include "review/OfficeReading.h"

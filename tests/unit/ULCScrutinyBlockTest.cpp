@@ -1,6 +1,7 @@
 #include "document/ULCScrutinyBlock.h"
 
 #include "OrdersFixture.h"
+#include "proposal/OrderColumns.h"
 
 namespace plandesk::test {
 namespace {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/User.h"
+#include "proposal/LandRecordColumns.h"
 #include "unit/World.h"
 
 namespace plandesk::test {

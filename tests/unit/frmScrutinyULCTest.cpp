@@ -2,6 +2,8 @@
 
 #include "OrdersFixture.h"
 #include "particulars/frmAnnexureA.h"
+#include "proposal/LandRecordColumns.h"
+#include "proposal/OrderColumns.h"
 
 namespace plandesk::test {
 namespace {

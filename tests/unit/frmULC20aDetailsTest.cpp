@@ -1,6 +1,7 @@
 #include "ulc/frmULC20aDetails.h"
 
 #include "OrdersFixture.h"
+#include "proposal/OrderColumns.h"
 #include "ulc/Schemes.h"
 
 namespace plandesk::test {

@@ -1,6 +1,7 @@
 #include "ulc/frmUS84.h"
 
 #include "OrdersFixture.h"
+#include "proposal/OrderColumns.h"
 
 namespace plandesk::test {
 namespace {

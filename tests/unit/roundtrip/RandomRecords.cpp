@@ -6,6 +6,7 @@
 #include "landrecords/ExtractForm.h"
 #include "landrecords/frmNaOrder.h"
 #include "landrecords/frmPlotExtractRelation.h"
+#include "proposal/LandRecordColumns.h"
 #include "ulc/frmScrutinyULC.h"
 #include "unit/roundtrip/RandomProposal.h"
 
