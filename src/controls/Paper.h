@@ -59,8 +59,8 @@ struct PaperSection {
 
 /// One report: what is printed at the head of each sheet, what follows once, and what is printed at each foot.
 struct Paper {
-    std::string_view name;
-    std::string_view title;  ///< of the preview's window and of the file
+    std::string_view name{};  ///< of the report
+    std::string_view title;   ///< of the preview's window and of the file
     std::vector<PaperSection> header{};
     std::vector<PaperSection> body{};
     std::vector<PaperSection> footer{};

@@ -2,65 +2,91 @@
 
 #include <algorithm>
 #include <string>
+#include <vector>
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "reports/Feeds.h"
 
 namespace plandesk {
 
-namespace {
+// Each stands in a file of its name in papers/.
+Report rptAnnexutreA();
+Report rptAnnexutreA1();
+Report rptAnnexutreA2();
+Report rptAnnexutreA3();
+Report rptAnnexutreA4();
+Report rptAnnexutreA5();
+Report rptPaymentDetails();
+Report rptPaymentDetails123();
+Report rptReciept();
+Report rptDocChecklist();
+Report rptDiscretionNewCase();
+Report rptDiscretionRevCase();
+Report rptFormofSupervision();
+Report rptNoticeforcommencementofwork();
+Report rptformforintimationofcompletionofworkuptoplinthlevel();
+Report forbldgcompletion();
+Report rptforpartoccupancycertificate();
+Report rptTDRfortransferringownership();
 
-constexpr PaperPlace pageWindow{.left = 0, .top = 0, .width = 15000, .height = 9500};
-constexpr PaperPlace receiptWindow{.left = 0, .top = 0, .width = 15000, .height = 8750};
-constexpr PaperPlace letterWindow{.left = 0, .top = 600, .width = 15000, .height = 8750};
-constexpr PaperPlace discretionWindow{.left = 50, .top = 600, .width = 15000, .height = 8750};
-
-constexpr ReportRow page(std::size_t number, std::string_view procedure = "") {
-    return {particularsPages.at(number), &feedParticulars, procedure, ShownBy::Procedure, pageWindow};
+std::span<const Report> reportCatalogue() {
+    static const std::array catalogue = std::to_array<Report>({
+        rptAnnexutreA(),
+        rptAnnexutreA1(),
+        rptAnnexutreA2(),
+        rptAnnexutreA3(),
+        rptAnnexutreA4(),
+        rptAnnexutreA5(),
+        rptPaymentDetails(),
+        rptPaymentDetails123(),
+        rptReciept(),
+        rptDocChecklist(),
+        rptDiscretionNewCase(),
+        rptDiscretionRevCase(),
+        rptFormofSupervision(),
+        rptNoticeforcommencementofwork(),
+        rptformforintimationofcompletionofworkuptoplinthlevel(),
+        forbldgcompletion(),
+        rptforpartoccupancycertificate(),
+        rptTDRfortransferringownership(),
+    });
+    return catalogue;
 }
 
-constexpr std::array catalogue = std::to_array<ReportRow>({
-    page(0, "fillParticulars"),
-    page(1),
-    page(2),
-    page(3),
-    page(4),
-    page(5),
-    {"rptPaymentDetails", &feedPayment, "fillPayment", ShownBy::Nobody, letterWindow},
-    {"rptPaymentDetails123", &feedPayment, "", ShownBy::Nobody, letterWindow},
-    {"rptReciept", &feedHeader, "fillHeader", ShownBy::Button, receiptWindow},
-    {"rptDocChecklist", &feedChecklist, "fillChecklist", ShownBy::Procedure, letterWindow},
-    {"rptDiscretionNewCase", &feedDiscretionNewCase, "", ShownBy::Button, discretionWindow},
-    {"rptDiscretionRevCase", &feedDiscretionRevCase, "", ShownBy::Button, discretionWindow},
-    {"rptFormofSupervision", &feedSupervision, "fillSupervision", ShownBy::Button, letterWindow},
-    {"rptNoticeforcommencementofwork", &feedCommencement, "fillCommencement", ShownBy::Button, letterWindow},
-    {"rptformforintimationofcompletionofworkuptoplinthlevel", &feedPlinthCompletion, "fillPlinthCompletion",
-     ShownBy::Button, letterWindow},
-    {"forbldgcompletion", &feedBuildingCompletion, "fillBuildingCompletion", ShownBy::Button, letterWindow},
-    {"rptforpartoccupancycertificate", &feedPartOccupancy, "fillPartOccupancy", ShownBy::Procedure, letterWindow},
-    {"rptTDRfortransferringownership", &feedTDROwnership, "fillTDROwnership", ShownBy::Button, letterWindow},
-});
+namespace {
 
-auto placeOf(std::string_view name) {
-    return std::ranges::find_if(catalogue, [&](const ReportRow& row) { return equalsIgnoringCase(row.name, name); });
+/// Place of the report in the catalogue; its size when there is none of that name.
+std::size_t placeOf(std::string_view name) {
+    const auto found = std::ranges::find_if(
+        reportCatalogue(), [&](const Report& report) { return equalsIgnoringCase(report.name, name); });
+    return static_cast<std::size_t>(found - reportCatalogue().begin());
 }
 
 }  // namespace
 
-std::span<const ReportRow> reportCatalogue() {
-    return catalogue;
-}
-
-const ReportRow& findReport(std::string_view name) {
-    const auto row = placeOf(name);
-    if (row == catalogue.end())
+const Report& findReport(std::string_view name) {
+    const std::size_t place = placeOf(name);
+    if (place == reportCatalogue().size())
         throw RuntimeError(ErrorNumber::ItemNotFound, "There is no report " + std::string(name));
-    return *row;
+    return reportCatalogue()[place];
 }
 
 bool isReport(std::string_view name) {
-    return placeOf(name) != catalogue.end();
+    return placeOf(name) < reportCatalogue().size();
+}
+
+std::span<const Paper> reportLayouts() {
+    static const std::vector<Paper> layouts = [] {
+        std::vector<Paper> made;
+        for (const Report& report : reportCatalogue())
+            made.emplace_back(report.layout()).name = report.name;
+        return made;
+    }();
+    return layouts;
+}
+
+const Paper* findLayout(std::string_view report) {
+    return isReport(report) ? &reportLayouts()[placeOf(report)] : nullptr;
 }
 
 }  // namespace plandesk

@@ -9,7 +9,6 @@
 #include "controls/Controls.h"
 #include "proposal/Proposal.h"
 #include "reports/ReportCatalogue.h"
-#include "reports/layouts/Layouts.h"
 
 namespace plandesk {
 
@@ -84,21 +83,20 @@ void ReportDesk::copyFrom(const ReportDesk& original) {
 }
 
 ReportDesk::Source& ReportDesk::touch(std::string_view report) {
-    const ReportRow& row = findReport(report);
+    const Report& row = findReport(report);
     const auto known = std::ranges::find(sources, &row, &Source::report);
     return known == sources.end() ? sources.emplace_back(Source{.report = &row, .window = row.window}) : *known;
 }
 
 Preview ReportDesk::filled(std::string_view report) const {
-    const ReportRow& row = findReport(report);
+    const Report& row = findReport(report);
     const auto known = std::ranges::find(sources, &row, &Source::report);
     Preview preview{.name = row.name, .data = {}, .paper = {}, .place = row.window};
     if (known != sources.end()) {
         preview.data = known->data;
         preview.place = known->window;
     }
-    const Paper* layout = findLayout(row.name);
-    preview.paper = layout ? fillPaper(*layout, preview.data) : Paper{.name = row.name, .title = row.name};
+    preview.paper = fillPaper(*findLayout(row.name), preview.data);
     preview.paper.date = proposal.screen.ports.clock.today();
     preview.paper.person = known == sources.end() ? "" : known->person;
     return preview;

@@ -15,7 +15,7 @@ namespace plandesk {
 
 class Proposal;
 class Recordset;
-struct ReportRow;
+struct Report;
 
 /// What a report was given: a copy, which no later typing changes.
 struct ReportData {
@@ -92,7 +92,7 @@ public:
 private:
     /// A report that was touched; it stays until all are unloaded.
     struct Source {
-        const ReportRow* report;
+        const Report* report;
         ReportData data{};
         PaperPlace window;
         std::string person{};  ///< who prepared what it was given

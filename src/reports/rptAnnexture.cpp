@@ -4,16 +4,16 @@
 
 #include "base/RuntimeError.h"
 #include "proposal/Proposal.h"
-#include "reports/Feeds.h"
 #include "reports/ReportCatalogue.h"
 #include "reports/ReportDesk.h"
+#include "reports/papers/Particulars.h"
 
 namespace plandesk {
 
 namespace {
 
 void give(ReportDesk& desk, const Feed& feed, const Recordset* table) {
-    for (const ReportRow& row : reportCatalogue())
+    for (const Report& row : reportCatalogue())
         if (row.feed == &feed) {
             desk.bind(row.name, table ? ReportData(*table) : ReportData());
             desk.place(row.name, row.window);
@@ -23,7 +23,7 @@ void give(ReportDesk& desk, const Feed& feed, const Recordset* table) {
 }  // namespace
 
 bool rptAnnexture::fill(std::string_view report) {
-    const ReportRow& row = findReport(report);
+    const Report& row = findReport(report);
     if (row.feed == &feedParticulars)
         return fillParticulars();
     give(desk, *row.feed, feedTable(*row.feed, proposal).get());

@@ -71,7 +71,7 @@ void mdiInterface::fillCommands() {
     named["createAllTables"] = [this] { proposal.tables.createAllTables(); };
     named["bindParticularsPages"] = [this] { plandesk::bindParticularsPages(proposal, *desk); };
     named["closeReports"] = [this] { closeReports(); };
-    for (const ReportRow& report : reportCatalogue())
+    for (const Report& report : reportCatalogue())
         if (!report.procedure.empty())
             named[std::string(report.procedure)] = [this, &report] { feeds->fill(report.name); };
     named["readSections"] = [this] { reader.readSections(); };

@@ -12,8 +12,8 @@
 #include "desktop/PreviewWindow.h"
 #include "desktop/Theme.h"
 #include "gui/Session.h"
+#include "reports/ReportCatalogue.h"
 #include "reports/ReportDesk.h"
-#include "reports/layouts/Layouts.h"
 
 namespace {
 

@@ -17,7 +17,7 @@ constexpr std::string_view last = "rptDiscretionRevCase";
 /// Every feed once; one feeds the six pages, and one both payment reports.
 void feedAll(Proposal& proposal) {
     const Feed* fed = nullptr;
-    for (const ReportRow& report : reportCatalogue())
+    for (const Report& report : reportCatalogue())
         if (std::exchange(fed, report.feed) != report.feed)
             proposal.commands.feed(report.name);
 }
@@ -39,7 +39,7 @@ void allPapersFilled(benchmark::State& state) {
     world.fillFirstPage();
     feedAll(world.proposal);
     for (auto round : state)
-        for (const ReportRow& report : reportCatalogue())
+        for (const Report& report : reportCatalogue())
             benchmark::DoNotOptimize(world.shell.reports().filled(report.name));
 }
 BENCHMARK(allPapersFilled)->Unit(benchmark::kMicrosecond);

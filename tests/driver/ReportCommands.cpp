@@ -6,7 +6,6 @@
 #include "driver/Commands.h"
 #include "driver/Session.h"
 #include "reports/ReportCatalogue.h"
-#include "reports/layouts/Layouts.h"
 
 namespace plandesk::driver {
 

@@ -8,7 +8,7 @@
 #include "desktop/PaperText.h"
 #include "gui/PaperTools.h"
 #include "gui/Registry.h"
-#include "reports/layouts/Layouts.h"
+#include "reports/ReportCatalogue.h"
 
 using namespace plandesk;
 using namespace plandesk::test;

@@ -2,7 +2,7 @@
 
 #include "gui/PaperTools.h"
 #include "gui/Registry.h"
-#include "reports/layouts/Layouts.h"
+#include "reports/ReportCatalogue.h"
 
 using namespace plandesk;
 using namespace plandesk::test;

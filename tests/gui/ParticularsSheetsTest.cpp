@@ -4,7 +4,7 @@
 #include "desktop/PaperPdf.h"
 #include "gui/PaperTools.h"
 #include "gui/Registry.h"
-#include "reports/layouts/Layouts.h"
+#include "reports/ReportCatalogue.h"
 
 // The six pages of the Particulars of Development on sheets.
 

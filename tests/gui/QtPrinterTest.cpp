@@ -10,7 +10,7 @@
 #include "desktop/PaperPages.h"
 #include "gui/PaperTools.h"
 #include "gui/Registry.h"
-#include "reports/layouts/Layouts.h"
+#include "reports/ReportCatalogue.h"
 
 using namespace plandesk;
 using namespace plandesk::test;

@@ -11,7 +11,7 @@
 #include "desktop/PaperPages.h"
 #include "desktop/PaperPdf.h"
 #include "desktop/PaperText.h"
-#include "reports/layouts/Layouts.h"
+#include "reports/ReportCatalogue.h"
 
 namespace {
 

@@ -6,9 +6,7 @@
 
 #include "base/RuntimeError.h"
 #include "base/Text.h"
-#include "reports/Feeds.h"
 #include "reports/ReportCatalogue.h"
-#include "reports/layouts/Layouts.h"
 #include "unit/Sources.h"
 #include "unit/World.h"
 
@@ -104,7 +102,7 @@ TEST_F(Feeds, AControlThatIsNotThereEndsTheFeed) {
 
 TEST_F(Feeds, EveryFeedOfTheCatalogueIsSound) {
     std::set<const Feed*> seen;
-    for (const ReportRow& report : reportCatalogue()) {
+    for (const Report& report : reportCatalogue()) {
         if (seen.insert(report.feed).second) {
             EXPECT_EQ(feedFaults(*report.feed, proposal), std::vector<std::string>{}) << report.name;
         }
@@ -133,9 +131,18 @@ TEST(ReportCatalogue, EveryFieldOfALayoutHasItsColumn) {
 }
 
 TEST(ReportCatalogue, EveryReportHasItsLayout) {
-    for (const ReportRow& row : reportCatalogue())
+    for (const Report& row : reportCatalogue())
         EXPECT_NE(findLayout(row.name), nullptr) << row.name;
     EXPECT_EQ(reportCatalogue().size(), reportLayouts().size());
+}
+
+TEST(ReportCatalogue, EveryReportThatHasAFileIsListed) {
+    const auto reports = inSources(PLANDESK_SOURCES, R"re(\nReport (\w+)\(\) \{)re");
+    EXPECT_EQ(reports.size(), reportCatalogue().size());
+    for (const auto& [name, file] : reports) {
+        EXPECT_TRUE(isReport(name)) << name << " of " << file << " is not in the catalogue";
+        EXPECT_EQ(file, name + ".cpp");
+    }
 }
 
 TEST(ReportCatalogue, EveryReportNamedInTheSourcesIsThere) {

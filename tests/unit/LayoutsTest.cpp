@@ -1,5 +1,3 @@
-#include "reports/layouts/Layouts.h"
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -10,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "driver/Script.h"
+#include "reports/ReportCatalogue.h"
 
 namespace plandesk::test {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "reports/layouts/Layouts.h"
+#include "reports/ReportCatalogue.h"
 
 namespace plandesk::test {
 namespace {

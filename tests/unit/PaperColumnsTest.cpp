@@ -5,9 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "base/Text.h"
-#include "reports/Feeds.h"
 #include "reports/ReportCatalogue.h"
-#include "reports/layouts/Layouts.h"
+#include "reports/papers/Particulars.h"
 
 // What is fed and what is printed: which columns stand on no paper at all.
 
@@ -28,7 +27,7 @@ void takeFields(const Paper& paper, Names& fields) {
 /// The columns of the feed that none of its papers prints.
 Names unprinted(const Feed& feed) {
     Names fields;
-    for (const ReportRow& report : reportCatalogue())
+    for (const Report& report : reportCatalogue())
         if (report.feed == &feed)
             if (const Paper* paper = findLayout(report.name))
                 takeFields(*paper, fields);
@@ -49,7 +48,7 @@ TEST(PaperColumns, OfTheParticularsAllStandOnAPageButThoseThatTheWalkSpoils) {
 
 TEST(PaperColumns, OfTheOthersAllArePrintedButOneThatIsNeverFed) {
     std::map<std::string_view, Names> lost;
-    for (const ReportRow& report : reportCatalogue())
+    for (const Report& report : reportCatalogue())
         if (const Names names = unprinted(*report.feed); report.feed != &feedParticulars && !names.empty())
             lost[report.name] = names;
     EXPECT_EQ(lost, (std::map<std::string_view, Names>{{"rptNoticeforcommencementofwork", {"FLD12"}}}));

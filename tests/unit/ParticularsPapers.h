@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "reports/layouts/Layouts.h"
+#include "reports/ReportCatalogue.h"
 
 namespace plandesk::test {
 

@@ -9,7 +9,7 @@
 #include "base/Text.h"
 #include "controls/Naming.h"
 #include "controls/User.h"
-#include "reports/layouts/Layouts.h"
+#include "reports/ReportCatalogue.h"
 #include "unit/LayoutCheck.h"
 #include "unit/World.h"
 

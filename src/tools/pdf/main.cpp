@@ -72,7 +72,7 @@ int writeReports(const Options& options) {
     proposal.isDirectPrint = true;  // nothing is shown
     std::vector<Paper> papers;
     std::set<const Feed*> fed;
-    for (const ReportRow& report : reportCatalogue()) {
+    for (const Report& report : reportCatalogue()) {
         const auto& wanted = options.reports;
         if (!wanted.empty() && std::ranges::find(wanted, report.name) == wanted.end())
             continue;

@@ -1,14 +1,27 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 namespace plandesk {
 
 using namespace layouts;
 
+namespace {
+
+constexpr std::string_view form = "frmforpartoccupancycertificate";
+constexpr std::array rows = std::to_array<FeedRow>({
+    {"FLD1", 500, FeedRule::Trimmed, "txtOccupancyCertificate(0)", form},
+    {"FLD2", 500, FeedRule::Date, "DTPicker1", form},
+    {"FLD3", 500, FeedRule::Trimmed, "txtOccupancyCertificate(2)", form},
+    {"FLD4", 500, FeedRule::Trimmed, "txtOccupancyCertificate(3)", form},
+    {"FLD5", 500, FeedRule::Trimmed, "txtOccupancyCertificate(4)", form},
+    {"FLD6", 500, FeedRule::Date, "DTPicker2", form},
+});
+constexpr auto columns = columnsOf(rows);
+constexpr Feed feed{.rows = rows, .columns = columns};
+
 // Reference, report and document facility are filled in by pen.
-Paper rptforpartoccupancycertificate() {
+Paper paper() {
     return {
-        .name = "rptforpartoccupancycertificate",
         .title = "Part occupancy certificate",
         .body =
             {
@@ -57,6 +70,19 @@ Paper rptforpartoccupancycertificate() {
                      pair("Attach Document Facility :"),
                  }},
             },
+    };
+}
+
+}  // namespace
+
+Report rptforpartoccupancycertificate() {
+    return {
+        .name = "rptforpartoccupancycertificate",
+        .feed = &feed,
+        .procedure = "fillPartOccupancy",
+        .shownBy = ShownBy::Procedure,
+        .window = letterWindow,
+        .layout = paper,
     };
 }
 

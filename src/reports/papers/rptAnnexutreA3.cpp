@@ -1,5 +1,4 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Particulars.h"
+#include "reports/papers/Particulars.h"
 
 namespace plandesk {
 
@@ -61,15 +60,19 @@ Questions accessToAccessoryBuildings() {
     };
 }
 
-}  // namespace
-
-Paper rptAnnexutreA3() {
-    return particularsPage("rptAnnexutreA3", "Particulars of Development, page 4",
+Paper paper() {
+    return particularsPage("Particulars of Development, page 4",
                            {
                                questions({fireAndParking()}),
                                note("NOTE : INDICATE DETAILS ON THE BUILDING PLAN AS IN PROFORMA 1 "),
                                questions({projections(), accessToAccessoryBuildings()}),
                            });
+}
+
+}  // namespace
+
+Report rptAnnexutreA3() {
+    return particularsReport("rptAnnexutreA3", paper);
 }
 
 }  // namespace plandesk

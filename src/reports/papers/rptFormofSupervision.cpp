@@ -1,13 +1,31 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 namespace plandesk {
 
 using namespace layouts;
 
-Paper rptFormofSupervision() {
+namespace {
+
+constexpr std::string_view form = "frmofsupervision";
+constexpr std::array rows = std::to_array<FeedRow>({
+    {"Officername", 200, FeedRule::Trimmed, "txtOfficername", form},
+    {"Building", 200, FeedRule::Trimmed, "txtBuilding", form},
+    {"FPNo", 200, FeedRule::Trimmed, "txtFPNo", form},
+    {"Scheme", 200, FeedRule::Trimmed, "txtSchemeno", form},
+    {"Road", 200, FeedRule::Trimmed, "txtRoad", form},
+    {"Ward", 200, FeedRule::Trimmed, "txtWard", form},
+    {"Sector", 200, FeedRule::Trimmed, "txtSector", form},
+    {"EngineerName", 200, FeedRule::Trimmed, "txtEngineer", form},
+    {"Licenceno", 200, FeedRule::Trimmed, "txtLicencea", form},
+    {"AddressEngineer", 200, FeedRule::Trimmed, "txtAddengineer", form},
+    {"DTPicker", 200, FeedRule::Date, "DTPicker1", form},
+});
+constexpr auto columns = columnsOf(rows);
+constexpr Feed feed{.rows = rows, .columns = columns};
+
+Paper paper() {
     return {
-        .name = "rptFormofSupervision",
         .title = "Form of supervision",
         .body =
             {
@@ -58,6 +76,19 @@ Paper rptFormofSupervision() {
                      pair("Date :", {field("DTPicker")}),
                  }},
             },
+    };
+}
+
+}  // namespace
+
+Report rptFormofSupervision() {
+    return {
+        .name = "rptFormofSupervision",
+        .feed = &feed,
+        .procedure = "fillSupervision",
+        .shownBy = ShownBy::Button,
+        .window = letterWindow,
+        .layout = paper,
     };
 }
 

@@ -5,7 +5,7 @@
 
 #include "controls/Controls.h"
 #include "proposal/Proposal.h"
-#include "reports/Feeds.h"
+#include "reports/papers/Particulars.h"
 
 namespace plandesk {
 

@@ -1,14 +1,15 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Particulars.h"
+#include "reports/papers/Particulars.h"
 
 namespace plandesk {
 
 using namespace layouts;
 
+namespace {
+
 // Asks the last questions of the page before it again, under other numbers.
-Paper rptAnnexutreA5() {
+Paper paper() {
     return particularsPage(
-        "rptAnnexutreA5", "Particulars of Development, page 6",
+        "Particulars of Development, page 6",
         {
             questions({lastQuestions(
                 {.materials = "30.", .closets = "31.", .water = "32.", .sewer = "33.", .stacking = "34."},
@@ -16,6 +17,12 @@ Paper rptAnnexutreA5() {
             declaration(),
             signature(),
         });
+}
+
+}  // namespace
+
+Report rptAnnexutreA5() {
+    return particularsReport("rptAnnexutreA5", paper);
 }
 
 }  // namespace plandesk

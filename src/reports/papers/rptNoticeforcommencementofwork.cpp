@@ -1,14 +1,38 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 namespace plandesk {
 
 using namespace layouts;
 
+namespace {
+
+constexpr std::string_view form = "frmnoticeofcommencementofwork";
+// Member n of the control array goes to column n + 1; the gap in the array stays a gap.
+constexpr std::array rows = std::to_array<FeedRow>({
+    {"FLD1", 500, FeedRule::Trimmed, "txtNoticeForCommencment(0)", form},
+    {"FLD2", 500, FeedRule::Trimmed, "txtNoticeForCommencment(1)", form},
+    {"FLD3", 500, FeedRule::Trimmed, "txtNoticeForCommencment(2)", form},
+    {"FLD4", 500, FeedRule::Trimmed, "txtNoticeForCommencment(3)", form},
+    {"FLD5", 500, FeedRule::Trimmed, "txtNoticeForCommencment(4)", form},
+    {"FLD6", 500, FeedRule::Trimmed, "txtNoticeForCommencment(5)", form},
+    {"FLD7", 500, FeedRule::Date, "DTPicker1", form},
+    {"FLD8", 500, FeedRule::Trimmed, "txtNoticeForCommencment(7)", form},
+    {"FLD9", 500, FeedRule::Date, "DTPicker2", form},
+    {"FLD10", 500, FeedRule::Trimmed, "txtNoticeForCommencment(9)", form},
+    {"FLD11", 500, FeedRule::Trimmed, "txtNoticeForCommencment(10)", form},
+    {"FLD12", 500, FeedRule::Nothing},
+    {"FLD13", 500, FeedRule::Trimmed, "txtNoticeForCommencment(12)", form},
+    {"FLD14", 500, FeedRule::Trimmed, "txtNoticeForCommencment(13)", form},
+    {"FLD15", 500, FeedRule::YesNo, "possessionreciept", form},
+    {"FLD16", 500, FeedRule::Trimmed, "txtNoticeForCommencment(15)", form},
+});
+constexpr auto columns = columnsOf(rows);
+constexpr Feed feed{.rows = rows, .columns = columns};
+
 // FLD12 has no blank.
-Paper rptNoticeforcommencementofwork() {
+Paper paper() {
     return {
-        .name = "rptNoticeforcommencementofwork",
         .title = "Notice for commencement of work",
         .body =
             {
@@ -65,6 +89,19 @@ Paper rptNoticeforcommencementofwork() {
                      pair("page number : ", {field("FLD16")}),
                  }},
             },
+    };
+}
+
+}  // namespace
+
+Report rptNoticeforcommencementofwork() {
+    return {
+        .name = "rptNoticeforcommencementofwork",
+        .feed = &feed,
+        .procedure = "fillCommencement",
+        .shownBy = ShownBy::Button,
+        .window = letterWindow,
+        .layout = paper,
     };
 }
 

@@ -1,5 +1,5 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 namespace plandesk {
 
@@ -7,16 +7,34 @@ using namespace layouts;
 
 namespace {
 
+constexpr std::string_view form = "frmDiscretionNewCase";
+constexpr std::array rows = std::to_array<FeedRow>({
+    {"FLD1", 200, FeedRule::Trimmed, "txtRule(0)", form},
+    {"FLD2", 200, FeedRule::Trimmed, "txtRule(1)", form},
+    {"FLD3", 200, FeedRule::Trimmed, "txtRule(2)", form},
+    {"FLD4", 200, FeedRule::Trimmed, "txtRule(3)", form},
+    {"FLD5", 200, FeedRule::Trimmed, "txtRule(4)", form},
+    {"FLD6", 200, FeedRule::Trimmed, "txtRule(5)", form},
+    {"FLD7", 200, FeedRule::Trimmed, "txtRule(6)", form},
+    {"FLD8", 200, FeedRule::Trimmed, "txtRule(7)", form},
+    {"FLD9", 200, FeedRule::Trimmed, "txtRule(8)", form},
+    {"FLD10", 200, FeedRule::Trimmed, "txtRule(9)", form},
+    {"FLD11", 200, FeedRule::Trimmed, "txtRule(10)", form},
+    {"FLD12", 200, FeedRule::Trimmed, "txtRule(11)", form},
+    {"FLD13", 200, FeedRule::Trimmed, "txtRule(12)", form},
+    {"FLD14", 200, FeedRule::Trimmed, "txtRule(13)", form},
+    {"FLD15", 200, FeedRule::Trimmed, "txtRule(14)", form},
+});
+constexpr auto columns = columnsOf(rows);
+constexpr Feed feed{.rows = rows, .columns = columns};
+
 // The first nine rows have no number on paper.
 PaperRow rule(std::string_view number, std::string_view words, std::string_view remark) {
     return {{number.empty() ? PaperCell{} : PaperCell{text(number)}, {text(words)}, {field(remark)}}};
 }
 
-}  // namespace
-
-Paper rptDiscretionNewCase() {
+Paper paper() {
     return {
-        .name = "rptDiscretionNewCase",
         .title = "Discretion : New Case",
         .header = {{SectionKind::Heading,
                     {line({text("Discretion : New Case")}), line({text("%D")}, RowStyle::Right)}}},
@@ -43,6 +61,18 @@ Paper rptDiscretionNewCase() {
                 },
             .widths = {8, 42, 50},
         }},
+    };
+}
+
+}  // namespace
+
+Report rptDiscretionNewCase() {
+    return {
+        .name = "rptDiscretionNewCase",
+        .feed = &feed,
+        .shownBy = ShownBy::Button,
+        .window = discretionWindow,
+        .layout = paper,
     };
 }
 

@@ -1,5 +1,4 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Particulars.h"
+#include "reports/papers/Particulars.h"
 
 namespace plandesk {
 
@@ -44,11 +43,9 @@ Questions deviationsAndLevels() {
     };
 }
 
-}  // namespace
-
-Paper rptAnnexutreA4() {
+Paper paper() {
     return particularsPage(
-        "rptAnnexutreA4", "Particulars of Development, page 5",
+        "Particulars of Development, page 5",
         {
             questions({wallToWaterCourse(), deviationsAndLevels(),
                        lastQuestions(
@@ -57,6 +54,12 @@ Paper rptAnnexutreA4() {
             declaration(),
             signature(),
         });
+}
+
+}  // namespace
+
+Report rptAnnexutreA4() {
+    return particularsReport("rptAnnexutreA4", paper);
 }
 
 }  // namespace plandesk

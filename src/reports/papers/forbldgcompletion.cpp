@@ -1,13 +1,34 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 namespace plandesk {
 
 using namespace layouts;
 
-Paper forbldgcompletion() {
+namespace {
+
+constexpr std::string_view form = "frmbuildingcompletioncertificate";
+constexpr std::array rows = std::to_array<FeedRow>({
+    {"FLD1", 500, FeedRule::Trimmed, "txtCompletionCertificate(0)", form},
+    {"FLD2", 500, FeedRule::Trimmed, "txtCompletionCertificate(1)", form},
+    {"FLD3", 500, FeedRule::Trimmed, "txtCompletionCertificate(2)", form},
+    {"FLD4", 500, FeedRule::Trimmed, "txtCompletionCertificate(3)", form},
+    {"FLD5", 500, FeedRule::Trimmed, "txtCompletionCertificate(4)", form},
+    {"FLD6", 500, FeedRule::Trimmed, "txtCompletionCertificate(5)", form},
+    {"FLD7", 500, FeedRule::Date, "DTPicker1", form},
+    {"FLD8", 500, FeedRule::Trimmed, "txtCompletionCertificate(7)", form},
+    {"FLD9", 500, FeedRule::Trimmed, "txtCompletionCertificate(8)", form},
+    {"FLD10", 500, FeedRule::Date, "DTPicker2", form},
+    {"FLD11", 500, FeedRule::Trimmed, "txtCompletionCertificate(10)", form},
+    {"FLD12", 500, FeedRule::Trimmed, "txtCompletionCertificate(11)", form},
+    {"FLD13", 500, FeedRule::Trimmed, "txtCompletionCertificate(12)", form},
+    {"FLD14", 500, FeedRule::Date, "DTPicker3", form},
+});
+constexpr auto columns = columnsOf(rows);
+constexpr Feed feed{.rows = rows, .columns = columns};
+
+Paper paper() {
     return {
-        .name = "forbldgcompletion",
         .title = "Building completion certificate",
         .body =
             {
@@ -79,6 +100,19 @@ Paper forbldgcompletion() {
                      pair("Date :", {field("FLD14")}),
                  }},
             },
+    };
+}
+
+}  // namespace
+
+Report forbldgcompletion() {
+    return {
+        .name = "forbldgcompletion",
+        .feed = &feed,
+        .procedure = "fillBuildingCompletion",
+        .shownBy = ShownBy::Button,
+        .window = letterWindow,
+        .layout = paper,
     };
 }
 

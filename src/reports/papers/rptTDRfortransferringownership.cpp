@@ -1,13 +1,42 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 namespace plandesk {
 
 using namespace layouts;
 
-Paper rptTDRfortransferringownership() {
+namespace {
+
+constexpr std::string_view form = "frmtdrfortransferringownership";
+constexpr std::array rows = std::to_array<FeedRow>({
+    {"FLD1", 500, FeedRule::Trimmed, "txtTDRTransOwn(0)", form},
+    {"FLD2", 500, FeedRule::Trimmed, "txtTDRTransOwn(1)", form},
+    {"FLD3", 500, FeedRule::Trimmed, "txtTDRTransOwn(2)", form},
+    {"FLD4", 500, FeedRule::Trimmed, "txtTDRTransOwn(3)", form},
+    {"FLD5", 500, FeedRule::Trimmed, "txtTDRTransOwn(4)", form},
+    {"FLD6", 500, FeedRule::Trimmed, "txtTDRTransOwn(5)", form},
+    {"FLD7", 500, FeedRule::Trimmed, "txtTDRTransOwn(6)", form},
+    {"FLD8", 500, FeedRule::Trimmed, "txtTDRTransOwn(7)", form},
+    {"FLD9", 500, FeedRule::Trimmed, "txtTDRTransOwn(8)", form},
+    {"FLD10", 500, FeedRule::Trimmed, "txtTDRTransOwn(9)", form},
+    {"FLD11", 500, FeedRule::Trimmed, "txtTDRTransOwn(10)", form},
+    {"FLD12", 500, FeedRule::Trimmed, "txtTDRTransOwn(11)", form},
+    {"FLD13", 500, FeedRule::Trimmed, "txtTDRTransOwn(12)", form},
+    {"FLD14", 500, FeedRule::Trimmed, "txtTDRTransOwn(13)", form},
+    {"FLD15", 500, FeedRule::Trimmed, "txtTDRTransOwn(14)", form},
+    {"FLD16", 500, FeedRule::Trimmed, "txtTDRTransOwn(15)", form},
+    {"FLD17", 500, FeedRule::Trimmed, "txtTDRTransOwn(16)", form},
+    {"FLD18", 500, FeedRule::Trimmed, "txtTDRTransOwn(17)", form},
+    {"FLD19", 500, FeedRule::Trimmed, "txtTDRTransOwn(18)", form},
+    {"FLD20", 500, FeedRule::Trimmed, "txtTDRTransOwn(19)", form},
+    {"FLD21", 500, FeedRule::Trimmed, "txtTDRTransOwn(20)", form},
+    {"FLD22", 500, FeedRule::Trimmed, "txtTDRTransOwn(21)", form},
+});
+constexpr auto columns = columnsOf(rows);
+constexpr Feed feed{.rows = rows, .columns = columns};
+
+Paper paper() {
     return {
-        .name = "rptTDRfortransferringownership",
         .title = "TDR for transferring ownership",
         .body =
             {
@@ -83,6 +112,19 @@ Paper rptTDRfortransferringownership() {
                      pair("Address :", {field("FLD22")}),
                  }},
             },
+    };
+}
+
+}  // namespace
+
+Report rptTDRfortransferringownership() {
+    return {
+        .name = "rptTDRfortransferringownership",
+        .feed = &feed,
+        .procedure = "fillTDROwnership",
+        .shownBy = ShownBy::Button,
+        .window = letterWindow,
+        .layout = paper,
     };
 }
 

@@ -1,11 +1,28 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 namespace plandesk {
 
 using namespace layouts;
 
 namespace {
+
+constexpr std::string_view form = "frmAnnexureA";
+constexpr std::array rows = std::to_array<FeedRow>({
+    {"NameOfApplcant", 200, FeedRule::Upper, "txtApplicantNm", form},
+    {"AddOfApplcant", 250, FeedRule::Upper, "txtApplicantAddr", form},
+    {"BldgNo", 250, FeedRule::Fixed, "....."},
+    {"vilage", 250, FeedRule::Fixed, "----------"},
+    {"Sector", 250, FeedRule::Upper, "cboSector", form},
+    {"wardNO", 250, FeedRule::Fixed, "-------"},
+    {"CTSNO", 250, FeedRule::Upper, "txtCTSNo", form},
+    {"plotno", 250, FeedRule::Upper, "txtpltno", form},
+    {"FinalPlotNo", 250, FeedRule::Upper, "txtFPNo", form},
+    {"archName", 250, FeedRule::Upper, "txtArchNm", form},
+    {"LicNo", 250, FeedRule::Upper, "txtRegNm", form},
+});
+constexpr auto columns = columnsOf(rows);
+constexpr Feed feed{.rows = rows, .columns = columns, .table = &Tables::rsReportHeader};
 
 PaperRow enclosure(std::string_view number, std::string_view words) {
     return line({text(number), text(words)}, RowStyle::Indented);
@@ -30,11 +47,8 @@ std::vector<PaperRow> enclosures() {
     };
 }
 
-}  // namespace
-
-Paper rptReciept() {
+Paper paper() {
     return {
-        .name = "rptReciept",
         .title = "Application for development permission",
         .body =
             {
@@ -95,6 +109,19 @@ Paper rptReciept() {
                      pair("Address of Owner :", {field("AddOfApplcant")}),
                  }},
             },
+    };
+}
+
+}  // namespace
+
+Report rptReciept() {
+    return {
+        .name = "rptReciept",
+        .feed = &feed,
+        .procedure = "fillHeader",
+        .shownBy = ShownBy::Button,
+        .window = receiptWindow,
+        .layout = paper,
     };
 }
 

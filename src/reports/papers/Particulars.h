@@ -1,13 +1,22 @@
 #pragma once
 
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 // What the six pages of the Particulars of Development share.
 
-namespace plandesk::layouts {
+namespace plandesk {
+
+/// What feeds all six.
+extern const Feed feedParticulars;
+
+/// The report of that page, with its layout. `procedure` as of Report.
+Report particularsReport(std::string_view name, Paper (*layout)(), std::string_view procedure = {});
+
+namespace layouts {
 
 /// A page with these sections, and at each foot the sentence on dimensions.
-Paper particularsPage(std::string_view name, std::string_view title, std::vector<PaperSection> body);
+Paper particularsPage(std::string_view title, std::vector<PaperSection> body);
 
 using Questions = std::vector<PaperRow>;
 
@@ -39,4 +48,5 @@ Questions lastQuestions(const LastNumbers& numbers, std::string_view materials);
 PaperSection declaration();
 PaperSection signature();
 
-}  // namespace plandesk::layouts
+}  // namespace layouts
+}  // namespace plandesk

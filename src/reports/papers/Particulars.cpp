@@ -1,10 +1,22 @@
-#include "reports/layouts/Particulars.h"
+#include "reports/papers/Particulars.h"
 
-namespace plandesk::layouts {
+namespace plandesk {
 
-Paper particularsPage(std::string_view name, std::string_view title, std::vector<PaperSection> body) {
+Report particularsReport(std::string_view name, Paper (*layout)(), std::string_view procedure) {
     return {
         .name = name,
+        .feed = &feedParticulars,
+        .procedure = procedure,
+        .shownBy = ShownBy::Procedure,
+        .window = pageWindow,
+        .layout = layout,
+    };
+}
+
+namespace layouts {
+
+Paper particularsPage(std::string_view title, std::vector<PaperSection> body) {
+    return {
         .title = title,
         .body = std::move(body),
         .footer = {{SectionKind::Letter,
@@ -63,4 +75,5 @@ PaperSection signature() {
             }};
 }
 
-}  // namespace plandesk::layouts
+}  // namespace layouts
+}  // namespace plandesk

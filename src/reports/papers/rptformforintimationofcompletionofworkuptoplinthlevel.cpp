@@ -1,13 +1,34 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 namespace plandesk {
 
 using namespace layouts;
 
-Paper rptformforintimationofcompletionofworkuptoplinthlevel() {
+namespace {
+
+constexpr std::string_view form = "frmcompletionuptoplinthlevel";
+constexpr std::array rows = std::to_array<FeedRow>({
+    {"FLD1", 500, FeedRule::Trimmed, "txtCompletionPlint(0)", form},
+    {"FLD2", 500, FeedRule::Trimmed, "txtCompletionPlint(1)", form},
+    {"FLD3", 500, FeedRule::Trimmed, "txtCompletionPlint(2)", form},
+    {"FLD4", 500, FeedRule::Trimmed, "txtCompletionPlint(3)", form},
+    {"FLD5", 500, FeedRule::Trimmed, "txtCompletionPlint(4)", form},
+    {"FLD6", 500, FeedRule::Trimmed, "txtCompletionPlint(5)", form},
+    {"FLD7", 500, FeedRule::Trimmed, "txtCompletionPlint(6)", form},
+    {"FLD8", 500, FeedRule::Trimmed, "txtCompletionPlint(7)", form},
+    {"FLD9", 500, FeedRule::Date, "DTPicker1", form},
+    {"FLD10", 500, FeedRule::Trimmed, "txtCompletionPlint(9)", form},
+    {"FLD11", 500, FeedRule::Trimmed, "txtCompletionPlint(10)", form},
+    {"FLD12", 500, FeedRule::Date, "DTPicker2", form},
+    {"FLD13", 500, FeedRule::YesNo, "IsRightsTransfered", form},
+    {"FLD14", 500, FeedRule::Trimmed, "txtCompletionPlint(13)", form},
+});
+constexpr auto columns = columnsOf(rows);
+constexpr Feed feed{.rows = rows, .columns = columns};
+
+Paper paper() {
     return {
-        .name = "rptformforintimationofcompletionofworkuptoplinthlevel",
         .title = "Intimation of completion up to plinth level",
         .body =
             {
@@ -68,6 +89,19 @@ Paper rptformforintimationofcompletionofworkuptoplinthlevel() {
                      pair("Remarks  :", {field("FLD14")}),
                  }},
             },
+    };
+}
+
+}  // namespace
+
+Report rptformforintimationofcompletionofworkuptoplinthlevel() {
+    return {
+        .name = "rptformforintimationofcompletionofworkuptoplinthlevel",
+        .feed = &feed,
+        .procedure = "fillPlinthCompletion",
+        .shownBy = ShownBy::Button,
+        .window = letterWindow,
+        .layout = paper,
     };
 }
 

@@ -1,5 +1,4 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Particulars.h"
+#include "reports/papers/Particulars.h"
 
 namespace plandesk {
 
@@ -72,11 +71,9 @@ Questions plansToUse() {
     };
 }
 
-}  // namespace
-
-Paper rptAnnexutreA() {
+Paper paper() {
     Paper paper = particularsPage(
-        "rptAnnexutreA", "Particulars of Development, page 1",
+        "Particulars of Development, page 1",
         {
             questions({applicantToPlot()}),
             note("NOTE : INDICATE DETAILS ON THE SITE/BUILDING PLAN AS IN PROFORMA 1 ENCLOSED HEREWITH "),
@@ -90,6 +87,12 @@ Paper rptAnnexutreA() {
                          line({text("(Part of Appendix A - Item 6)")}),
                      }}};
     return paper;
+}
+
+}  // namespace
+
+Report rptAnnexutreA() {
+    return particularsReport("rptAnnexutreA", paper, "fillParticulars");
 }
 
 }  // namespace plandesk

@@ -1,5 +1,4 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Particulars.h"
+#include "reports/papers/Particulars.h"
 
 namespace plandesk {
 
@@ -74,15 +73,19 @@ Questions chowksAndLifts() {
     };
 }
 
-}  // namespace
-
-Paper rptAnnexutreA2() {
-    return particularsPage("rptAnnexutreA2", "Particulars of Development, page 3",
+Paper paper() {
+    return particularsPage("Particulars of Development, page 3",
                            {
                                questions({floorAreas()}),
                                note("NOTE : INDICATE DETAILS ON THE BUILDING PLAN AS IN PROFORM A1 "),
                                questions({openSpaces(), chowksAndLifts()}),
                            });
+}
+
+}  // namespace
+
+Report rptAnnexutreA2() {
+    return particularsReport("rptAnnexutreA2", paper);
 }
 
 }  // namespace plandesk

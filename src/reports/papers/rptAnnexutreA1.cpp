@@ -1,5 +1,4 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Particulars.h"
+#include "reports/papers/Particulars.h"
 
 namespace plandesk {
 
@@ -66,14 +65,18 @@ Questions structures() {
     };
 }
 
-}  // namespace
-
-Paper rptAnnexutreA1() {
-    return particularsPage("rptAnnexutreA1", "Particulars of Development, page 2",
+Paper paper() {
+    return particularsPage("Particulars of Development, page 2",
                            {
                                questions({industry(), streets(), structures()}),
                                note("NOTE : INDICATE DETAILS ON THE BUILDING PLAN AS IN PROFORM A1 "),
                            });
+}
+
+}  // namespace
+
+Report rptAnnexutreA1() {
+    return particularsReport("rptAnnexutreA1", paper);
 }
 
 }  // namespace plandesk

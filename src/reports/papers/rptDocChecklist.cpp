@@ -1,11 +1,117 @@
-#include "reports/layouts/Layouts.h"
-#include "reports/layouts/Parts.h"
+#include "reports/Report.h"
+#include "reports/papers/Parts.h"
 
 namespace plandesk {
 
 using namespace layouts;
 
 namespace {
+
+constexpr std::string_view mandatoryForm = "frmDocCheckList";
+constexpr std::string_view conditionalForm = "frmDocCheckList1";
+
+constexpr FeedRow page(std::string_view column, std::string_view form, std::string_view box) {
+    return {column, form == mandatoryForm ? 100 : 5, FeedRule::Page, box, form};
+}
+
+constexpr FeedRow blank(std::string_view column) {
+    return {column, 5, FeedRule::Nothing};
+}
+
+// All nine mandatory documents have their pages on paper. Of the 35 conditional rows the first five have, and those are
+// the documents 9 to 13 of the form.
+constexpr std::array rows = std::to_array<FeedRow>({
+    page("txtpagefrom1", mandatoryForm, "txtDocPageNo(0)"),
+    page("txtpagefrom2", mandatoryForm, "txtDocPageNo(2)"),
+    page("txtpagefrom3", mandatoryForm, "txtDocPageNo(4)"),
+    page("txtpagefrom4", mandatoryForm, "txtDocPageNo(6)"),
+    page("txtpagefrom5", mandatoryForm, "txtDocPageNo(8)"),
+    page("txtpagefrom6", mandatoryForm, "txtDocPageNo(10)"),
+    page("txtpagefrom7", mandatoryForm, "txtDocPageNo(12)"),
+    page("txtpagefrom8", mandatoryForm, "txtDocPageNo(14)"),
+    page("txtpagefrom9", mandatoryForm, "txtDocPageNo(16)"),
+    page("txtpageto1", mandatoryForm, "txtDocPageNo(1)"),
+    page("txtpageto2", mandatoryForm, "txtDocPageNo(3)"),
+    page("txtpageto3", mandatoryForm, "txtDocPageNo(5)"),
+    page("txtpageto4", mandatoryForm, "txtDocPageNo(7)"),
+    page("txtpageto5", mandatoryForm, "txtDocPageNo(9)"),
+    page("txtpageto6", mandatoryForm, "txtDocPageNo(11)"),
+    page("txtpageto7", mandatoryForm, "txtDocPageNo(13)"),
+    page("txtpageto8", mandatoryForm, "txtDocPageNo(15)"),
+    page("txtpageto9", mandatoryForm, "txtDocPageNo(17)"),
+    page("mtxtpagefrom1", conditionalForm, "txtDocPageNo(18)"),
+    page("mtxtpagefrom2", conditionalForm, "txtDocPageNo(20)"),
+    page("mtxtpagefrom3", conditionalForm, "txtDocPageNo(22)"),
+    page("mtxtpagefrom4", conditionalForm, "txtDocPageNo(24)"),
+    page("mtxtpagefrom5", conditionalForm, "txtDocPageNo(26)"),
+    blank("mtxtpagefrom6"),
+    blank("mtxtpagefrom7"),
+    blank("mtxtpagefrom8"),
+    blank("mtxtpagefrom9"),
+    blank("mtxtpagefrom10"),
+    blank("mtxtpagefrom11"),
+    blank("mtxtpagefrom12"),
+    blank("mtxtpagefrom13"),
+    blank("mtxtpagefrom14"),
+    blank("mtxtpagefrom15"),
+    blank("mtxtpagefrom16"),
+    blank("mtxtpagefrom17"),
+    blank("mtxtpagefrom18"),
+    blank("mtxtpagefrom19"),
+    blank("mtxtpagefrom20"),
+    blank("mtxtpagefrom21"),
+    blank("mtxtpagefrom22"),
+    blank("mtxtpagefrom23"),
+    blank("mtxtpagefrom24"),
+    blank("mtxtpagefrom25"),
+    blank("mtxtpagefrom26"),
+    blank("mtxtpagefrom27"),
+    blank("mtxtpagefrom28"),
+    blank("mtxtpagefrom29"),
+    blank("mtxtpagefrom30"),
+    blank("mtxtpagefrom31"),
+    blank("mtxtpagefrom32"),
+    blank("mtxtpagefrom33"),
+    blank("mtxtpagefrom34"),
+    blank("mtxtpagefrom35"),
+    page("mtxtpageto1", conditionalForm, "txtDocPageNo(19)"),
+    page("mtxtpageto2", conditionalForm, "txtDocPageNo(21)"),
+    page("mtxtpageto3", conditionalForm, "txtDocPageNo(23)"),
+    page("mtxtpageto4", conditionalForm, "txtDocPageNo(25)"),
+    page("mtxtpageto5", conditionalForm, "txtDocPageNo(27)"),
+    blank("mtxtpageto6"),
+    blank("mtxtpageto7"),
+    blank("mtxtpageto8"),
+    blank("mtxtpageto9"),
+    blank("mtxtpageto10"),
+    blank("mtxtpageto11"),
+    blank("mtxtpageto12"),
+    blank("mtxtpageto13"),
+    blank("mtxtpageto14"),
+    blank("mtxtpageto15"),
+    blank("mtxtpageto16"),
+    blank("mtxtpageto17"),
+    blank("mtxtpageto18"),
+    blank("mtxtpageto19"),
+    blank("mtxtpageto20"),
+    blank("mtxtpageto21"),
+    blank("mtxtpageto22"),
+    blank("mtxtpageto23"),
+    blank("mtxtpageto24"),
+    blank("mtxtpageto25"),
+    blank("mtxtpageto26"),
+    blank("mtxtpageto27"),
+    blank("mtxtpageto28"),
+    blank("mtxtpageto29"),
+    blank("mtxtpageto30"),
+    blank("mtxtpageto31"),
+    blank("mtxtpageto32"),
+    blank("mtxtpageto33"),
+    blank("mtxtpageto34"),
+    blank("mtxtpageto35"),
+});
+constexpr auto columns = columnsOf(rows);
+constexpr Feed feed{.rows = rows, .columns = columns, .table = &Tables::rsReportChecklist};
 
 PaperSection documents(std::vector<PaperRow> rows) {
     rows.insert(rows.begin(), {{{text("Document Name")}, {text("Page From")}, {text("Page To")}}, RowStyle::Head});
@@ -73,16 +179,26 @@ PaperSection conditional() {
     });
 }
 
-}  // namespace
-
-Paper rptDocChecklist() {
+Paper paper() {
     return {
-        .name = "rptDocChecklist",
         .title = "Document checklist",
         .header = {{SectionKind::Heading, {line({text("Documenty CheckList - Mandatory & Conditional Mandatory")})}}},
         .body = {mandatory(),
                  {SectionKind::Letter, {line({text("Conditional Mandatory check list")}, RowStyle::Bold)}},
                  conditional()},
+    };
+}
+
+}  // namespace
+
+Report rptDocChecklist() {
+    return {
+        .name = "rptDocChecklist",
+        .feed = &feed,
+        .procedure = "fillChecklist",
+        .shownBy = ShownBy::Procedure,
+        .window = letterWindow,
+        .layout = paper,
     };
 }
 

@@ -1,10 +1,61 @@
-#include "reports/layouts/Chalan.h"
+#include "reports/papers/Chalan.h"
 
 #include <utility>
 
-#include "reports/layouts/Parts.h"
+#include "reports/papers/Parts.h"
 
-namespace plandesk::layouts {
+namespace plandesk {
+
+namespace {
+
+constexpr FeedRow box(std::string_view column, std::string_view control) {
+    return {column, 200, FeedRule::Text, control, "frmPayDetail"};
+}
+
+constexpr std::array rows = std::to_array<FeedRow>({
+    box("AreaDevResi", "txtArea"),
+    box("RateDevResi", "txtRate"),
+    box("AmtDevResi", "txtTotal"),
+    box("AreaDevComm", "txtDevAreaC"),
+    box("RateDevComm", "txtDevRateC"),
+    box("AmtDevComm", "txtDevAmtC"),
+    box("AreaDevInd", "txtDevAreaI"),
+    box("RateDevInd", "txtDevRateI"),
+    box("AmtDevInd", "txtDevAmtI"),
+    box("AreaScuResi", "txtScrutinyRArea"),
+    box("RateScuResi", "txtScrutinyRRate"),
+    box("AmtScuResi", "txtScrutinyRAmount"),
+    box("AreaScuComm", "txtScrutinyCArea"),
+    box("RateScuComm", "txtScrutinyCRate"),
+    box("AmtScuComm", "txtScrutinyCAmount"),
+    box("AreaScuInd", "txtScrutinyIndArea"),
+    box("RateScuInd", "txtScrutinyINDRate"),
+    box("AmtScuInd", "txtScrutinyINDAmount"),
+    box("CompoundFees", "txtCompoundFees"),
+    box("Other", "txtOther"),
+    box("TotalAmount", "txtGrandTotal"),
+    {"PayMode", 200, FeedRule::Fixed, "Cash"},  // whichever mode is chosen
+    {"PayDate", 200, FeedRule::Date, "DTPicker1", "frmPayDetail"},
+    box("PayOrderNo", "txtChqDraftNo"),
+    box("BankName", "txtBankNm"),
+    box("BranchName", "txtBranchNm"),
+    box("AreaScuResi2", "txtScrutinyRArea2"),
+    box("RateScuResi2", "txtScrutinyRRate2"),
+    box("AmtScuResi2", "txtScrutinyRAmount2"),
+    box("AreaScuComm2", "txtScrutinyCArea2"),
+    box("RateScuComm2", "txtScrutinyCRate2"),
+    box("AmtScuComm2", "txtScrutinyCAmount2"),
+    box("AreaScuInd2", "txtScrutinyIndArea2"),
+    box("RateScuInd2", "txtScrutinyINDRate2"),
+    box("AmtScuInd2", "txtScrutinyINDAmount2"),
+});
+constexpr auto columns = columnsOf(rows);
+
+}  // namespace
+
+const Feed feedPayment{.rows = rows, .columns = columns, .table = &Tables::rsReportPayment};
+
+namespace layouts {
 
 namespace {
 
@@ -54,9 +105,8 @@ Rows fees(bool subdivision) {
 
 }  // namespace
 
-Paper chalan(std::string_view name, bool subdivision) {
+Paper chalan(bool subdivision) {
     return {
-        .name = name,
         .title = "Payment Detail",
         .header = {{SectionKind::Heading, {line({text("Payment Detail")}), line({text("%D")}, RowStyle::Right)}}},
         .body =
@@ -78,4 +128,5 @@ Paper chalan(std::string_view name, bool subdivision) {
     };
 }
 
-}  // namespace plandesk::layouts
+}  // namespace layouts
+}  // namespace plandesk
