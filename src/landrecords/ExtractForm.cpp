@@ -3,7 +3,6 @@
 #include <string>
 
 #include "base/Numbers.h"
-#include "base/Text.h"
 #include "controls/Meaning.h"
 #include "landrecords/Encumbrances.h"
 #include "landrecords/ExtractFormKind.h"
@@ -128,13 +127,8 @@ void ExtractForm::reread() {
 void ExtractForm::listExtracts() {
     cmbExtract.clear();
     Recordset& plots = proposal.tables.ensure(wording->family.plots);
-    int listed = 0;
-    for (plots.moveFirst(); !plots.eof(); plots.moveNext()) {
-        const std::string plot = " " + std::string(trim(valueText(plots.get(PlotColumn::PlotName)))) + " --- " +
-                                 std::string(wording->family.entry);
-        for (std::int16_t i = extractCount(plots); i > 0; --i)
-            cmbExtract.addItem(plot + std::to_string(++listed) + " ");
-    }
+    plots.moveFirst();
+    addExtracts(cmbExtract, plots, wording->family.entry);
 }
 
 /// Fills an empty table; changes of the plots keep a filled one in step by themselves.

@@ -7,6 +7,8 @@
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
+#include "base/Text.h"
+#include "controls/Controls.h"
 #include "proposal/LandRecordColumns.h"
 
 namespace plandesk {
@@ -87,6 +89,16 @@ std::int16_t sumOfExtracts(Recordset& plots) {
     for (plots.moveFirst(); !plots.eof(); plots.moveNext())
         sum = added16(sum, extractCount(plots));
     return sum;
+}
+
+void addExtracts(ComboBox& list, Recordset& plots, std::string_view word) {
+    int number = 0;
+    for (; !plots.eof(); plots.moveNext()) {
+        const std::string entry =
+            " " + std::string(trim(valueText(plots.get(PlotColumn::PlotName)))) + " --- " + std::string(word);
+        for (std::int16_t left = extractCount(plots); left > 0; --left)
+            list.addItem(entry + std::to_string(++number) + " ");
+    }
 }
 
 NumberChanges comparePlots(Recordset& saved, Recordset& plots) {

@@ -1,8 +1,7 @@
 #include "ulc/OrderRows.h"
 
-#include <string>
-
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "proposal/OrderColumns.h"
 
 namespace plandesk {
@@ -26,6 +25,10 @@ Recordset& freshRow(Proposal& proposal, Tables::Member table, std::int32_t extra
     rows.addNew();
     rows.set("ExtNo", extract);  // at another place in each table
     return rows;
+}
+
+std::string trimmedText(Recordset& row, int column) {
+    return std::string(trim(valueText(row.get(column))));
 }
 
 }  // namespace plandesk

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "proposal/Proposal.h"
@@ -18,5 +19,8 @@ Recordset& rowsOfExtract(Proposal& proposal, Tables::Member table, std::int32_t 
 
 /// The row of that extract afresh: an earlier one is deleted, the new one is current and holds its number alone.
 Recordset& freshRow(Proposal& proposal, Tables::Member table, std::int32_t extract);
+
+/// Text of the current row's cell without blanks around it. RuntimeErrors as Recordset::get.
+std::string trimmedText(Recordset& row, int column);
 
 }  // namespace plandesk

@@ -4,10 +4,10 @@
 
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
-#include "base/Text.h"
 #include "landrecords/ExtractForm.h"
 #include "landrecords/PlotNumbering.h"
 #include "particulars/frmAnnexureA.h"
+#include "proposal/ExtractFamily.h"
 #include "proposal/InPlace.h"
 #include "proposal/LandRecordColumns.h"
 #include "proposal/OrderColumns.h"
@@ -159,25 +159,15 @@ void frmScrutinyULC::listExtracts() {
     // Without ownership rows the walk goes on from where the last one ended: no 7/12 extract is listed then.
     if (ownership.recordCount() > 0)
         plots712.moveFirst();
-    listPlots(plots712, " EXTRACT ");
+    addExtracts(cmbExtract, plots712, family712.entry);
     if (plotsPRC.recordCount() > 0) {
         lblNoOfExt.setCaption("No of 7/12 Extracts + PRC ");
         plotsPRC.moveFirst();
     }
-    listPlots(plotsPRC, " PRC ");
+    addExtracts(cmbExtract, plotsPRC, familyPRC.entry);
     txtNoOfExtranct.setText(std::to_string(cmbExtract.listCount()));
     cmbExtract.setEnabled(true);
     cmbExtract.setVisible(true);
-}
-
-void frmScrutinyULC::listPlots(Recordset& plots, std::string_view word) {
-    int number = 0;
-    for (; !plots.eof(); plots.moveNext()) {
-        const std::string entry =
-            " " + std::string(trim(valueText(plots.get(PlotColumn::PlotName)))) + " --- " + std::string(word);
-        for (int left = extractCount(plots); left > 0; --left)
-            cmbExtract.addItem(entry + std::to_string(++number) + " ");
-    }
 }
 
 void frmScrutinyULC::cmbExtract_Click() {

@@ -56,8 +56,6 @@ private:
     void wire();
     void chooseOwnership();
     void listExtracts();
-    /// Adds an entry for each extract of the plots from the table's current row on.
-    void listPlots(Recordset& plots, std::string_view word);
     void showOwnership(int extract);
     void showOrders(int extract);
     void placeDocStatus();

@@ -43,10 +43,6 @@ void answer(YesNo& question, std::string_view code) {
         question.clear();
 }
 
-std::string trimmed(Recordset& row, int column) {
-    return std::string(trim(valueText(row.get(column))));
-}
-
 }  // namespace
 
 frmULC20aDetails::frmULC20aDetails(Proposal& proposal)
@@ -161,14 +157,14 @@ void frmULC20aDetails::displayFieldsFromUS84() {
     std::string joinedNumbers;
     std::string_view comma;
     for (plots.moveFirst(); !plots.eof(); plots.moveNext()) {
-        joinedVillages.append(comma).append(trimmed(plots, US84PlotColumn::Village));
-        joinedNumbers.append(comma).append(trimmed(plots, US84PlotColumn::SrNo));
+        joinedVillages.append(comma).append(trimmedText(plots, US84PlotColumn::Village));
+        joinedNumbers.append(comma).append(trimmedText(plots, US84PlotColumn::SrNo));
         comma = ",";
     }
     txtCommonScheme[villages].setText(joinedVillages);
     txtCommonScheme[surveyNumbers].setText(joinedNumbers);
     Recordset& orders = rowsOfExtract(proposal, &Tables::rsULCOrderUS84, extract, " ExtNo = ");
-    const double surplus = orders.recordCount() > 0 ? leadingNumber(trimmed(orders, US84OrderColumn::Surplus)) : 0;
+    const double surplus = orders.recordCount() > 0 ? leadingNumber(trimmedText(orders, US84OrderColumn::Surplus)) : 0;
     txtCommonScheme[surplusArea].setText(numberText(surplus));
 }
 
@@ -176,14 +172,14 @@ void frmULC20aDetails::loadUS20a1Order() {
     Recordset& orders = rowsOfExtract(proposal, &Tables::rsULCOrderUS20a1, orderExtract(proposal));
     if (orders.recordCount() == 0)
         return;
-    const std::string scheme = trimmed(orders, US20a1OrderColumn::TypeOfScheme);
+    const std::string scheme = trimmedText(orders, US20a1OrderColumn::TypeOfScheme);
     cmbSchemaType.setListIndex(scheme.empty() ? static_cast<int>(noScheme) : toInteger16(scheme));
-    answer(IsUlCUS84Submitted, trimmed(orders, US20a1OrderColumn::AMGSubmitted));
+    answer(IsUlCUS84Submitted, trimmedText(orders, US20a1OrderColumn::AMGSubmitted));
     txtDetails.setText(valueText(orders.get(US20a1OrderColumn::Details)));
     for (int i = 0; TextBox & box : txtCommonScheme)
         box.setText(valueText(orders.get(US20a1OrderColumn::i + i++)));
-    answer(IsReservationCondition, trimmed(orders, US20a1OrderColumn::Condition));
-    txtSpeDisScheme.setText(trimmed(orders, US20a1OrderColumn::SpecDisc));
+    answer(IsReservationCondition, trimmedText(orders, US20a1OrderColumn::Condition));
+    txtSpeDisScheme.setText(trimmedText(orders, US20a1OrderColumn::SpecDisc));
 }
 
 void frmULC20aDetails::saveUS20a1Order() {
@@ -215,7 +211,7 @@ void frmULC20aDetails::saveFigures(Tables::Member table, int column, std::int32_
     const Bookmark place = grid.bookmark();
     int next = 0;
     for (grid.moveFirst(); !grid.eof(); grid.moveNext())
-        figures.set(next++, trimmed(grid, column));
+        figures.set(next++, trimmedText(grid, column));
     grid.setBookmark(place);
     figures.set(SchemeColumn::ExtNo, extract);
     figures.update();

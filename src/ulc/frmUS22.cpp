@@ -40,8 +40,8 @@ void frmUS22::loadUS22Order() {
     Recordset& orders = rowsOfExtract(proposal, &Tables::rsULCOrderUS22, orderExtract(proposal));
     if (orders.recordCount() == 0)
         return;
-    txtAreaExistingStruct.setText(trim(valueText(orders.get(US22OrderColumn::FLD1))));
-    txtLandAppurantArea.setText(trim(valueText(orders.get(US22OrderColumn::FLD2))));
+    txtAreaExistingStruct.setText(trimmedText(orders, US22OrderColumn::FLD1));
+    txtLandAppurantArea.setText(trimmedText(orders, US22OrderColumn::FLD2));
 }
 
 void frmUS22::saveUS22Order() {

@@ -54,10 +54,6 @@ constexpr Field behindDate[] = {
     {&frmUS84::txtSurveyNo, US84OrderColumn::Survey},
 };
 
-std::string trimmed(Recordset& order, int column) {
-    return std::string(trim(valueText(order.get(column))));
-}
-
 void zeroWhenEmpty(TextBox& box) {
     if (trim(box.text()).empty())
         box.setText("0");
@@ -129,11 +125,11 @@ void frmUS84::loadUS84Order() {
     Recordset& orders = rowsOfExtract(proposal, &Tables::rsULCOrderUS84, extract);
     if (orders.recordCount() > 0) {
         for (const Field& field : ahead)
-            (this->*field.box).setText(trimmed(orders, field.column));
-        const std::string date = trimmed(orders, US84OrderColumn::ResultDate);
+            (this->*field.box).setText(trimmedText(orders, field.column));
+        const std::string date = trimmedText(orders, US84OrderColumn::ResultDate);
         dtpResultDate.setDate(date.empty() ? screen().ports.clock.today() : toDate(date));
         for (const Field& field : behindDate)
-            (this->*field.box).setText(trimmed(orders, field.column));
+            (this->*field.box).setText(trimmedText(orders, field.column));
     }
     rowsOfExtract(proposal, &Tables::rsUS84Plots, extract);
     // The form's total takes over from the stored one, through its change of caption, unless it stands there already.
