@@ -18,17 +18,18 @@ void Desk::setBackColor(const QColor& colour) {
 }
 
 void Desk::paintBackground() {
-    if (picture.isNull())
-        picture = floorPlanPicture();
-    place = QPoint((width() - picture.width()) / 2, (height() - picture.height()) / 2);
+    place.setSize(floorPlanSize);
+    place.moveTo((width() - place.width()) / 2, (height() - place.height()) / 2);
     update();
 }
 
 void Desk::paintEvent(QPaintEvent* event) {
-    if (picture.isNull() || !event->rect().intersects(QRect(place, picture.size())))
+    if (!event->rect().intersects(place))
         return;
     QPainter painter(this);
-    painter.drawPixmap(place, picture);
+    painter.setClipRect(place);
+    painter.translate(place.topLeft());
+    drawFloorPlan(painter);
 }
 
 void Desk::resizeEvent(QResizeEvent* /*event*/) {

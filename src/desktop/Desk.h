@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPixmap>
+#include <QRect>
 #include <QWidget>
 #include <functional>
 
@@ -22,8 +22,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QPixmap picture;
-    QPoint place;
+    QRect place;  ///< of the picture; none before it was asked for
 };
 
 }  // namespace plandesk::desktop

@@ -1,14 +1,13 @@
 #include "desktop/Pictures.h"
 
+#include <QIconEngine>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPixmap>
 #include <array>
 
 namespace plandesk::desktop {
 
 namespace {
-
-constexpr QSize planSize{520, 360};
 
 // Walls of the plan, with gaps where doors and windows are.
 constexpr std::array outerWalls = std::to_array<QLine>({
@@ -75,19 +74,59 @@ void drawStairs(QPainter& painter) {
     painter.drawLine(222, 80, 312, 80);
 }
 
+/// Draws the program's mark whenever it is wanted and keeps nothing.
+class ProgramMark : public QIconEngine {
+public:
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+        constexpr double grid = 32.0;
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(place.topLeft());
+        painter->scale(place.width() / grid, place.height() / grid);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(QColor(0x5B, 0x45, 0x24));
+        painter->drawRoundedRect(QRectF(0.5, 0.5, 31, 31), 5, 5);
+        painter->setPen(QPen(Qt::white, 3, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter->setBrush(Qt::NoBrush);
+        // One wall around, with the door's gap below, and one between two rooms.
+        painter->drawPolyline(QPolygonF({{11, 25}, {7, 25}, {7, 7}, {25, 7}, {25, 25}, {21, 25}}));
+        painter->drawLine(QPointF(7, 15), QPointF(14, 15));
+        painter->setPen(QPen(QColor(0xF2, 0xC4, 0x74), 2.5, Qt::SolidLine, Qt::FlatCap));
+        painter->drawLine(QPointF(12, 26), QPointF(12, 17));
+        painter->drawArc(QRectF(3, 17, 18, 18), 0, 90 * 16);
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap picture(size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        paint(&painter, picture.rect(), mode, state);
+        return picture;
+    }
+
+    QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+        QList<QSize> sizes;
+        for (const int side : {16, 22, 24, 32, 36, 48, 64, 72, 96, 128, 192, 256})
+            sizes.append({side, side});
+        return sizes;
+    }
+
+    QIconEngine* clone() const override { return new ProgramMark; }
+};
+
 }  // namespace
 
-QPixmap floorPlanPicture() {
+void drawFloorPlan(QPainter& painter) {
     const QColor ink(0x5B, 0x45, 0x24);
-    QPixmap picture(planSize);
-    picture.fill(QColor(0xF7, 0xEF, 0xE1));
-    QPainter painter(&picture);
+    const QRect sheet({0, 0}, floorPlanSize);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(sheet, QColor(0xF7, 0xEF, 0xE1));
     painter.setPen(QPen(QColor(0xEA, 0xDC, 0xC3), 1));
-    for (int x = 20; x < planSize.width(); x += 20)
-        painter.drawLine(x, 0, x, planSize.height());
-    for (int y = 20; y < planSize.height(); y += 20)
-        painter.drawLine(0, y, planSize.width(), y);
+    for (int x = 20; x < sheet.width(); x += 20)
+        painter.drawLine(x, 0, x, sheet.height());
+    for (int y = 20; y < sheet.height(); y += 20)
+        painter.drawLine(0, y, sheet.width(), y);
     painter.setPen(QPen(ink, 1));
     for (const Door& door : doors)
         drawDoor(painter, door);
@@ -102,33 +141,11 @@ QPixmap floorPlanPicture() {
     painter.drawLines(windows.data(), static_cast<int>(windows.size()));
     painter.setPen(QPen(ink, 2));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(picture.rect().adjusted(1, 1, -1, -1));
-    return picture;
+    painter.drawRect(sheet.adjusted(1, 1, -1, -1));
 }
 
 QIcon programIcon() {
-    constexpr double grid = 32.0;
-    QIcon icon;
-    for (const int side : {16, 22, 24, 32, 36, 48, 64, 72, 96, 128, 192, 256}) {
-        QPixmap picture(side, side);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(side / grid, side / grid);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0x5B, 0x45, 0x24));
-        painter.drawRoundedRect(QRectF(0.5, 0.5, 31, 31), 5, 5);
-        painter.setPen(QPen(Qt::white, 3, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-        painter.setBrush(Qt::NoBrush);
-        // One wall around, with the door's gap below, and one between two rooms.
-        painter.drawPolyline(QPolygonF({{11, 25}, {7, 25}, {7, 7}, {25, 7}, {25, 25}, {21, 25}}));
-        painter.drawLine(QPointF(7, 15), QPointF(14, 15));
-        painter.setPen(QPen(QColor(0xF2, 0xC4, 0x74), 2.5, Qt::SolidLine, Qt::FlatCap));
-        painter.drawLine(QPointF(12, 26), QPointF(12, 17));
-        painter.drawArc(QRectF(3, 17, 18, 18), 0, 90 * 16);
-        icon.addPixmap(picture);
-    }
-    return icon;
+    return QIcon(new ProgramMark);
 }
 
 QIcon detailsIcon(int side) {

@@ -1,12 +1,17 @@
 #pragma once
 
 #include <QIcon>
-#include <QPixmap>
+#include <QSize>
+
+class QPainter;
 
 namespace plandesk::desktop {
 
-/// The picture in the middle of the main window: a floor plan.
-QPixmap floorPlanPicture();
+constexpr QSize floorPlanSize{520, 360};
+
+/// The picture in the middle of the main window, a floor plan, from (0, 0) to `floorPlanSize`. It is drawn and not
+/// kept, since a start should not wait for it, nor have three quarters of a megabyte more for it.
+void drawFloorPlan(QPainter& painter);
 
 /// The program's mark, a small floor plan, in the sizes that desktops ask for.
 QIcon programIcon();
