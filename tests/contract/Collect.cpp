@@ -387,6 +387,7 @@ private:
                 value.controls = asked.controls;
                 value.question = asked.question;
                 value.group = asked.group;
+                value.unit = asked.unit;
                 value.typed = asked.typed;
                 if (asked.kind == Kind::YesNo || asked.kind == Kind::Date) {
                     value.kind = asked.kind;

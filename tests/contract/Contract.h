@@ -42,6 +42,7 @@ struct Value {
     Cut cut = Cut::None;
     std::string question;
     std::string group;  ///< heading that the question stands under
+    std::string unit;
     std::string form;
     std::vector<std::string> controls;  ///< keys of the controls that hold it, for an answer of options each of them
     std::string table;                  ///< for a cell of a table, with its column

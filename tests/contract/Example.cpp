@@ -115,11 +115,11 @@ void tell(Element& element, const Texts& after, std::vector<std::string>& untold
         ++number;
         const std::string now = text == after.end() ? "(no such element)" : valueIn(value, text->second);
         const bool back = now == value.example.value();
-        if (!value.reading.empty())
-            continue;
-        if (back)
+        const bool toldBack = value.reading.starts_with("comes back");
+        const bool toldLost = value.reading.starts_with("lost") && !value.example.value().empty();
+        if (back && value.reading.empty())
             value.reading = "comes back";
-        else
+        else if (back ? toldLost : toldBack || value.reading.empty())
             untold.push_back(element.path + " " + std::to_string(number) + " (" + value.question + "): \"" +
                              value.example.value() + "\" becomes \"" + now + "\"");
     }
@@ -155,7 +155,8 @@ void findReadings(Element& root) {
     std::vector<std::string> untold;
     tell(root, after, untold);
     if (!untold.empty())
-        throw RuntimeError(ErrorNumber::ItemNotFound, "nobody tells what becomes of\n" + join(untold, "\n"));
+        throw RuntimeError(ErrorNumber::ItemNotFound,
+                           "nobody tells, or a note tells wrongly, what becomes of\n" + join(untold, "\n"));
 }
 
 }  // namespace plandesk::contract

@@ -109,6 +109,9 @@ const std::vector<Code>& ticked() {
     return codes;
 }
 
+constexpr std::string_view ownersHere =
+    "comes back; the holders are looked for behind so many owners, whatever `NoOfOwner` says";
+constexpr std::string_view holdersHere = "comes back; so many holders are read, whatever `NoOfPAH` says";
 constexpr std::string_view bankDetail = "comes back; lost in a payment in cash";
 
 constexpr std::array orders = std::to_array<OrderControls>({
@@ -157,10 +160,11 @@ std::vector<ValueNote> valueNotes(Words& words) {
          .reading = "comes back; a No clears the answer of `TWOTHREE-RAD`, read before it"},
         {.path = "DOCCHKLIST",
          .value = 27,
-         .reading = "comes back with the digit of the next value behind it: `9` as `91` or `90`"},
+         .reading = "grows by the digit of the next value: `9` becomes `91` or `90`"},
         {.path = "DOCCHKLIST", .value = 28, .last = 30, .reading = "lost"},
-        {.path = "DOCCHKLIST", .value = 31, .last = 45, .reading = "comes back eight documents further on"},
-        {.path = "DOCCHKLIST", .value = 46, .last = 69, .reading = "lost"},
+        {.path = "DOCCHKLIST", .value = 31, .last = 45, .reading = "moves eight documents further on"},
+        {.path = "DOCCHKLIST", .value = 46, .last = 54, .reading = "lost"},
+        {.path = "DOCCHKLIST", .value = 55, .last = 69, .reading = "lost", .example = "0"},
         {.path = "SECTION-IV/ONESIX-RAD",
          .value = 2,
          .reading = "comes back; of `01` a Yes comes back, of `21` what the program starts with"},
@@ -195,6 +199,19 @@ std::vector<ValueNote> valueNotes(Words& words) {
         {.path = "NTS/PRC/PRC<n>/OWNER<n>", .value = 3, .codes = encumbranceCodes()},
         {.path = "NTS/PRC/PRC<n>/PAH<n>", .value = 2, .codes = ticked()},
         {.path = "ISSUEOFDRC", .value = 9, .question = "Licence architect or Surveyor"},
+        {.path = "NTS/a712Extract/NoOfExtract", .value = 1, .reading = "not read: the plots tell it"},
+        {.path = "NTS/PRC/NoOfPRC", .value = 1, .reading = "not read: the plots tell it"},
+        {.path = "NTS/a712Extract/Extract<n>/Static", .value = 5, .reading = ownersHere},
+        {.path = "NTS/PRC/PRC<n>/Static", .value = 4, .reading = ownersHere},
+        {.path = "NTS/a712Extract/Extract<n>/Static", .value = 7, .reading = holdersHere},
+        {.path = "NTS/PRC/PRC<n>/Static", .value = 6, .reading = holdersHere},
+        {.path = "NTS/a712Extract/Extract<n>/NoOfPAH", .value = 1, .reading = "not read: `Static` tells it"},
+        {.path = "NTS/PRC/PRC<n>/NoOfPAH", .value = 1, .reading = "not read: `Static` tells it"},
+        {.path = "PLOT-REL", .value = 3, .reading = "not read: the place tells it"},
+        {.path = "PLOT-PRCDETAILS", .value = 3, .reading = "not read: the place tells it"},
+        {.path = "NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-20a1",
+         .value = 5,
+         .reading = "comes back; the next save of the order's form puts today's date"},
         {.path = "NTS/PRC/RemarkPRC",
          .value = 1,
          .reading = "lost: the next file has the remark of the 7/12 extracts here too"},

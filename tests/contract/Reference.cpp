@@ -65,6 +65,8 @@ std::string ruleWords(const Value& value) {
     std::string words(kindWord(value.kind));
     if (value.kind == Kind::Text && !value.typed.empty())
         words += " (" + value.typed + ")";
+    if (!value.unit.empty())
+        words += ", in " + value.unit;
     std::string codes;
     for (const Code& code : value.codes)
         codes += (codes.empty() ? ": " : "; ") + ("`" + code.code + "`") +
@@ -172,6 +174,8 @@ Json toJson(const Value& value) {
         {"place", place}, {"cut", cutWord(value.cut)}, {"question", value.question}, {"kind", kindWord(value.kind)}};
     if (!value.codes.empty())
         entry["codes"] = codes;
+    if (!value.unit.empty())
+        entry["unit"] = value.unit;
     entry["empty"] = value.mayBeEmpty;
     if (!value.form.empty()) {
         entry["form"] = value.form;

@@ -110,6 +110,7 @@ void ask(Value& value, const Form& form, const Control& control) {
         if (std::ranges::find(question.controls, &control) == question.controls.end())
             continue;
         value.question = trim(wordsOf(question));
+        value.unit = trim(question.row->unit);
         const auto* frame = dynamic_cast<const Captioned*>(form.findKey(question.group->frame));
         value.group = trim(frame ? std::string_view(frame->caption()) : question.group->title);
     }

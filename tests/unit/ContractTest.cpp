@@ -21,6 +21,18 @@ namespace {
 
 const std::string sources = PLANDESK_SOURCES;
 
+#if defined(__SANITIZE_ADDRESS__)
+constexpr int usualDocuments = 50;
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+constexpr int usualDocuments = 50;
+#else
+constexpr int usualDocuments = 300;
+#endif
+#else
+constexpr int usualDocuments = 300;
+#endif
+
 std::string bytesOf(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     EXPECT_TRUE(file) << path;
@@ -144,7 +156,7 @@ TEST(Contract, theSchemasTakeTheGoldenDocumentsAndTheExample) {
 
 TEST(Contract, theSchemaTakesRandomProposals) {
     const char* many = std::getenv("PLANDESK_CONTRACT_DOCUMENTS");
-    const int wanted = many ? std::atoi(many) : 300;
+    const int wanted = many ? std::atoi(many) : usualDocuments;
     std::uint64_t seed = std::random_device{}();
     std::cout << "seeds from " << seed << std::endl;
     const ScratchFolder folder;
