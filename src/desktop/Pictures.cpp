@@ -74,26 +74,42 @@ void drawStairs(QPainter& painter) {
     painter.drawLine(222, 80, 312, 80);
 }
 
+// The program's mark, also in packaging/plandesk.svg. Its walls lie on a grid of 16, so that they are sharp at 16, 32,
+// 48
+// ... pixels.
+constexpr double markSide = 16;
+// One wall around, with the door's gap below, and those between three rooms.
+constexpr std::array markWalls = std::to_array<QRect>({
+    {2, 2, 12, 1},
+    {2, 2, 1, 12},
+    {13, 2, 1, 12},
+    {2, 13, 3, 1},
+    {9, 13, 5, 1},
+    {3, 7, 3, 1},
+    {8, 7, 5, 1},
+    {8, 3, 1, 2},
+});
+constexpr QRect markDoor(5, 9, 1, 5);
+constexpr QRectF markSwing(1.25, 9.25, 7.5, 7.5);
+
 /// Draws the program's mark whenever it is wanted and keeps nothing.
 class ProgramMark : public QIconEngine {
 public:
     void paint(QPainter* painter, const QRect& place, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
-        constexpr double grid = 32.0;
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(place.topLeft());
-        painter->scale(place.width() / grid, place.height() / grid);
+        painter->scale(place.width() / markSide, place.height() / markSide);
         painter->setPen(Qt::NoPen);
         painter->setBrush(QColor(0x5B, 0x45, 0x24));
-        painter->drawRoundedRect(QRectF(0.5, 0.5, 31, 31), 5, 5);
-        painter->setPen(QPen(Qt::white, 3, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter->drawRoundedRect(QRectF(0, 0, markSide, markSide), 2.5, 2.5);
+        for (const QRect& wall : markWalls)
+            painter->fillRect(wall, Qt::white);
+        constexpr QColor light(0xF2, 0xC4, 0x74);
+        painter->fillRect(markDoor, light);
+        painter->setPen(QPen(light, 0.5, Qt::SolidLine, Qt::FlatCap));
         painter->setBrush(Qt::NoBrush);
-        // One wall around, with the door's gap below, and one between two rooms.
-        painter->drawPolyline(QPolygonF({{11, 25}, {7, 25}, {7, 7}, {25, 7}, {25, 25}, {21, 25}}));
-        painter->drawLine(QPointF(7, 15), QPointF(14, 15));
-        painter->setPen(QPen(QColor(0xF2, 0xC4, 0x74), 2.5, Qt::SolidLine, Qt::FlatCap));
-        painter->drawLine(QPointF(12, 26), QPointF(12, 17));
-        painter->drawArc(QRectF(3, 17, 18, 18), 0, 90 * 16);
+        painter->drawArc(markSwing, 0, 90 * 16);
         painter->restore();
     }
 
