@@ -6,11 +6,10 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "contract/Contract.h"
-#include "controls/FileStore.h"
+#include "contract/Machine.h"
+#include "contract/Notes.h"
 #include "document/XmlChildren.h"
 #include "proposal/mdlProject.h"
-#include "review/SilentSystem.h"
-#include "tools/ToolPorts.h"
 
 namespace plandesk::contract {
 
@@ -97,15 +96,6 @@ void gather(const XmlDocument& document, XmlDocument::Node node, const Element& 
                 gather(document, child, known, texts);
 }
 
-struct Machine {
-    tools::OpenDialogs dialogs{""};
-    MachineClock clock;
-    tools::OwnFolder program;
-    FileStore files;
-    Ports ports{dialogs, clock, files, program};
-    SilentSystem system{ports};
-};
-
 void tell(Element& element, const Texts& after, std::vector<std::string>& untold) {
     for (Element& child : element.children)
         tell(child, after, untold);
@@ -122,6 +112,33 @@ void tell(Element& element, const Texts& after, std::vector<std::string>& untold
         else if (back ? toldLost : toldBack || value.reading.empty())
             untold.push_back(element.path + " " + std::to_string(number) + " (" + value.question + "): \"" +
                              value.example.value() + "\" becomes \"" + now + "\"");
+    }
+}
+
+const Element* at(const Element& element, std::string_view path) {
+    if (element.path == path)
+        return &element;
+    for (const Element& child : element.children)
+        if (const Element* found = at(child, path))
+            return found;
+    return nullptr;
+}
+
+/// The forms of the orders show each text of the example in the box that the notes say.
+void checkOrders(const Element& root, Proposal& proposal, std::vector<std::string>& untold) {
+    for (const OrderControls& order : orderControls()) {
+        Form& form = *proposal.forms.touch(order.form);
+        Recordset& extracts = proposal.tables.ensure(&Tables::rsULCOrder);
+        extracts.setFilter("");
+        extracts.moveFirst();
+        form.call(order.loads);
+        for (const Value& value : at(root, order.path)->values) {
+            const auto* box = dynamic_cast<const TextBox*>(form.findKey(value.controls.front()));
+            // Areas are worked out anew on the way.
+            if (box && value.form == order.form && value.typed.empty() && box->text() != value.example)
+                untold.push_back(std::string(order.form) + "." + box->key() + " shows " + box->text() + ", not " +
+                                 value.example.value());
+        }
     }
 }
 
@@ -154,6 +171,7 @@ void findReadings(Element& root) {
     gather(again, again.root(), root, after);
     std::vector<std::string> untold;
     tell(root, after, untold);
+    checkOrders(root, machine.system.proposal, untold);
     if (!untold.empty())
         throw RuntimeError(ErrorNumber::ItemNotFound,
                            "nobody tells, or a note tells wrongly, what becomes of\n" + join(untold, "\n"));

@@ -115,19 +115,16 @@ constexpr std::string_view holdersHere = "comes back; so many holders are read, 
 constexpr std::string_view bankDetail = "comes back; lost in a payment in cash";
 
 constexpr std::array orders = std::to_array<OrderControls>({
-    {"NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-84", "frmUS84",
+    {"NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-84", "frmUS84", "loadUS84Order",
      "txtCaseNumber dtpResultDate txtApplicantName txtApplicantAddress txtTotAreaOwnerShip txtAreaDeduction "
      "txtGreenBelt txtSurplusArea txtSurveyNo"},
-    {"NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-20a1", "frmULC20aDetails",
+    {"NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-20a1", "frmULC20aDetails", "loadUS20a1Order",
      "cmbSchemaType IsUlCUS84Submitted txtDetails txtCommonScheme(0) txtCommonScheme(1) txtCommonScheme(2) "
      "txtCommonScheme(3) txtCommonScheme(4) txtCommonScheme(5) txtCommonScheme(6) txtCommonScheme(7) "
      "txtCommonScheme(8) txtCommonScheme(9) txtCommonScheme(10) txtCommonScheme(11) IsReservationCondition "
      "txtSpeDisScheme"},
-    {"NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-22", "frmUS22", "txtAreaExistingStruct txtLandAppurantArea"},
-    {"TRANSFERDRC", "frmDRCTransferCont",
-     "txtFolioNumber1 txtFolioNumber2 txtFolioNumber3 txtFolioNumber4 txtFolioNumber5 txtLoggedBy txtFullAddress "
-     "txtDRCNameAddress txtVideReceiptNo DTPReceiptDate",
-     24},
+    {"NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-22", "frmUS22", "loadUS22Order",
+     "txtAreaExistingStruct txtLandAppurantArea"},
 });
 
 }  // namespace

@@ -38,12 +38,12 @@ struct ValueNote {
 };
 std::vector<ValueNote> valueNotes(Words& words);
 
-/// The controls behind values that a form keeps in a table without a grid or in project-wide texts.
+/// The controls of the form that keeps an order in a table without a grid: one for each value of the element.
 struct OrderControls {
     std::string_view path;
     std::string_view form;
+    std::string_view loads;  ///< procedure of the form that shows the order
     std::string_view controls;
-    int first = 1;  ///< value that the first of the controls holds
 };
 std::span<const OrderControls> orderControls();
 

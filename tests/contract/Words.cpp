@@ -5,25 +5,15 @@
 #include "base/RuntimeError.h"
 #include "base/Text.h"
 #include "controls/Answers.h"
-#include "controls/FileStore.h"
+#include "drc/frmDRCTransferCont.h"
 #include "landrecords/ExtractForm.h"
 #include "landrecords/ExtractFormKind.h"
 #include "proposal/Grid.h"
 #include "review/CarriedAnswers.h"
 #include "review/Questions.h"
-#include "tools/ToolPorts.h"
 #include "ulc/frmScrutinyULC.h"
 
 namespace plandesk::contract {
-
-struct Words::Machine {
-    tools::OpenDialogs dialogs{""};
-    MachineClock clock;
-    tools::OwnFolder program;
-    FileStore files;
-    Ports ports{dialogs, clock, files, program};
-    SilentSystem system{ports};
-};
 
 namespace {
 
@@ -84,17 +74,15 @@ Kind kindOf(ColumnKind kind) {
 
 }  // namespace
 
-Words::Words() : machine(std::make_unique<Machine>()) {
-    machine->system.shell.press("mnuNew");
+Words::Words() {
+    machine.system.shell.press("mnuNew");
     proposal().is712Current = true;  // the form of the 7/12 extracts would wear the words of the property cards
     form(frmMain712::formName);
     proposal().forms.touch(frmScrutinyULC::formName)->run("cmbExtract_Click");  // gives its grids their heads
 }
 
-Words::~Words() = default;
-
 Proposal& Words::proposal() {
-    return machine->system.proposal;
+    return machine.system.proposal;
 }
 
 const Form& Words::form(std::string_view name) {
@@ -177,6 +165,28 @@ Value Words::ofColumn(Tables::Member table, int column) {
         value.question = plain(heads(form(shown.form), shown, column).caption);
     }
     return value;
+}
+
+Value Words::ofText(std::string Proposal::*text) {
+    auto& continuation = proposal().forms.get<frmDRCTransferCont>();
+    for (Control* control : continuation.controls()) {
+        const Date other{1999, 12, 31};
+        std::string mark = "marked";
+        if (auto* box = dynamic_cast<TextBox*>(control))
+            box->setText(mark);
+        else if (auto* picker = dynamic_cast<DatePicker*>(control)) {
+            picker->setDate(other);
+            mark = other.text();
+        } else
+            continue;
+        (proposal().*text).clear();
+        continuation.pressClose();
+        if (proposal().*text == mark)
+            return of(continuation.name(), control->key());
+        if (auto* box = dynamic_cast<TextBox*>(control))
+            box->setText("");
+    }
+    throw RuntimeError(ErrorNumber::ItemNotFound, "no control leaves a project-wide text");
 }
 
 std::vector<Code> Words::itemsOf(std::string_view formName, std::string_view list) {

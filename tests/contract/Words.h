@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "contract/Contract.h"
+#include "contract/Machine.h"
 #include "controls/Controls.h"
-#include "review/SilentSystem.h"
 
 namespace plandesk::contract {
 
@@ -14,9 +14,6 @@ namespace plandesk::contract {
 class Words {
 public:
     Words();
-    ~Words();
-    Words(const Words&) = delete;
-    Words& operator=(const Words&) = delete;
 
     Proposal& proposal();
     const Form& form(std::string_view name);
@@ -26,12 +23,16 @@ public:
     Value of(std::string_view form, std::string_view control);
     /// The value of a table's cell.
     Value ofColumn(Tables::Member table, int column);
+    /// The value of the control whose answer the continuation of the transfer deed leaves in that project-wide text.
+    Value ofText(std::string Proposal::*text);
     std::vector<Code> itemsOf(std::string_view form, std::string_view list);
 
 private:
     std::string typedIn(const Form& form, TextBox& box);
-    struct Machine;
-    std::unique_ptr<Machine> machine;
+    Machine machine;
 };
+
+/// Gives the collected elements their paths, notes and examples.
+void finish(Element& root, Words& words);
 
 }  // namespace plandesk::contract
