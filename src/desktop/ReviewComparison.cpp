@@ -5,9 +5,9 @@
 #include <system_error>
 
 #include "base/RuntimeError.h"
-#include "desktop/ReviewCopy.h"
 #include "document/XmlDocument.h"
 #include "review/CarriedAnswers.h"
+#include "review/ReviewCopy.h"
 
 namespace plandesk::desktop {
 

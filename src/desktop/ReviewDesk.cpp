@@ -6,8 +6,10 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 #include <QUrl>
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -16,12 +18,13 @@
 #include "desktop/LongText.h"
 #include "desktop/QtText.h"
 #include "desktop/ReviewComparison.h"
-#include "desktop/ReviewCopy.h"
 #include "desktop/ReviewPanel.h"
 #include "desktop/ReviewPaper.h"
 #include "desktop/ScreenView.h"
 #include "particulars/frmAnnexureA.h"
 #include "review/GoTo.h"
+#include "review/ReviewCopy.h"
+#include "shell/MainMenu.h"
 
 namespace plandesk::desktop {
 
@@ -152,12 +155,33 @@ void ReviewDesk::openedOrClosed() {
         return;  // the window as a whole was hidden or shown
     lookout.outdate();
     searched.reset();
+    makeRoom(open());
     if (open())
         return look();
     pause.stop();
     counts->hide();
     stepWhenLooked = false;
     room.forms.takeKeysBack();
+}
+
+void ReviewDesk::makeRoom(bool forPanel) {
+    QMainWindow& window = room.window;
+    if (!forPanel) {
+        if (const int narrower = std::exchange(wider, 0); narrower > 0 && window.size() == widerSize)
+            window.resize(widerSize.width() - narrower, widerSize.height());
+        return;
+    }
+    const QRect available = window.screen()->availableGeometry();
+    const QRect frame = window.frameGeometry();
+    wider = std::min(panel->usualWidth(), available.width() - frame.width());
+    if (window.isMaximized() || window.isFullScreen() || wider <= 0) {
+        wider = 0;
+        return;
+    }
+    window.resize(window.width() + wider, window.height());
+    if (frame.right() + wider > available.right())
+        window.move(std::max(available.left(), available.right() + 1 - frame.width() - wider), window.y());
+    widerSize = window.size();
 }
 
 void ReviewDesk::changed() {
@@ -234,6 +258,15 @@ void ReviewDesk::go(const ReviewTarget& target) {
     if (room.forms.guest())
         room.forms.setGuest(nullptr);
     room.forms.takeKeysBack();  // also where the focus was there already, under the panel's keyboard
+}
+
+void ReviewDesk::openForm(std::string_view form) {
+    for (const MenuEntry& entry : mainMenu())
+        if (entry.form == form) {
+            room.shell.press(entry.name);
+            return;
+        }
+    room.proposal.screen.event([&] { room.proposal.forms.open(form); });
 }
 
 void ReviewDesk::goToPage(const ReviewPage& page) {

@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <functional>
 #include <memory>
-#include <string>
+#include <string_view>
 
 #include "desktop/ReviewLook.h"
 
@@ -16,12 +16,12 @@ class QMenu;
 
 namespace plandesk {
 class Proposal;
+class ReviewCopy;
 class mdiInterface;
 }  // namespace plandesk
 
 namespace plandesk::desktop {
 
-class ReviewCopy;
 class ReviewPanel;
 class ScreenView;
 
@@ -51,6 +51,9 @@ private:
     void setOpen(bool on);
     bool open() const;
     void openedOrClosed();
+    /// Makes the window wider by the panel, as far as the screen has room, and narrower again when it closes, unless
+    /// the user gave it another size meanwhile.
+    void makeRoom(bool forPanel);
     bool begun() const;
     void changed();
     void look();
@@ -58,6 +61,8 @@ private:
 
     void step(bool back);
     void go(const ReviewTarget& target);
+    /// Opens a form that is not loaded yet, by its menu entry where it has one.
+    void openForm(std::string_view form);
     void goToPage(const ReviewPage& page);
     void compare();
     void saveList();
@@ -69,6 +74,8 @@ private:
     Room room;
     ReviewPanel* panel = nullptr;
     bool wasOpen = false;
+    int wider = 0;    ///< what the window was made wider by
+    QSize widerSize;  ///< its size then
     QLabel* counts;
     QMenu* menu = nullptr;
     ReviewLook lookout;

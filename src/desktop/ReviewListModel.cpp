@@ -11,11 +11,14 @@ constexpr quintptr isGroup = ~quintptr{0};
 
 /// What is read of a line, in one piece.
 QString spoken(const ReviewLine& line) {
-    QStringList parts;
-    for (const QString& part : {line.question, line.text, line.place})
-        if (!part.isEmpty())
-            parts += part;
-    return parts.join(QStringLiteral(". "));
+    static const QString ends = QStringLiteral(".!?:");
+    QString all;
+    for (const QString& part : {line.question, line.text, line.place}) {
+        if (!all.isEmpty() && !part.isEmpty())
+            all += ends.contains(all.back()) ? QStringLiteral(" ") : QStringLiteral(". ");
+        all += part;
+    }
+    return all;
 }
 
 QString titled(const ReviewGroup& group) {

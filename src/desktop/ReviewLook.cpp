@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "base/RuntimeError.h"
-#include "desktop/ReviewCopy.h"
 #include "review/AnswerCounts.h"
+#include "review/ReviewCopy.h"
 
 namespace plandesk::desktop {
 
@@ -13,10 +13,11 @@ namespace {
 ReviewResult lookAt(ReviewCopy& copy) {
     try {
         const std::vector<Finding> findings = review(copy.shell());
-        ReviewResult result{linesOf(findings, copy.proposal()), {}};
+        // Also the forms that nobody has opened yet are called by their names.
         openNeededForms(copy.proposal());
-        result.pages = pagesOf(findings, copy.proposal());
-        return result;
+        for (const Finding& finding : findings)
+            copy.proposal().forms.touch(finding.form);
+        return {linesOf(findings, copy.proposal()), pagesOf(findings, copy.proposal())};
     } catch (...) {
         return {{}, {}, failureText()};
     }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/Numbers.h"
+#include "controls/User.h"
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/Grid.h"
@@ -39,6 +41,18 @@ int visiblePlace(Recordset& table, int row) {
     return -1;
 }
 
+/// The land records show the rows of one extract at a time: the one that the row belongs to is chosen.
+void chooseExtract(const Form& sheet, const Grid& grid, int row) {
+    const bool landRecord = sheet.name() == "frmMain712" || sheet.name() == "frmPRCEXT";
+    auto* const list = landRecord ? dynamic_cast<ComboBox*>(sheet.findKey("cmbExtract")) : nullptr;
+    const auto rows = grid.table()->allRows();
+    if (!list || row < 0 || static_cast<std::size_t>(row) >= rows.size())
+        return;
+    const double extract = leadingNumber(valueText(rows[static_cast<std::size_t>(row)][ExtractColumn::ExtNo]));
+    if (extract >= 1 && extract <= list->listCount())
+        user::pick(*list, static_cast<int>(extract) - 1);
+}
+
 }  // namespace
 
 bool goTo(Proposal& proposal, std::string_view form, std::string_view control, int row, int column) {
@@ -55,7 +69,11 @@ bool goTo(Proposal& proposal, std::string_view form, std::string_view control, i
         if (strip && page >= 0)
             strip->setTab(page);
         auto* const grid = dynamic_cast<Grid*>(wanted);
-        const int place = grid && grid->table() ? visiblePlace(*grid->table(), row) : -1;
+        int place = grid && grid->table() ? visiblePlace(*grid->table(), row) : -1;
+        if (grid && grid->table() && place < 0) {
+            chooseExtract(*sheet, *grid, row);
+            place = grid->table() ? visiblePlace(*grid->table(), row) : -1;
+        }
         if (place >= 0)
             grid->moveTo(place, std::max(column, 0));
         if (wanted->takesFocus())

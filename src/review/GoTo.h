@@ -8,9 +8,9 @@
 namespace plandesk {
 
 /// Leads the user to a control: its form to the front, its page turned, in a grid the cell of that row and column
-/// current, the control focused. An act of the user, with the reactions that such acts have. False, and nothing
-/// happens, when there is no such control, or when it stands on a page that opens once the first page is complete.
-/// `row` counts all rows of the grid's table.
+/// current, the control focused; of a land record the extract of the row is chosen first. An act of the user, with the
+/// reactions that such acts have. False, and nothing happens, when there is no such control, or when it stands on a
+/// page that opens once the first page is complete. `row` counts all rows of the grid's table.
 bool goTo(Proposal& proposal, std::string_view form, std::string_view control, int row = -1, int column = -1);
 
 /// Where `goTo` refuses since the first page is not complete: the question of it that is to be answered next. Empty

@@ -75,7 +75,7 @@ private slots:
         QCOMPARE(
             session.counts().text(),
             QString("%1 missing, %2 not as typed, %3 to consider").arg(counted[0]).arg(counted[1]).arg(counted[2]));
-        QCOMPARE(session.lines(0)[0], QString("Proposal Title. Proposal Title Can not be blank !. Particulars of "
+        QCOMPARE(session.lines(0)[0], QString("Proposal Title. Proposal Title Can not be blank ! Particulars of "
                                               "Development, page 1: proposal and applicant"));
         // The text that is told there stays, and the counts stand behind it.
         const auto* told = session.window.findChild<QLabel*>("statusPanel");

@@ -5,7 +5,7 @@
 #include "controls/FileStore.h"
 #include "review/SilentSystem.h"
 
-namespace plandesk::desktop {
+namespace plandesk {
 
 /// A copy of the running system that another thread can have: it asks nothing of the machine that the window works on.
 class ReviewCopy {
@@ -49,4 +49,4 @@ private:
     SilentSystem system{machine.ports()};
 };
 
-}  // namespace plandesk::desktop
+}  // namespace plandesk
