@@ -75,8 +75,8 @@ ReviewPanel& ReviewDesk::madePanel() {
     panel->hide();
     room.window.addDockWidget(Qt::RightDockWidgetArea, panel);
     room.window.resizeDocks({panel}, {panel->usualWidth()}, Qt::Horizontal);
-    panel->go = [this](const ReviewTarget& target) { go(target); };
-    panel->goToPage = [this](const ReviewPage& page) { goToPage(page); };
+    panel->go = [this](const ReviewTarget& target) { room.forms.guarded([&] { go(target); }); };
+    panel->goToPage = [this](const ReviewPage& page) { room.forms.guarded([&] { goToPage(page); }); };
     panel->find = [this](const QString& words) { return room.forms.guarded([&] { return find(words); }); };
     panel->left = [this] { room.forms.takeKeysBack(); };
     connect(panel, &QDockWidget::visibilityChanged, this, [this] { room.forms.guarded([this] { openedOrClosed(); }); });
@@ -88,7 +88,7 @@ QAction* ReviewDesk::add(QMenu& into, const char* name, const QString& text, con
     QAction* action = into.addAction(text);
     action->setObjectName(QLatin1String(name));
     action->setShortcut(keys);
-    connect(action, &QAction::triggered, this, command);
+    connect(action, &QAction::triggered, this, [this, command] { room.forms.guarded(command); });
     return action;
 }
 

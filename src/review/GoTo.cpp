@@ -7,6 +7,7 @@
 #include "particulars/AnnexureACont.h"
 #include "particulars/frmAnnexureA.h"
 #include "proposal/Grid.h"
+#include "proposal/LandRecordColumns.h"
 #include "review/AnswerCounts.h"
 #include "review/Questions.h"
 

@@ -17,6 +17,7 @@
 #include "gui/LandRecords.h"
 #include "gui/Session.h"
 #include "particulars/frmAnnexureA.h"
+#include "proposal/LandRecordColumns.h"
 
 namespace {
 

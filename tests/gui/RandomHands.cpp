@@ -28,8 +28,9 @@ constexpr std::array keys = {
     Qt::Key_Return, Qt::Key_Enter,    Qt::Key_Tab,    Qt::Key_Backtab,   Qt::Key_Escape, Qt::Key_F2,    Qt::Key_F3,
     Qt::Key_F4,     Qt::Key_Left,     Qt::Key_Right,  Qt::Key_Up,        Qt::Key_Down,   Qt::Key_Home,  Qt::Key_End,
     Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Insert, Qt::Key_Space, Qt::Key_Menu,
-    Qt::Key_F1,     Qt::Key_F6,       Qt::Key_F10,    Qt::Key_A,         Qt::Key_N,      Qt::Key_O,     Qt::Key_S,
-    Qt::Key_V,      Qt::Key_X,        Qt::Key_Y,      Qt::Key_Z,         Qt::Key_1,      Qt::Key_2,     Qt::Key_9};
+    Qt::Key_F1,     Qt::Key_F6,       Qt::Key_F8,     Qt::Key_F9,        Qt::Key_F10,    Qt::Key_F,     Qt::Key_A,
+    Qt::Key_N,      Qt::Key_O,        Qt::Key_S,      Qt::Key_V,         Qt::Key_X,      Qt::Key_Y,     Qt::Key_Z,
+    Qt::Key_1,      Qt::Key_2,        Qt::Key_9};
 constexpr std::array modifiers = std::to_array<Qt::KeyboardModifiers::Int>(
     {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier,
      Qt::ControlModifier | Qt::ShiftModifier, Qt::ControlModifier | Qt::AltModifier});
@@ -134,6 +135,8 @@ void RandomHands::begin() {
         window.forms().act(Qt::OtherFocusReason, [&] { shell.press(entry); });
     };
     press("mnuNew");
+    if (dice.oneIn(2))
+        QTest::keyClick(&window, Qt::Key_F9);
     if (dice.oneIn(2))
         return;
     press("mnuPlotExtRelationShip");

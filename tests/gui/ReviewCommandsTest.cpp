@@ -9,6 +9,7 @@
 #include "gui/LandRecords.h"
 #include "gui/Registry.h"
 #include "gui/ReviewSession.h"
+#include "proposal/LandRecordColumns.h"
 #include "unit/StateText.h"
 
 using namespace plandesk;
