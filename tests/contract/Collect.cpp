@@ -181,7 +181,9 @@ private:
                  for (const TextBox& box :
                       dynamic_cast<const frmDiscretionNewCase&>(words.form(frmDiscretionNewCase::formName)).txtRule)
                      values.push_back(words.of(frmDiscretionNewCase::formName, box.key()));
-                 return leaf("DISC-NEW", false, list(std::move(values)));
+                 Element element = leaf("DISC-NEW", false, list(std::move(values)));
+                 element.times = Times::AtMostOnce;
+                 return element;
              }},
             {"ISSUEOFDRC", [&] { return rights(frmIssuOfDRc::table, frmIssuOfDRc::formName); }},
             {"TRANSFERDRC", [&] { return rights(frmDRCTransfer::table, frmDRCTransfer::formName); }},
@@ -237,10 +239,12 @@ private:
                 leaf(count, false, {counted("how many elements " + std::string(row.element) + " follow")}));
             children.push_back(joined(row, escapes(row), Times::Numbered));
         }
+        Value extracts = counted("how many extracts the plots have");
+        extracts.open = block.form.family.is712;                     // as the box holds it
         Value remark = words.of(frmMain712::formName, "txtRemark");  // in both blocks
         remark.question = words.of(block.form.formName, "txtRemark").question;
         return parent(block.element,
-                      {leaf(block.count, false, {counted("how many extracts the plots have")}),
+                      {leaf(block.count, false, {std::move(extracts)}),
                        parent(block.extract, std::move(children), Times::Numbered),
                        leaf(block.remark, true, {std::move(remark)})},
                       Times::AtMostOnce);
@@ -288,6 +292,7 @@ private:
         Value number = words.of(frmPlotExtractRelation::formName, plotBox);
         Value total = words.of(frmPlotExtractRelation::formName, extractBox);
         number.kind = total.kind = Kind::Count;
+        number.open = total.open = true;
         number.place = {{"^#^", 1}};
         total.place = {{"^#^", 2}};
         std::vector<Value> values = {std::move(number), std::move(total)};
@@ -312,7 +317,7 @@ private:
                 values.push_back(words.of(form.name(), (*boxes)[i].key()));
             children.push_back(leaf("RULE-" + std::to_string(i + 1), false, list(std::move(values))));
         }
-        return parent("DISC-REV", std::move(children));
+        return parent("DISC-REV", std::move(children), Times::AtMostOnce);
     }
 
     Element rights(const DRCTable& table, std::string_view form) {

@@ -50,7 +50,7 @@ struct Value {
     Kind kind = Kind::Text;
     std::vector<Code> codes;
     bool mayBeEmpty = false;
-    bool open = false;  ///< kept as text: another one can only come from a file that another program made
+    bool open = false;  ///< kept as text, so that it can be another one, though hardly ever is
     std::string typed;  ///< what can be typed there, when that is less than any text
     std::optional<std::string> example;
     std::string reading;  ///< what opening the file makes of it
@@ -71,6 +71,7 @@ struct Element {
     std::vector<Element> children;
     std::vector<Value> values;
     std::vector<std::string> alternatives;  ///< further patterns of the whole text, "{t}" for a text without separators
+    int fewest = 0;                         ///< pieces of the shortest list, where not all have all
     std::string text;                       ///< pattern of a text in it, where that is not any text
     std::string note;
 

@@ -70,6 +70,7 @@ private:
             element.note = note.sentence;
             element.alternatives = note.alternatives;
             element.text = note.text;
+            element.fewest = note.fewest;
             for (Value& value : element.values)
                 value.reading = note.reading;
         }

@@ -28,11 +28,13 @@ public:
             for (const Step& step : value.place)
                 if (signs.find(step.separator.front()) == std::string::npos)
                     signs += step.separator.front();
-        if (strict && !signs.empty())
-            text = "[^" + literally(signs) + "]*";
+        if (!signs.empty())
+            withoutSigns = "[^" + literally(signs) + "]*";
+        if (strict)
+            text = withoutSigns;
         else if (!element.text.empty())
             text = element.text;
-        const auto texts = std::ranges::count_if(element.values, [this](const Value& value) { return isText(value); });
+        const auto texts = std::ranges::count(element.values, Kind::Text, &Value::kind);
         countsOnly = text == anyText && texts > mostTexts;
     }
 
@@ -61,24 +63,20 @@ private:
     /// Of texts that may hold separators, a validator tries every way to part a list of more.
     static constexpr int mostTexts = 4;
 
-    /// A list of so many pieces or more; of fewer where one of the alternatives has fewer.
+    /// A list of as many pieces as the shortest has, or more.
     std::string atLeast() const {
-        int signs = element.values.back().place.front().piece - 1;
-        bool mayBeEmpty = false;
-        for (const std::string& alternative : element.alternatives) {
-            mayBeEmpty = mayBeEmpty || alternative.empty();
-            if (const std::size_t count = alternative.find("{t}#){"); count != std::string::npos)
-                signs = std::stoi(alternative.substr(count + 6));
-        }
-        return std::string(mayBeEmpty ? "|" : "") + "([^#]*#){" + std::to_string(signs) + "}" + std::string(anyText);
+        const int pieces = element.fewest > 0 ? element.fewest : element.values.back().place.front().piece;
+        const bool mayBeEmpty = std::ranges::count(element.alternatives, "") > 0;
+        return std::string(mayBeEmpty ? "|" : "") + "([^#]*#){" + std::to_string(pieces - 1) + "}" +
+               std::string(anyText);
     }
-
-    bool isText(const Value& value) const { return value.kind == Kind::Text || (value.open && !strict); }
 
     std::string of(const Value& value) const {
         std::string pattern;
-        if (isText(value))
+        if (value.kind == Kind::Text)
             return text;
+        if (value.open && !strict)
+            return value.kind == Kind::Count ? withoutSigns : text;
         switch (value.kind) {
         case Kind::Text:
         case Kind::Empty:
@@ -107,6 +105,7 @@ private:
     const Element& element;
     bool strict;
     std::string text{anyText};
+    std::string withoutSigns{anyText};
     bool countsOnly = false;
 };
 
