@@ -168,7 +168,7 @@ private:
                  std::vector<Element> children;
                  for (const PackedRow& row : naOrderRows())
                      children.push_back(ofRow(row, frmNaOrder::formName, false));
-                 return parent("NAOrder", std::move(children));
+                 return parent("NAOrder", std::move(children), Times::AtMostOnce);
              }},
             {"ULCORDER-SCRUTINY", [&] { return orders(); }},
             {"PLOT-REL", [&] { return plots("PLOT-REL", &Tables::rsPlot712, "txtNoOfPlot712", "txtNoOfExtract712"); }},

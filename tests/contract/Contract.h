@@ -71,6 +71,7 @@ struct Element {
     std::vector<Element> children;
     std::vector<Value> values;
     std::vector<std::string> alternatives;  ///< further patterns of the whole text, "{t}" for a text without separators
+    std::vector<std::string> looser;        ///< the same where values do not stand at their places
     int fewest = 0;                         ///< pieces of the shortest list, where not all have all
     std::string text;                       ///< pattern of a text in it, where that is not any text
     std::string note;

@@ -8,6 +8,7 @@
 #include "base/Text.h"
 #include "contract/Notes.h"
 #include "contract/Words.h"
+#include "document/SectionTables.h"
 
 namespace plandesk::contract {
 
@@ -20,6 +21,7 @@ public:
     void run() {
         for (Element& child : root.children)
             setPaths(child, "");
+        checkReaders();
         takeNotes();
         Asked asked;
         findAlike(root, asked);
@@ -31,6 +33,31 @@ private:
         element.path = above + element.name + (element.times == Times::Numbered ? "<n>" : "");
         for (Element& child : element.children)
             setPaths(child, element.path + "/");
+    }
+
+    /// What the sections are read into is what they were written from, value for value.
+    void checkReaders() {
+        std::size_t section = 0;
+        for (const SectionTable& table : sectionTables())
+            checkReader(root.children[section++], table.form, table.rows);
+        const FeeTables& fees = feeTables();
+        const auto payment = std::ranges::find(root.children, "PAYMENTDETAIL", &Element::name);
+        for (const auto rows : {fees.fees, fees.bankDetails, fees.secondScrutiny})
+            checkReader(*payment, fees.form, rows);
+    }
+
+    void checkReader(const Element& section, std::string_view form, std::span<const FieldRow> rows) {
+        for (const FieldRow& row : rows) {
+            const Element& element = section.children.at(static_cast<std::size_t>(row.field));
+            const std::size_t place = row.part == FieldRow::whole ? 0 : static_cast<std::size_t>(row.part);
+            const Value& value = element.values.at(place);
+            const bool whole = value.place.empty();
+            if (element.name != row.element || whole != (row.part == FieldRow::whole) ||
+                value.controls != words.of(form, row.control).controls)
+                throw RuntimeError(ErrorNumber::ItemNotFound, std::string(row.element) + " is read into " +
+                                                                  std::string(row.control) +
+                                                                  " but not written from it");
+        }
     }
 
     static void index(Element& element, std::map<std::string, Element*, std::less<>>& byPath) {
@@ -70,6 +97,7 @@ private:
             element.note = note.sentence;
             element.alternatives = note.alternatives;
             element.text = note.text;
+            element.looser = note.looser;
             element.fewest = note.fewest;
             for (Value& value : element.values)
                 value.reading = note.reading;

@@ -30,13 +30,14 @@ const std::vector<ElementNote>& allElementNotes() {
         {"SECTION-V/TWOONE-RAD", "the answer of `TWOZERO` once more; that of the question itself is in no file."},
         {"SECTION-V/TWOONE-TEXT", "the second and the third are digits of yes/no questions."},
         {"SECTION-V/TWOFIVE-RAD", "the second is 2 unless the first is 1."},
-        {"DOCCHKLIST",
-         "an entry a document, `1-FROM-TO`, or `0-0-0` for one that is not enclosed. Nothing stands between the entry "
-         "of the last mandatory document and that of the first conditional one: `1-7-91-11-12` is `1-7-9` and "
-         "`1-11-12`.",
-         {},
-         "",
-         "[^#]*"},
+        {.path = "DOCCHKLIST",
+         .sentence =
+             "an entry a document, `1-FROM-TO`, or `0-0-0` for one that is not enclosed. Nothing stands between the "
+             "entry of the last mandatory document and that of the first conditional one: `1-7-91-11-12` is `1-7-9` "
+             "and `1-11-12`. Whoever saves one checklist and then the first page alone leaves that one list, of 9 "
+             "entries or of 14.",
+         .text = "[^#]*",
+         .looser = {"[01]-{t}-{t}(#[01]-{t}-{t}){8}", "[01]-{t}-{t}(#[01]-{t}-{t}){13}"}},
         {"PAYMENTDETAIL/PAYMODE",
          "a payment by draft has no mode: the four values behind it then stand one element earlier, beginning here, "
          "and `BRANCHNM` is empty."},
@@ -49,18 +50,17 @@ const std::vector<ElementNote>& allElementNotes() {
         {"NTS/ULCORDER-SCRUTINY/EXTRACT-<n>",
          "the 7/12 extracts come first and have `712`, the property cards behind them `PRC`; the number runs on."},
         {"NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-84", "empty for an extract without such an order.", {""}},
-        {"NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-20a1",
-         "empty for an extract without such an order. An order whose scheme was never opened ends behind its 17th `#`, "
-         "without pairs.",
-         {"", "({t}#){17}"},
-         "",
-         "",
-         18},
+        {.path = "NTS/ULCORDER-SCRUTINY/EXTRACT-<n>/ULC-US-20a1",
+         .sentence = "empty for an extract without such an order. An order whose scheme was never opened ends behind "
+                     "its 17th `#`, without pairs.",
+         .alternatives = {"", "({t}#){17}"},
+         .fewest = 18},
         {"PLOT-REL",
          "the part for a plot comes once for each; the last one ends in `@->` too. After a save that ended in an error "
          "it may lack the plots, or be empty. The two numbers are as somebody typed them.",
          {""}},
         {"PLOT-PRCDETAILS", "as `PLOT-REL`, for the property cards.", {""}},
+        {"NTS/NAOrder", "as `DISC-REV`."},
         {"DISC-REV", "always there but after a save that ended in an error."},
         {"DISC-NEW", "as `DISC-REV`."},
         {"ISSUEOFDRC", "stands only in files of the run of the program in which the form was saved.", {}, "lost"},

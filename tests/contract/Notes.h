@@ -20,6 +20,7 @@ struct ElementNote {
     std::vector<std::string> alternatives{};  ///< further patterns of its text; "{t}": a text without separators
     std::string_view reading{};               ///< of each of its values
     std::string_view text{};                  ///< pattern of a text in it
+    std::vector<std::string> looser{};        ///< as those of an element
     int fewest = 0;                           ///< as that of an element
 };
 std::span<const ElementNote> elementNotes();

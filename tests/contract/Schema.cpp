@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Text.h"
 #include "contract/Contract.h"
 #include "proposal/mdlProject.h"
 
@@ -50,15 +51,18 @@ public:
                                       .repeated = [](const std::string& piece) { return "(" + piece + ")*"; }});
         if (pattern == text && element.alternatives.empty() && text == anyText)
             return "";
-        for (std::string alternative : element.alternatives) {
-            for (std::size_t at; (at = alternative.find("{t}")) != std::string::npos;)
-                alternative.replace(at, 3, text);
-            pattern += "|" + alternative;
-        }
+        appendTo(pattern, element.alternatives);
+        if (!strict)
+            appendTo(pattern, element.looser);
         return pattern;
     }
 
 private:
+    void appendTo(std::string& pattern, const std::vector<std::string>& alternatives) const {
+        for (const std::string& alternative : alternatives)
+            pattern += "|" + replaceAll(alternative, "{t}", text);
+    }
+
     static constexpr std::string_view anyText = R"([\s\S]*)";
     /// Of texts that may hold separators, a validator tries every way to part a list of more.
     static constexpr int mostTexts = 4;

@@ -13,6 +13,7 @@
 
 #include "ProposalFile.h"
 #include "base/Text.h"
+#include "document/DocumentBlocks.h"
 #include "unit/roundtrip/RandomProposal.h"
 
 namespace plandesk::test {
@@ -152,6 +153,32 @@ TEST(Contract, theSchemasTakeTheGoldenDocumentsAndTheExample) {
     rights = replaceAll(replaceAll(rights, " & ", " &amp; "), "<rear>", "&lt;rear>");
     EXPECT_EQ(any().judge(rights), Verdict::Taken) << any().complaint();
     EXPECT_EQ(strict().judge(rights), Verdict::Refused);  // "Plot #4"
+}
+
+TEST(Contract, theSchemaTakesWhatPartsThatAreSavedAloneLeave) {
+    World world;
+    world.saveNewProposal("/home/proposal.xml");
+    const std::string& document = world.ports.files.contents["/home/proposal.xml"];
+    EXPECT_EQ(strict().judge(document), Verdict::Taken) << strict().complaint();
+    // The conditional documents in place of all.
+    world.button("frmDocCheckList1", "cmdSave").press();
+    world.button("frmAnnexureA", "cmdSave").press();
+    EXPECT_EQ(any().judge(document), Verdict::Taken) << any().complaint();
+    EXPECT_EQ(strict().judge(document), Verdict::Refused);
+    // Without land records, orders and discretion.
+    World other;
+    other.shell.press("mnuNew");
+    other.fillFirstPage();
+    buildBlock(other.proposal, &Proposal::annexureBXML);
+    for (const auto& [form, save] :
+         {std::pair("AnnexureACont", "SaveData"), std::pair("frmDocCheckList", "cmdSave_Click"),
+          std::pair("frmPayDetail", "SaveData")})
+        other.proposal.forms.touch(form)->call(save);
+    other.ports.dialogs.answers = {"/home/other.xml"};
+    other.button("frmAnnexureA", "cmdSave").press();
+    const std::string& parts = other.ports.files.contents["/home/other.xml"];
+    EXPECT_EQ(any().judge(parts), Verdict::Taken) << any().complaint() << parts;
+    EXPECT_EQ(strict().judge(parts), Verdict::Refused);
 }
 
 TEST(Contract, theSchemaTakesRandomProposals) {
