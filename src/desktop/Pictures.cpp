@@ -74,9 +74,8 @@ void drawStairs(QPainter& painter) {
     painter.drawLine(222, 80, 312, 80);
 }
 
-// The program's mark, also in packaging/plandesk.svg. Its walls lie on a grid of 16, so that they are sharp at 16, 32,
-// 48
-// ... pixels.
+// The program's mark, also in packaging/plandesk.svg. Its walls lie on a grid of 16, so that they are sharp at any
+// multiple of 16 pixels.
 constexpr double markSide = 16;
 // One wall around, with the door's gap below, and those between three rooms.
 constexpr std::array markWalls = std::to_array<QRect>({
