@@ -223,7 +223,7 @@ public:
     ImageView(Captioned& image, QToolButton& button, ScreenView& screen) : ControlView(image, button, screen) {
         const int side = button.fontMetrics().height();
         button.setAutoRaise(true);
-        button.setIcon(detailsIcon(side));
+        button.setIcon(detailsIcon());
         button.setIconSize({side, side});
         connect(&button, &QToolButton::clicked, this, [this] { act([this] { user::click(*subject); }); });
     }

@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QPixmap>
 #include <array>
+#include <initializer_list>
+#include <vector>
 
 namespace plandesk::desktop {
 
@@ -91,24 +93,19 @@ constexpr std::array markWalls = std::to_array<QRect>({
 constexpr QRect markDoor(5, 9, 1, 5);
 constexpr QRectF markSwing(1.25, 9.25, 7.5, 7.5);
 
-/// Draws the program's mark whenever it is wanted and keeps nothing.
-class ProgramMark : public QIconEngine {
+/// A picture on a square grid that is drawn whenever it is wanted and kept nowhere.
+class DrawnIcon : public QIconEngine {
 public:
+    using Drawing = void (*)(QPainter&);
+    DrawnIcon(double grid, Drawing drawing, std::initializer_list<int> sides)
+        : grid(grid), drawing(drawing), sides(sides) {}
+
     void paint(QPainter* painter, const QRect& place, QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(place.topLeft());
-        painter->scale(place.width() / markSide, place.height() / markSide);
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(QColor(0x5B, 0x45, 0x24));
-        painter->drawRoundedRect(QRectF(0, 0, markSide, markSide), 2.5, 2.5);
-        for (const QRect& wall : markWalls)
-            painter->fillRect(wall, Qt::white);
-        constexpr QColor light(0xF2, 0xC4, 0x74);
-        painter->fillRect(markDoor, light);
-        painter->setPen(QPen(light, 0.5, Qt::SolidLine, Qt::FlatCap));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawArc(markSwing, 0, 90 * 16);
+        painter->scale(place.width() / grid, place.height() / grid);
+        drawing(*painter);
         painter->restore();
     }
 
@@ -122,13 +119,47 @@ public:
 
     QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
         QList<QSize> sizes;
-        for (const int side : {16, 22, 24, 32, 36, 48, 64, 72, 96, 128, 192, 256})
+        for (const int side : sides)
             sizes.append({side, side});
         return sizes;
     }
 
-    QIconEngine* clone() const override { return new ProgramMark; }
+    QIconEngine* clone() const override { return new DrawnIcon(*this); }
+
+private:
+    double grid;
+    Drawing drawing;
+    std::vector<int> sides;
 };
+
+void drawMark(QPainter& painter) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0x5B, 0x45, 0x24));
+    painter.drawRoundedRect(QRectF(0, 0, markSide, markSide), 2.5, 2.5);
+    for (const QRect& wall : markWalls)
+        painter.fillRect(wall, Qt::white);
+    constexpr QColor light(0xF2, 0xC4, 0x74);
+    painter.fillRect(markDoor, light);
+    painter.setPen(QPen(light, 0.5, Qt::SolidLine, Qt::FlatCap));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawArc(markSwing, 0, 90 * 16);
+}
+
+void drawSheetWithPen(QPainter& painter) {
+    painter.setPen(QPen(QColor(0x40, 0x50, 0x70), 1));
+    painter.setBrush(Qt::white);
+    painter.drawRect(QRectF(1.5, 0.5, 9, 12));
+    for (const double y : {3.5, 5.5, 7.5})
+        painter.drawLine(QPointF(3.5, y), QPointF(8.5, y));
+    painter.setPen(QPen(QColor(0xC0, 0x50, 0x10), 2));
+    painter.drawLine(QPointF(7, 11), QPointF(12.5, 5.5));
+}
+
+void drawMore(QPainter& painter) {
+    painter.setPen(QPen(Qt::black, 1.5));
+    for (const double x : {2.0, 6.0})
+        painter.drawPolyline(QPolygonF({{x, 2}, {x + 3, 5}, {x, 8}}));
+}
 
 }  // namespace
 
@@ -160,24 +191,15 @@ void drawFloorPlan(QPainter& painter) {
 }
 
 QIcon programIcon() {
-    return QIcon(new ProgramMark);
+    return QIcon(new DrawnIcon(markSide, drawMark, {16, 22, 24, 32, 36, 48, 64, 72, 96, 128, 192, 256}));
 }
 
-QIcon detailsIcon(int side) {
-    constexpr double grid = 14.0;
-    QPixmap picture(side, side);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(side / grid, side / grid);
-    painter.setPen(QPen(QColor(0x40, 0x50, 0x70), 1));
-    painter.setBrush(Qt::white);
-    painter.drawRect(QRectF(1.5, 0.5, 9, 12));
-    for (const double y : {3.5, 5.5, 7.5})
-        painter.drawLine(QPointF(3.5, y), QPointF(8.5, y));
-    painter.setPen(QPen(QColor(0xC0, 0x50, 0x10), 2));
-    painter.drawLine(QPointF(7, 11), QPointF(12.5, 5.5));
-    return picture;
+QIcon detailsIcon() {
+    return QIcon(new DrawnIcon(14, drawSheetWithPen, {}));
+}
+
+QIcon moreIcon() {
+    return QIcon(new DrawnIcon(10, drawMore, {}));
 }
 
 }  // namespace plandesk::desktop

@@ -16,7 +16,10 @@ void drawFloorPlan(QPainter& painter);
 /// The program's mark, a small floor plan, in the sizes that desktops ask for.
 QIcon programIcon();
 
-/// A sheet with a pen, for the icons that open further details; `side` in pixels.
-QIcon detailsIcon(int side);
+/// A sheet with a pen, for the icons that open further details.
+QIcon detailsIcon();
+
+/// Two arrow heads, for a bar that has more entries than room.
+QIcon moreIcon();
 
 }  // namespace plandesk::desktop

@@ -48,6 +48,12 @@ public:
         drawPrimitive(PE_FrameFocusRect, &mark, painter, widget);
     }
 
+    /// The toolkit's own comes from a file, for which every start would load the readers of all kinds of pictures.
+    QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
+        return which == SP_ToolBarHorizontalExtensionButton ? moreIcon()
+                                                            : QProxyStyle::standardIcon(which, option, widget);
+    }
+
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         const int given = QProxyStyle::pixelMetric(metric, option, widget);
         switch (metric) {
