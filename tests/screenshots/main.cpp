@@ -1,6 +1,6 @@
 // Takes a picture of every page of every form at 1024 x 700, once with the system's font and once with one of twice the
 // size, and of some in other sizes of the window, into the folder given as the first argument. A second one takes one
-// set of them alone.
+// set of them alone, or the pictures of docs/guide.md, which go with none of the sets.
 
 #include <QApplication>
 #include <QScrollArea>
@@ -17,6 +17,7 @@
 #include "particulars/frmAnnexureA.h"
 #include "reports/ReportDesk.h"
 #include "reports/frmReportNav.h"
+#include "screenshots/GuidePictures.h"
 
 namespace {
 
@@ -191,14 +192,19 @@ int main(int argc, char* argv[]) {
                                               {"review", takeReview},
                                               {"sizes", takeSizes}};
     const std::string wanted = argc == 3 ? argv[2] : "";
-    if (argc < 2 || argc > 3 || (argc == 3 && !sets.contains(wanted))) {
-        std::cerr << "usage: plandesk-screenshots FOLDER [forms|land-records|reports|review|sizes]\n";
+    const bool guide = wanted == "guide";
+    if (argc < 2 || argc > 3 || (argc == 3 && !guide && !sets.contains(wanted))) {
+        std::cerr << "usage: plandesk-screenshots FOLDER [forms|guide|land-records|reports|review|sizes]\n";
         return 2;
     }
     QApplication application(argc, argv);
     desktop::useTheme();
     const std::filesystem::path folder = argv[1];
     std::filesystem::create_directories(folder);
+    if (guide) {
+        takeGuidePictures(folder);
+        return 0;
+    }
     for (const std::string suffix : {"", "-large"}) {
         for (const auto& [name, take] : sets)
             if (wanted.empty() || wanted == name)
