@@ -35,7 +35,7 @@ constexpr int pauseLength = 300;  // milliseconds
 /// The user guide, where one is installed: beside the program, or among the documents of its package. Empty without.
 std::string guideFile(const std::filesystem::path& programFolder) {
     std::error_code unknown;
-    for (const char* place : {"guide.html", "../share/doc/plandesk/guide.html"})
+    for (const char* place : {"guide.html", "../../share/doc/plandesk/guide.html"})
         if (std::filesystem::is_regular_file(programFolder / place, unknown))
             return (programFolder / place).lexically_normal().string();
     return "";

@@ -2,6 +2,7 @@
 
 #include <QKeySequence>
 #include <QObject>
+#include <QSize>
 #include <QTimer>
 #include <functional>
 #include <memory>

@@ -1,6 +1,7 @@
 // What the user does has the same effect with the review's panel open and without it.
 // PLANDESK_REVIEW_SEED=N begins with the sequence of that seed.
 
+#include <QLabel>
 #include <QTest>
 #include <random>
 #include <sstream>

@@ -164,7 +164,10 @@ void takeReview(const std::filesystem::path& folder, const std::string& suffix) 
         form.txtArchNm.setText("Lim@ye");
         form.txtArchFirstName.setText("Gauri");
         form.txtPltArea.setText("850");
-        form.cboCaseType.setListIndex(0);
+        form.txtpltno.setText("12/3");
+        form.txtTikaNo.setText("1.5");
+        for (ComboBox* list : {&form.cboCaseType, &form.cboProposalTyp, &form.cboSector})
+            list->setListIndex(0);
         const auto key = [&](Qt::Key pressed) {
             QTest::keyClick(&session.window, pressed);
             QTest::qWait(500);
