@@ -10,7 +10,7 @@ class Proposal;
 
 /// One step of the save: a form's own save, or, without a form, a block built or something set.
 struct SaveStep {
-    std::string_view form{};  ///< passed over while it is still to come
+    std::string_view form{};
     std::string_view procedure{};
     std::string Proposal::*needed = nullptr;  ///< when it is empty afterwards, the save stops
     std::string Proposal::*block = nullptr;
