@@ -119,8 +119,18 @@ void ReviewDesk::makeMenu(QAction* before) {
     if (guide.empty())
         return;
     menu->addSeparator();
-    add(*menu, "reviewGuide", tr("&User guide"), {},
-        [guide] { QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(guide))); });
+    add(*menu, "reviewGuide", tr("&User guide"), {}, [this, guide] { openGuide(guide); });
+}
+
+void ReviewDesk::openGuide(const std::string& file) {
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(toQt(file))))
+        return;
+    room.forms.act(Qt::OtherFocusReason, [&] {
+        room.proposal.screen.event([&] {
+            room.proposal.screen.message("This machine has no program that shows the guide. It is the file " + file,
+                                         "User guide");
+        });
+    });
 }
 
 QAction* ReviewDesk::entry(const QString& name) const {

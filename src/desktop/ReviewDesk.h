@@ -67,6 +67,8 @@ private:
     void goToPage(const ReviewPage& page);
     void compare();
     void saveList();
+    /// Shows that file in the program that this machine has for such files; tells where it is when there is none.
+    void openGuide(const std::string& file);
     ReviewGroup find(const QString& words);
 
     /// Made when it is opened for the first time.

@@ -42,12 +42,19 @@ int visiblePlace(Recordset& table, int row) {
     return -1;
 }
 
-/// The land records show the rows of one extract at a time: the one that the row belongs to is chosen.
+/// The land records show the rows of one extract at a time: the one that the row belongs to is chosen. After a save and
+/// an opening none is: the form then shows the rows of all extracts, and its owners hang on no table until one is.
 void chooseExtract(const Form& sheet, const Grid& grid, int row) {
     const bool landRecord = sheet.name() == "frmMain712" || sheet.name() == "frmPRCEXT";
     auto* const list = landRecord ? dynamic_cast<ComboBox*>(sheet.findKey("cmbExtract")) : nullptr;
+    if (!list || list->listCount() == 0)
+        return;
+    if (!grid.table())
+        user::pick(*list, 0);
+    if (!grid.table())
+        return;
     const auto rows = grid.table()->allRows();
-    if (!list || row < 0 || static_cast<std::size_t>(row) >= rows.size())
+    if (row < 0 || static_cast<std::size_t>(row) >= rows.size())
         return;
     const double extract = leadingNumber(valueText(rows[static_cast<std::size_t>(row)][ExtractColumn::ExtNo]));
     if (extract >= 1 && extract <= list->listCount())
@@ -70,10 +77,11 @@ bool goTo(Proposal& proposal, std::string_view form, std::string_view control, i
         if (strip && page >= 0)
             strip->setTab(page);
         auto* const grid = dynamic_cast<Grid*>(wanted);
-        int place = grid && grid->table() ? visiblePlace(*grid->table(), row) : -1;
-        if (grid && grid->table() && place < 0) {
+        const auto placeNow = [&] { return grid && grid->table() ? visiblePlace(*grid->table(), row) : -1; };
+        int place = placeNow();
+        if (grid && (place < 0 || grid->table()->filter().empty())) {
             chooseExtract(*sheet, *grid, row);
-            place = grid->table() ? visiblePlace(*grid->table(), row) : -1;
+            place = placeNow();
         }
         if (place >= 0)
             grid->moveTo(place, std::max(column, 0));
