@@ -189,7 +189,9 @@ TEST(Contract, theSchemaTakesRandomProposals) {
     const ScratchFolder folder;
     Counts first;
     Counts second;
-    for (; first.taken < wanted && !HasFailure(); ++seed) {
+    const int most = 10 * wanted + 100;  // where nothing can be saved the walk would have no end
+    for (int tries = 0; first.taken < wanted && !HasFailure(); ++seed, ++tries) {
+        ASSERT_LT(tries, most) << "hardly a proposal is saved";
         World world;
         world.shell.press("mnuNew");
         RandomProposal(world, seed).fill();

@@ -27,6 +27,60 @@ constexpr std::array rows = std::to_array<FeedRow>({
 constexpr auto columns = columnsOf(rows);
 constexpr Feed feed{.rows = rows, .columns = columns};
 
+PaperSection letter() {
+    return {SectionKind::Letter,
+            {
+                line({text("Sir ,")}),
+                line({
+                    text("I here by certify that the erection/re-erection of part/full development work/in on "
+                         "building/part building No"),
+                    text("building No."),
+                    field("FLD1"),
+                    text("on in Plot No."),
+                    field("FLD2"),
+                    text("S.No./City S.No./F.P.No."),
+                    field("FLD3"),
+                    text("Village/T.P.S.No."),
+                    field("FLD4"),
+                    text("Sector No."),
+                    field("FLD5"),
+                    text("Road/Street/Ward No."),
+                    field("FLD6"),
+                    text("has been supervised by me and has been completed on"),
+                    field("FLD7"),
+                    text("in accordance with the plans(V.P."),
+                    field("FLD8"),
+                    text("sactioned wide your office communication No."),
+                    field("FLD9"),
+                    text("Dated"),
+                    field("FLD10"),
+                    text(". The work has been completed to my best satisfaction."),
+                }),
+                line({
+                    text("The workmanship and all the materials ( type and Grade ) have been used strictly in "
+                         "accordance with general and detailed specifications. "),
+                    text("general and detailed specifications. No provisions of the Act or the building "
+                         "regulations , no "),
+                    text("requisitions made, conditions prescibed or orders issued there under have been  "
+                         "transgresed in "),
+                    text("the course of the work.No objection certificate from various departments of the "
+                         "corporation such as Water suply"),
+                    text("and Drainage Deptt, Tree Authority etc. in this respect are enclosed . Further, I am "
+                         "enclosing here with "),
+                    text("and six copies of the completion of plans, one of which is cloth mounted. The building "
+                         "is fit for "),
+                    text("for which it has been erected \\ re-errected or altered , constructed and enlarged . I "
+                         "have to request"),
+                    text("you to arrange for the inspection & give permission for the occupation of the "
+                         "building ."),
+                }),
+                line({text("Your's faithfully")}, RowStyle::Right),
+                line({text("Signature of licenced Surveyor / "), text(" or Architect"),
+                      text("Surveyor/Engineer/Structural Engineer or Architect")},
+                     RowStyle::Right),
+            }};
+}
+
 Paper paper() {
     return {
         .title = "Building completion certificate",
@@ -41,57 +95,7 @@ Paper paper() {
                      line({text("Municipal Corporation of the City of Sindhavali,")}),
                      line({text("Sindhavali .")}),
                  }},
-                {SectionKind::Letter,
-                 {
-                     line({text("Sir ,")}),
-                     line({
-                         text("I here by certify that the erection/re-erection of part/full development work/in on "
-                              "building/part building No"),
-                         text("building No."),
-                         field("FLD1"),
-                         text("on in Plot No."),
-                         field("FLD2"),
-                         text("S.No./City S.No./F.P.No."),
-                         field("FLD3"),
-                         text("Village/T.P.S.No."),
-                         field("FLD4"),
-                         text("Sector No."),
-                         field("FLD5"),
-                         text("Road/Street/Ward No."),
-                         field("FLD6"),
-                         text("has been supervised by me and has been completed on"),
-                         field("FLD7"),
-                         text("in accordance with the plans(V.P."),
-                         field("FLD8"),
-                         text("sactioned wide your office communication No."),
-                         field("FLD9"),
-                         text("Dated"),
-                         field("FLD10"),
-                         text(". The work has been completed to my best satisfaction."),
-                     }),
-                     line({
-                         text("The workmanship and all the materials ( type and Grade ) have been used strictly in "
-                              "accordance with general and detailed specifications. "),
-                         text("general and detailed specifications. No provisions of the Act or the building "
-                              "regulations , no "),
-                         text("requisitions made, conditions prescibed or orders issued there under have been  "
-                              "transgresed in "),
-                         text("the course of the work.No objection certificate from various departments of the "
-                              "corporation such as Water suply"),
-                         text("and Drainage Deptt, Tree Authority etc. in this respect are enclosed . Further, I am "
-                              "enclosing here with "),
-                         text("and six copies of the completion of plans, one of which is cloth mounted. The building "
-                              "is fit for "),
-                         text("for which it has been erected \\ re-errected or altered , constructed and enlarged . I "
-                              "have to request"),
-                         text("you to arrange for the inspection & give permission for the occupation of the "
-                              "building ."),
-                     }),
-                     line({text("Your's faithfully")}, RowStyle::Right),
-                     line({text("Signature of licenced Surveyor / "), text(" or Architect"),
-                           text("Surveyor/Engineer/Structural Engineer or Architect")},
-                          RowStyle::Right),
-                 }},
+                letter(),
                 {SectionKind::Pairs,
                  {
                      {{{text("Name : "), text("(In block Letters)")}, {field("FLD11")}}},

@@ -47,6 +47,45 @@ std::vector<PaperRow> enclosures() {
     };
 }
 
+PaperSection letter() {
+    return {SectionKind::Letter,
+            {
+                line({text("Sir,")}),
+                line({
+                    text("I intend to carry out development in the site/to erect, to re-erect/to demolish/to make "
+                         "material alteration in the building "),
+                    text("No."),
+                    field("BldgNo"),
+                    text("in village"),
+                    field("vilage"),
+                    text("Sector No"),
+                    field("Sector"),
+                    text("Ward No"),
+                    field("wardNO"),
+                    text("situated at road/street...... "),
+                    text("CTS NO."),
+                    field("CTSNO"),
+                    text("S.No./Plot No."),
+                    field("plotno"),
+                    text("F.P.No."),
+                    field("FinalPlotNo"),
+                    text("in accordance with the provision of the Maharashtra"),
+                    text(" Regional and Town planning Act, 1966. I, therefore apply for permission under section "
+                         "44/69 of the that Act."),
+                }),
+                line({
+                    text("I forward here with the following plans and statments (items 1 to 6) Wherever "
+                         "applicable, in quadruplicate signed by me and"),
+                    field("archName"),
+                    text(" the licenced to registered Architect / Engineer / Structural Engineer / Supervisor "
+                         "Licence No"),
+                    field("LicNo"),
+                    text("who  has prepared the plans, designs and a copy of other statements / documents, as "
+                         "applicable (items 7 to 10)."),
+                }),
+            }};
+}
+
 Paper paper() {
     return {
         .title = "Application for development permission",
@@ -58,42 +97,7 @@ Paper paper() {
                      line({text("The Commissioner,")}),
                      line({text("Municipal Corporation of the City of Sindhavali,")}),
                  }},
-                {SectionKind::Letter,
-                 {
-                     line({text("Sir,")}),
-                     line({
-                         text("I intend to carry out development in the site/to erect, to re-erect/to demolish/to make "
-                              "material alteration in the building "),
-                         text("No."),
-                         field("BldgNo"),
-                         text("in village"),
-                         field("vilage"),
-                         text("Sector No"),
-                         field("Sector"),
-                         text("Ward No"),
-                         field("wardNO"),
-                         text("situated at road/street...... "),
-                         text("CTS NO."),
-                         field("CTSNO"),
-                         text("S.No./Plot No."),
-                         field("plotno"),
-                         text("F.P.No."),
-                         field("FinalPlotNo"),
-                         text("in accordance with the provision of the Maharashtra"),
-                         text(" Regional and Town planning Act, 1966. I, therefore apply for permission under section "
-                              "44/69 of the that Act."),
-                     }),
-                     line({
-                         text("I forward here with the following plans and statments (items 1 to 6) Wherever "
-                              "applicable, in quadruplicate signed by me and"),
-                         field("archName"),
-                         text(" the licenced to registered Architect / Engineer / Structural Engineer / Supervisor "
-                              "Licence No"),
-                         field("LicNo"),
-                         text("who  has prepared the plans, designs and a copy of other statements / documents, as "
-                              "applicable (items 7 to 10)."),
-                     }),
-                 }},
+                letter(),
                 {SectionKind::Letter, enclosures()},
                 {SectionKind::Letter,
                  {

@@ -35,6 +35,55 @@ constexpr std::array rows = std::to_array<FeedRow>({
 constexpr auto columns = columnsOf(rows);
 constexpr Feed feed{.rows = rows, .columns = columns};
 
+PaperSection affidavit() {
+    return {SectionKind::Letter,
+            {
+                line({
+                    text("I/WE,"),
+                    field("FLD1"),
+                    text("aged"),
+                    field("FLD2"),
+                    text("of Indian inhabitant residing at "),
+                    field("FLD3"),
+                }),
+                line({
+                    text("I/We am/are the properietor(s) of the firm"),
+                    field("FLD4"),
+                    text("Having it's registered office at "),
+                    field("FLD5"),
+                    text("state on affirmation as under."),
+                }),
+                line({
+                    text("is/am the owner(s) of the land bearing S.No./H.No./C.S.No."),
+                    field("FLD6"),
+                    text(" situated at"),
+                    field("FLD7"),
+                    text("of village"),
+                    field("FLD8"),
+                }),
+                line({
+                    text("The aforesaid land is partly/fully reseved for the pupose of"),
+                    field("FLD9"),
+                    text("as per the sactioned/draft development plan of"),
+                    field("FLD10"),
+                    text("sector earmarked as amenity plot under D.C. Regulation 1994."),
+                }),
+                line({
+                    text("D.C. Regulation 1994. I/We have neither taken any monetary compansation or compensatory "
+                         "FSI from "),
+                    text("the Municipal Corporation or not claimed Transfer of Development rights in lieu of said "
+                         "land earlier."),
+                }),
+                line({
+                    text("I/We, am/are, entitled for T.D.R. and grant of development right Certificate as "
+                         "provided under Appendix W "),
+                    text("of the Development Control Regulations for the city of Sindhavali, 1994. "),
+                }),
+                line({text("Dated this"), field("FLD11"), text("day of"), field("FLD12"), text("the year"),
+                      field("FLD13")}),
+            }};
+}
+
 Paper paper() {
     return {
         .title = "TDR for transferring ownership",
@@ -47,52 +96,7 @@ Paper paper() {
                      line({text("Municipal Corporation of Sindhavali,")}),
                      line({text("Sindhavali.")}),
                  }},
-                {SectionKind::Letter,
-                 {
-                     line({
-                         text("I/WE,"),
-                         field("FLD1"),
-                         text("aged"),
-                         field("FLD2"),
-                         text("of Indian inhabitant residing at "),
-                         field("FLD3"),
-                     }),
-                     line({
-                         text("I/We am/are the properietor(s) of the firm"),
-                         field("FLD4"),
-                         text("Having it's registered office at "),
-                         field("FLD5"),
-                         text("state on affirmation as under."),
-                     }),
-                     line({
-                         text("is/am the owner(s) of the land bearing S.No./H.No./C.S.No."),
-                         field("FLD6"),
-                         text(" situated at"),
-                         field("FLD7"),
-                         text("of village"),
-                         field("FLD8"),
-                     }),
-                     line({
-                         text("The aforesaid land is partly/fully reseved for the pupose of"),
-                         field("FLD9"),
-                         text("as per the sactioned/draft development plan of"),
-                         field("FLD10"),
-                         text("sector earmarked as amenity plot under D.C. Regulation 1994."),
-                     }),
-                     line({
-                         text("D.C. Regulation 1994. I/We have neither taken any monetary compansation or compensatory "
-                              "FSI from "),
-                         text("the Municipal Corporation or not claimed Transfer of Development rights in lieu of said "
-                              "land earlier."),
-                     }),
-                     line({
-                         text("I/We, am/are, entitled for T.D.R. and grant of development right Certificate as "
-                              "provided under Appendix W "),
-                         text("of the Development Control Regulations for the city of Sindhavali, 1994. "),
-                     }),
-                     line({text("Dated this"), field("FLD11"), text("day of"), field("FLD12"), text("the year"),
-                           field("FLD13")}),
-                 }},
+                affidavit(),
                 {SectionKind::Pairs,
                  {
                      pair("Deponent", {field("FLD14")}),

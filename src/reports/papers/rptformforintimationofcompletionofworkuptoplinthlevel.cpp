@@ -27,6 +27,47 @@ constexpr std::array rows = std::to_array<FeedRow>({
 constexpr auto columns = columnsOf(rows);
 constexpr Feed feed{.rows = rows, .columns = columns};
 
+PaperSection letter() {
+    return {SectionKind::Letter,
+            {
+                line({text("Sir ,")}),
+                line({
+                    text("The construction upto plinth column upto plinth level has been completed"),
+                    text("in Building No."),
+                    field("FLD1"),
+                    text("S.No./C.T.S.No./F.P.No."),
+                    field("FLD2"),
+                    text("Village No."),
+                    field("FLD3"),
+                    text("Town planning scheme No"),
+                    field("FLD4"),
+                    text("Sector No."),
+                    field("FLD5"),
+                    text("Road/"),
+                    text("Street"),
+                    field("FLD6"),
+                    text("Ward"),
+                    text("No."),
+                    field("FLD7"),
+                    text("accordance  with  your  permission "),
+                    text("No."),
+                    field("FLD8"),
+                    text("dated"),
+                    field("FLD9"),
+                    text("under my  supervision and in accordance "),
+                    text("with the sactioned plan."),
+                }),
+                line({
+                    text("Please  check  the  completed  work  and  permit  work  and permit me to "),
+                    text("proceed with the rest of the work."),
+                }),
+                line({text("Your's faithfully")}, RowStyle::Right),
+                line({text("Signature of licenced Surveyor / "), text("Supervisor or Architect"),
+                      text("Surveyor/Engineer/Structural Engineer or Architect")},
+                     RowStyle::Right),
+            }};
+}
+
 Paper paper() {
     return {
         .title = "Intimation of completion up to plinth level",
@@ -41,44 +82,7 @@ Paper paper() {
                      line({text("Municipal Corporation of the City of Sindhavali,")}),
                      line({text("Sindhavali .")}),
                  }},
-                {SectionKind::Letter,
-                 {
-                     line({text("Sir ,")}),
-                     line({
-                         text("The construction upto plinth column upto plinth level has been completed"),
-                         text("in Building No."),
-                         field("FLD1"),
-                         text("S.No./C.T.S.No./F.P.No."),
-                         field("FLD2"),
-                         text("Village No."),
-                         field("FLD3"),
-                         text("Town planning scheme No"),
-                         field("FLD4"),
-                         text("Sector No."),
-                         field("FLD5"),
-                         text("Road/"),
-                         text("Street"),
-                         field("FLD6"),
-                         text("Ward"),
-                         text("No."),
-                         field("FLD7"),
-                         text("accordance  with  your  permission "),
-                         text("No."),
-                         field("FLD8"),
-                         text("dated"),
-                         field("FLD9"),
-                         text("under my  supervision and in accordance "),
-                         text("with the sactioned plan."),
-                     }),
-                     line({
-                         text("Please  check  the  completed  work  and  permit  work  and permit me to "),
-                         text("proceed with the rest of the work."),
-                     }),
-                     line({text("Your's faithfully")}, RowStyle::Right),
-                     line({text("Signature of licenced Surveyor / "), text("Supervisor or Architect"),
-                           text("Surveyor/Engineer/Structural Engineer or Architect")},
-                          RowStyle::Right),
-                 }},
+                letter(),
                 {SectionKind::Pairs,
                  {
                      {{{text("Name : "), text("(In block Letters)")}, {field("FLD10")}}},
