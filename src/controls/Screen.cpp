@@ -25,7 +25,7 @@ Screen::~Screen() = default;
 void Screen::message(std::string_view text, std::string_view title, Icon icon) {
     const Subject failure = std::exchange(failed, {});
     const Subject& meant = icon == Icon::Critical && !failure.empty() ? failure : subject;
-    const std::string detail = meant.control ? placeOf(*meant.control) : meant.text;
+    const std::string detail = meant.control && meant.text.empty() ? placeOf(*meant.control) : meant.text;
     ports.dialogs.showMessage({std::string(title), std::string(text), icon, detail, meant.control});
 }
 

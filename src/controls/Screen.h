@@ -89,7 +89,7 @@ private:
     friend class Form;
     friend class Control;
     friend class Meaning;
-    /// What a message means: a control, or something that has words alone.
+    /// What a message means: a control, with words or its place, or something that has words alone.
     struct Subject {
         const Control* control = nullptr;
         std::string text{};

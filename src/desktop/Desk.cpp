@@ -23,10 +23,25 @@ void Desk::paintBackground() {
     update();
 }
 
+void Desk::setHint(const QString& text) {
+    if (hint == text)
+        return;
+    hint = text;
+    update();
+}
+
+QRect Desk::hintPlace() const {
+    constexpr int gap = 12;
+    constexpr int lines = 2;
+    return {0, place.bottom() + gap, width(), lines * fontMetrics().lineSpacing()};
+}
+
 void Desk::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    if (!place.isEmpty() && !hint.isEmpty() && event->rect().intersects(hintPlace()))
+        painter.drawText(hintPlace(), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint);
     if (!event->rect().intersects(place))
         return;
-    QPainter painter(this);
     painter.setClipRect(place);
     painter.translate(place.topLeft());
     drawFloorPlan(painter);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QRect>
+#include <QString>
 #include <QWidget>
 #include <functional>
 
@@ -15,6 +16,11 @@ public:
     /// Draws the picture to the middle of the present size. Until the next call it stays where it is.
     void paintBackground();
 
+    /// Words below the picture, none when empty.
+    void setHint(const QString& text);
+    const QString& hintShown() const { return hint; }
+    QRect hintPlace() const;
+
     std::function<void()> resized = [] {};
 
 protected:
@@ -23,6 +29,7 @@ protected:
 
 private:
     QRect place;  ///< of the picture; none before it was asked for
+    QString hint;
 };
 
 }  // namespace plandesk::desktop

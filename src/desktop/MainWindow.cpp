@@ -14,6 +14,7 @@
 #include "controls/User.h"
 #include "desktop/Application.h"
 #include "desktop/ChildWindow.h"
+#include "desktop/KeyHelp.h"
 #include "desktop/LongText.h"
 #include "desktop/PreviewWindow.h"
 #include "desktop/QtText.h"
@@ -75,7 +76,10 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
     review = std::make_unique<ReviewDesk>(ReviewDesk::Room{*this, proposal, shell, screenView}, entry("mnuHelp"));
     makeTimers();
     screenView.mainWindowTouched = [this] { showState(); };
-    screenView.formsShown = [this] { previewWindows.sync(); };
+    screenView.formsShown = [this] {
+        previewWindows.sync();
+        tellHowToBegin();
+    };
     desk->resized = [this] {
         screenView.guarded([this] {
             screenView.fitWindows();
@@ -133,6 +137,12 @@ void MainWindow::makeMenu() {
     for (const Shortcut& shortcut : shortcuts())
         if (QAction* action = entry(shortcut.entry))
             action->setShortcut(shortcut.keys);
+    // No part of the system's menu, and nothing that the system knows of.
+    if (QAction* help = entry("mnuHelp")) {
+        QAction* keys = help->menu()->addAction(tr("&Keys"));
+        keys->setObjectName(QStringLiteral("keyHelp"));
+        connect(keys, &QAction::triggered, this, [this] { showKeyHelp(*this); });
+    }
 }
 
 void MainWindow::makeStatusBar() {
@@ -192,8 +202,19 @@ void MainWindow::showState() {
     desk->setBackColor(toQt(shell.backColor()));
     for (const auto& [name, action] : entries)
         action->setEnabled(shell.available(name));
+    tellHowToBegin();
     openForms->sync();
     review->showState();
+}
+
+void MainWindow::tellHowToBegin() {
+    QString hint;
+    if (!shell.available("mnuSave"))
+        hint = tr("File, New begins a proposal; File, Open goes on with a saved one.");
+    else if (proposal.screen.visibleForms().empty())
+        hint =
+            tr("Nothing that was typed is lost: Application Form, Particulars of Development shows the pages again.");
+    desk->setHint(hint);
 }
 
 void MainWindow::showEvent(QShowEvent* event) {

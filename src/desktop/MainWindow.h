@@ -52,6 +52,8 @@ private:
     void makeShortcuts();
     void makeTimers();
     void showState();
+    /// Tells on the empty desk what to do, to whoever has not begun or has closed all forms.
+    void tellHowToBegin();
     /// Makes the window fit the screen together with its frame, while it has the size that it was given at first.
     void fitScreen();
     void closeIfAsked();

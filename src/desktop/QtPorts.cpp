@@ -52,11 +52,18 @@ constexpr QSize usualFrame{12, 44};
 void prepare(QMessageBox& box) {
     box.setObjectName(QStringLiteral("messageBox"));
     box.setTextFormat(Qt::PlainText);
-    // Wide enough for the whole title, with what a desktop puts beside it.
+    // Wide enough for the whole title, with what a desktop puts beside it, and for the second line up to a readable
+    // width: the toolkit would break it to the width of the first.
     constexpr int titleButtons = 120;
+    constexpr int besideText = 80;
+    constexpr int readable = 60;  // average characters
+    const QFontMetrics metrics = box.fontMetrics();
+    int width = metrics.horizontalAdvance(box.windowTitle()) + titleButtons;
+    for (const QString& line : box.informativeText().split('\n'))
+        width = std::max(width,
+                         std::min(metrics.horizontalAdvance(line), readable * metrics.averageCharWidth()) + besideText);
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
-        grid->addItem(new QSpacerItem(box.fontMetrics().horizontalAdvance(box.windowTitle()) + titleButtons, 0),
-                      grid->rowCount(), 0, 1, grid->columnCount());
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 }  // namespace
@@ -125,6 +132,7 @@ std::optional<QPoint> besideField(QSize box, const QRect& field, const QRect& ro
 bool QtDialogs::askYesNo(const Message& question) {
     QMessageBox box(iconOf(question.icon), titleOf(question), beginning(question.text, longestText),
                     QMessageBox::Yes | QMessageBox::No, parent);
+    box.setInformativeText(beginning(question.detail));
     prepare(box);
     box.setDefaultButton(QMessageBox::No);
     return box.exec() == QMessageBox::Yes;

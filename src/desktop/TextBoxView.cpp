@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "base/Text.h"
 #include "controls/Controls.h"
@@ -85,6 +86,12 @@ public:
     }
 
     bool filterEvent(QObject* watched, QEvent* event) override {
+        // A click beside a figure, before its first digit, would make 20 of the 2 that is typed over a 0.
+        if (event->type() == QEvent::MouseButtonPress)
+            arriving = line.alignment().testFlag(Qt::AlignRight) && !line.hasFocus();
+        if (event->type() == QEvent::MouseButtonRelease && std::exchange(arriving, false) && line.hasFocus() &&
+            !line.hasSelectedText())
+            line.selectAll();
         if (event->type() == QEvent::FocusOut) {
             // A box that was left shows how its text begins.
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
@@ -135,6 +142,7 @@ private:
 
     static constexpr qsizetype longestPaste = 10'000;
     LineEdit& line;
+    bool arriving = false;  ///< a click is bringing the focus
 };
 
 class MultiLineView : public TextBoxView {

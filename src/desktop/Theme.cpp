@@ -54,6 +54,20 @@ public:
                                                             : QProxyStyle::standardIcon(which, option, widget);
     }
 
+    /// A list shows the focus as a button does, also where the mouse or program code brought it.
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                            const QWidget* widget) const override {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        const auto* list = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        if (control != CC_ComboBox || !list || list->editable || !(list->state & State_HasFocus))
+            return;
+        constexpr int inset = 1;
+        QStyleOptionFocusRect mark;
+        mark.QStyleOption::operator=(*list);
+        mark.rect = list->rect.adjusted(inset, inset, -inset, -inset);
+        drawPrimitive(PE_FrameFocusRect, &mark, painter, widget);
+    }
+
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
         const int given = QProxyStyle::pixelMetric(metric, option, widget);
         switch (metric) {

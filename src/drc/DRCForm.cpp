@@ -19,6 +19,8 @@ DRCButtons::DRCButtons(Form& form, std::function<void()> save)
     : cmdSave(form, "cmdSave", "Save N.A.Order Information"),  // the caption of the NA order, on these forms too
       cmdReferesh(form, "cmdReferesh", "Reset "),
       cmdClose(form, "cmdClose", "Close") {
+    cmdSave.toolTip = "Keeps this form for the proposal's file, which File, Save writes";
+    cmdReferesh.toolTip = "Without effect";
     cmdSave.click = std::move(save);
     cmdClose.click = [&form] { form.hide(); };
 }

@@ -44,6 +44,9 @@ DocCheckList::DocCheckList(Proposal& proposal, std::string_view name, const DocC
     cmdSave.click = [this] { cmdSave_Click(); };
     cmdSaveALL.click = [this] { this->proposal.commands.saveProposal(); };
     Command5.click = [this] { this->proposal.commands.print("rptDocChecklist"); };
+    cmdSave.toolTip = keepsAnswersTip;
+    cmdSaveALL.toolTip = savesAllTip;
+    Command5.toolTip = printsTip;
     cmdClose.toolTip = closesProgramTip;
     cmdClose.click = [this] { closeAllForms(this->proposal); };
 }

@@ -97,6 +97,9 @@ frmPayDetail::frmPayDetail(Proposal& proposal)
     cmdSave.click = [this] { SaveData(); };
     cmdSaveALL.click = [this] { this->proposal.commands.saveProposal(); };
     cmdPrint.click = [this] { cmdPrint_Click(); };
+    cmdSave.toolTip = keepsAnswersTip;
+    cmdSaveALL.toolTip = savesAllTip;
+    cmdPrint.toolTip = printsTip;
     cmdClose.toolTip = closesProgramTip;
     cmdClose.click = [this] { closeAllForms(this->proposal); };
     procedure("SaveData", [this] { SaveData(); });

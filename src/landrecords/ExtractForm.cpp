@@ -56,6 +56,9 @@ void ExtractForm::wire() {
     dgdOwner.listOf = [this](int column) { return ownerLists.of(column); };
     dgdOwner.rowColumnChange = [this] { ownerCellChanged(); };
     dgdPAH.buttonClick = [this](int) { toggleSign(); };
+    cmdSave.toolTip = "Keeps the extracts for the proposal's file and closes the form";
+    cmdReferesh.toolTip = "Empties the owners and lets the number of extracts be typed";
+    Command1.toolTip = readsAgainTip;
     cmdSave.click = [this] { cmdSave_Click(); };
     cmdReferesh.click = [this] { cmdReferesh_Click(); };
     cmdClose.click = [this] { hide(); };

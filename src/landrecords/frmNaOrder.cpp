@@ -37,6 +37,7 @@ frmNaOrder::frmNaOrder(Proposal& proposal) : DataForm(proposal, formName, "N.A. 
     txtNARemark.multiLine = true;
     txtLandArea.keyPress = txtArea1.keyPress = txtArea2.keyPress = keyFilterDecimal;
     cmbAreaForNA.click = [this] { cmbAreaForNA_Click(); };
+    Command1.toolTip = readsAgainTip;
     cmdSave.click = [this] { cmdSave_Click(); };
     cmdClose.click = [this] { hide(); };
     Command1.click = [this] { this->proposal.commands.readBlock(&Proposal::naOrderXML); };

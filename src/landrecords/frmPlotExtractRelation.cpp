@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "controls/Meaning.h"
+#include "landrecords/ExtractForm.h"
 #include "proposal/ExtractGaps.h"
 #include "proposal/InPlace.h"
 #include "proposal/LandRecordColumns.h"
@@ -64,6 +65,8 @@ frmPlotExtractRelation::frmPlotExtractRelation(Proposal& proposal)
       }) {
     wire(tab712);
     wire(tabPRC);
+    txtNoOfPlot712.toolTip = "A smaller number takes no plot away; Ctrl+Delete in the row of a plot does";
+    txtNoOfPlot.toolTip = "A smaller number takes the last plots away";
     cmdAddPlot.toolTip = cmdAddPlotPRC.toolTip = "Add New Plot !";
     SSTab1.click = [this] { SSTab1_Click(); };
     cmdAddPlot.click = [this] { txtNoOfPlot712.setText(numberText(leadingNumber(txtNoOfPlot712.text()) + 1)); };
@@ -224,7 +227,23 @@ void frmPlotExtractRelation::saveRelation(const Tab& tab) {
     rebind(tab);
     applyNumbers(tab.family, changes);
     proposal.forms.unload(tab.unloads);
+    const Meaning meant(screen(), savedMeaning(tab));
     screen().message(tab.message, "");
+}
+
+/// The second line of the closing message. The form of the PRCs is not unloaded: once it is there, it shows its old
+/// number on, and a stranger would look for the cards in vain.
+std::string frmPlotExtractRelation::savedMeaning(const Tab& tab) {
+    std::string meaning = "File, Save writes it to the proposal's file.";
+    if (&tab != &tabPRC || !proposal.forms.loaded(frmPRCEXT::formName))
+        return meaning;
+    const auto& cards = proposal.forms.get<frmPRCEXT>();
+    const std::string shown(trim(cards.txtNoOfExtranct.text()));
+    const std::string now = std::to_string(proposal.noOfPRC);
+    if (shown == now)
+        return meaning;
+    return meaning + "\nThe form of the PRCs, which was there before, still shows " + shown +
+           ": save the proposal and open it again to see " + now + ".";
 }
 
 // Numbers to delete were worked out in the old numbering and are applied upwards, each renumbering what follows, after

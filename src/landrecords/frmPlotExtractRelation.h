@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "controls/Controls.h"
@@ -80,6 +81,7 @@ private:
     void recount(const Tab& tab);
     bool enterOnGrid(const Tab& tab);
     void saveRelation(const Tab& tab);
+    std::string savedMeaning(const Tab& tab);
     void applyNumbers(const ExtractFamily& family, const NumberChanges& changes);
     void reset(const Tab& tab);
     bool confirmDelete();

@@ -45,6 +45,10 @@ AnnexureACont::AnnexureACont(Proposal& proposal)
     : DataForm(proposal, formName, "Particulars of Development"), links(*this, proposal) {
     cmdNavPrev.toolTip = "Previous page";
     cmdNavNext.toolTip = "Next page";
+    cmdSave.toolTip = keepsAnswersTip;
+    cmdSaveALL.toolTip = savesAllTip;
+    Command5.toolTip = printsTip;
+    Command9.toolTip = "Closes the Particulars; what was typed stays";
     cmdClose.toolTip = closesProgramTip;
     for (TextBox AnnexureACont::*box : longTexts)
         (this->*box).multiLine = true;

@@ -61,6 +61,13 @@ constexpr TextBox frmAnnexureA::*longTexts[] = {
 frmAnnexureA::frmAnnexureA(Proposal& proposal) : DataForm(proposal, formName, "Particulars of Development") {
     cmdNavPrev.toolTip = "Previous page";
     cmdNavNext.toolTip = "Next page";
+    cmdSave.toolTip = "Writes the proposal's file; other forms go along as they were last saved";
+    cmdSaveALL.toolTip = savesAllTip;
+    cmdPrint.toolTip = printsTip;
+    cmdPlotRelation.toolTip = "The plots, with the number of 7/12 extracts and property cards of each";
+    cmdUS84.toolTip = "Shows the receipt";
+    Command1.toolTip = "Reads a proposal's file into the forms; File, Open begins afresh with one";
+    cmdClose.toolTip = "Closes the Particulars; what was typed stays";
     for (const std::string_view use : plotUses)
         cboProposalTyp.addItem(use);
     for (const CodedText& zone : zones)
@@ -169,7 +176,8 @@ void frmAnnexureA::enterPressed() {
 }
 
 void frmAnnexureA::cmdFormNo_Click(int index) {
-    if (index != 0 && !validateAnnexureFirstPage())
+    if (index != 0 &&
+        !validateAnnexureFirstPage("Page " + std::to_string(index + 1) + " opens when page 1 is complete."))
         return;
     Form* form = this;
     if (index < PageButtons::firstOfSectionFour) {

@@ -43,8 +43,9 @@ public:
     /// True always: the document writer asks it, and nothing beyond the first page is checked.
     bool validate() const { return true; }
     /// Whether the first page is complete. The first of the fifteen tests that fails is told in a message; its field
-    /// gets the focus, on the first tab.
-    bool validateAnnexureFirstPage();
+    /// gets the focus, on the first tab. `held` is a sentence of what the failure keeps from happening, which the
+    /// message's second line tells.
+    bool validateAnnexureFirstPage(std::string_view held = {});
     /// A test of the first page that fails now.
     struct FirstPageFault {
         Control* field;

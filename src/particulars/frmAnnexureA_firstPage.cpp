@@ -5,6 +5,7 @@
 
 #include "base/Text.h"
 #include "controls/Meaning.h"
+#include "controls/Naming.h"
 #include "particulars/frmAnnexureA.h"
 
 namespace plandesk {
@@ -57,13 +58,35 @@ std::string messageOf(const FirstPageTest& test, const Form& form) {
     return text;
 }
 
+/// What the message calls its field.
+std::string nameOf(const FirstPageTest& test, const Form& form) {
+    const std::string text = messageOf(test, form);
+    const std::size_t end = std::min(text.find("Can not"), text.find("can't"));
+    return std::string(trim(std::string_view(text).substr(0, end)));
+}
+
+/// The second line of the message: the field with its page, then `held`, what the failure keeps from happening, and
+/// which further answers would.
+std::string meaningOf(const FirstPageTest& test, const Form& form, std::string_view held) {
+    const std::string_view caption = trim(form.caption());
+    std::string meaning = std::string(caption) + ", page 1" + placeOf(form.at(test.field)).substr(caption.size());
+    if (held.empty())
+        return meaning;
+    meaning.append("\n").append(held);
+    std::string further;
+    for (const FirstPageTest& other : firstPageTests)
+        if (&other != &test && fails(other, form))
+            further += (further.empty() ? "" : ", ") + nameOf(other, form);
+    return further.empty() ? meaning : meaning + "\nPage 1 still lacks too: " + further + ".";
+}
+
 /// Whether the test passes. A failure is told in a message and gives its field the focus, on the first tab.
-bool passes(const FirstPageTest& test, frmAnnexureA& form) {
+bool passes(const FirstPageTest& test, frmAnnexureA& form, std::string_view held) {
     if (!fails(test, form))
         return true;
     Control& field = form.at(test.field);
     {
-        const Meaning meant(form.screen(), field);
+        const Meaning meant(form.screen(), field, meaningOf(test, form, held));
         form.screen().message(messageOf(test, form), test.title);
     }
     form.goToTab(0);
@@ -76,12 +99,14 @@ bool passes(const FirstPageTest& test, frmAnnexureA& form) {
 
 void frmAnnexureA::wireFirstPageTests() {
     for (const FirstPageTest& test : firstPageTests)
-        at(test.leaving.empty() ? test.field : test.leaving).leaveCheck = [this, &test] { return passes(test, *this); };
+        at(test.leaving.empty() ? test.field : test.leaving).leaveCheck = [this, &test] {
+            return passes(test, *this, "");
+        };
     txtArchMiddName.leaveCheck = [] { return true; };
 }
 
-bool frmAnnexureA::validateAnnexureFirstPage() {
-    return std::ranges::all_of(firstPageTests, [this](const FirstPageTest& test) { return passes(test, *this); });
+bool frmAnnexureA::validateAnnexureFirstPage(std::string_view held) {
+    return std::ranges::all_of(firstPageTests, [&](const FirstPageTest& test) { return passes(test, *this, held); });
 }
 
 std::vector<frmAnnexureA::FirstPageFault> frmAnnexureA::firstPageFaults() const {

@@ -58,6 +58,13 @@ void checkRateBox(TextBox& first, TextBox& second, TextBox& target, bool compute
 /// Tip of the buttons that run closeAllForms.
 inline constexpr std::string_view closesProgramTip = "Ends the program without saving";
 
+// Tips of buttons whose captions tell too little.
+inline constexpr std::string_view savesAllTip = "Gathers the answers of all forms and writes the proposal's file";
+inline constexpr std::string_view keepsAnswersTip =
+    "Keeps these answers for the proposal's file, which it does not write";
+inline constexpr std::string_view printsTip = "Shows the paper; Ctrl+P lists all papers to print";
+inline constexpr std::string_view readsAgainTip = "Reads this part of the proposal's file again";
+
 /// Unloads frmPayDetail, frmDocCheckList, AnnexureACont and frmAnnexureA, and ends the program without a question.
 void closeAllForms(Proposal& proposal);
 

@@ -176,7 +176,9 @@ void mdiInterface::Timer2_Timer() {
 }
 
 void mdiInterface::mnuExit_Click() {
-    if (proposal.screen.ports.dialogs.askYesNo({"VDMA PLANDESK UTILITY ", " Do you want to Exit  ! ", Icon::Question}))
+    const std::string_view meaning = available("mnuSave") ? "Answers that were not saved are lost." : "";
+    if (proposal.screen.ports.dialogs.askYesNo(
+            {"VDMA PLANDESK UTILITY ", " Do you want to Exit  ! ", Icon::Question, std::string(meaning)}))
         proposal.screen.end();
 }
 

@@ -123,7 +123,7 @@ void mdiInterface::mnuSave_Click() {
     proposal.isSaveRequested = true;
     auto& annexure = proposal.forms.get<frmAnnexureA>();
     annexure.show();
-    if (annexure.validateAnnexureFirstPage())
+    if (annexure.validateAnnexureFirstPage("Nothing was saved."))
         saveProposal(proposal);
 }
 

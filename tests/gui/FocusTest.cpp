@@ -59,6 +59,21 @@ private slots:
         QVERIFY(stage.hasKeyboard(stage.form().number));
     }
 
+    void aListThatWasClickedShowsThatItHasTheFocus() {
+        Stage stage;
+        QWidget& list = stage.widget(stage.form().list);
+        const QColor mark = list.palette().color(QPalette::Highlight);
+        const auto marked = [&] {
+            const QImage image = list.grab().toImage();
+            return image.pixelColor(image.width() / 4, 1) == mark && image.pixelColor(1, image.height() / 2) == mark;
+        };
+        QVERIFY(!marked());
+        QTest::mouseClick(&stage.widget(stage.form().number), Qt::LeftButton);  // no keyboard is in use
+        stage.form().list.setFocus();
+        stage.settle();
+        QVERIFY(marked());
+    }
+
     void codeMovesTheFocus() {
         Stage stage;
         stage.form().other.setFocus();

@@ -89,6 +89,25 @@ private slots:
         QCOMPARE(session.dialogs.take().back().text, "7/12 Extract Relationship saved Succussfully ! "s);
     }
 
+    void aClickBesideAFigureSelectsItSoThatTypingReplacesIt() {
+        Session session;
+        session.press("mnuNew");
+        session.press("mnuPlotExtRelationShip");
+        auto& form = session.form<frmPlotExtractRelation>();
+        form.txtNoOfPlot712.setText("0");
+        session.window.forms().act(Qt::OtherFocusReason, [&] { form.cmdAddPlot.setFocus(); });
+        session.settle();
+        auto& box = session.widget<QLineEdit>(form.txtNoOfPlot712);
+        const QPoint beforeTheFigure(box.width() / 3, box.height() / 2);
+        QTest::mouseClick(&box, Qt::LeftButton, {}, beforeTheFigure);
+        QTest::keyClick(&box, Qt::Key_2);
+        QCOMPARE(form.txtNoOfPlot712.text(), "2"s);
+        QCOMPARE(form.dgd712ExtractRelation.rowCount(), 2);
+        // A further click is one into the figure.
+        QTest::mouseClick(&box, Qt::LeftButton, {}, beforeTheFigure);
+        QVERIFY(!box.hasSelectedText());
+    }
+
     void aPlotIsDeletedOnlyAfterAYes() {
         Records session;
         auto& form = session.form<frmPlotExtractRelation>();

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTableWidget>
 #include <QToolButton>
 
 #include "FirstPage.h"
@@ -282,6 +283,45 @@ private slots:
         QCOMPARE(session.window.focusWidget(), &session.widget(form.cboCaseType));
     }
 
+    void theKeysAreToldInTheHelpMenu() {
+        Session session;
+        auto* entry = session.window.findChild<QAction*>("keyHelp");
+        QVERIFY(entry && session.window.entry("mnuHelp")->menu()->actions().contains(entry));
+        entry->trigger();
+        entry->trigger();
+        QCOMPARE(session.window.findChildren<QWidget*>("keyWindow").size(), 1);
+        auto* window = session.window.findChild<QWidget*>("keyWindow");
+        QVERIFY(window->isVisible());
+        const auto* keys = window->findChild<QTableWidget*>();
+        QCOMPARE(keys->findItems("Ctrl+P", Qt::MatchExactly).size(), 1);
+        for (int row = 0; row < keys->rowCount(); ++row)
+            QVERIFY(!keys->item(row, 1)->text().isEmpty());
+        QTest::keyClick(window, Qt::Key_Escape);
+        QVERIFY(!window->isVisible());
+    }
+
+    void aDeskWithoutAProposalTellsHowToBegin() {
+        Session session;
+        const auto* desk = dynamic_cast<desktop::Desk*>(session.window.centralWidget());
+        QVERIFY(desk->hintShown().contains("File, New"));
+        const auto dark = [&] {
+            const QImage image = session.window.centralWidget()->grab(desk->hintPlace()).toImage();
+            int count = 0;
+            for (int x = 0; x < image.width(); ++x)
+                for (int y = 0; y < image.height(); ++y)
+                    count += image.pixelColor(x, y).lightness() < 40 ? 1 : 0;
+            return count;
+        };
+        session.shell.run("Timer2_Timer");
+        session.settle();
+        QVERIFY(dark() > 100);
+        session.press("mnuNew");
+        QCOMPARE(desk->hintShown(), QString());
+        QTest::keyClick(session.window.focusWidget(), Qt::Key_Escape);
+        session.settle();
+        QVERIFY(desk->hintShown().contains("Application Form, Particulars of Development"));
+    }
+
     void anEmptyTitleHoldsTheFocusOnTheFirstPage() {
         Session session;
         session.press("mnuNew");
@@ -289,7 +329,7 @@ private slots:
         QTest::mouseClick(&session.widget(form.txtpltno), Qt::LeftButton);
         QCOMPARE(session.dialogs.messages.size(), 1U);
         QCOMPARE(session.dialogs.messages[0].text, "Proposal Title Can not be blank !"s);
-        QCOMPARE(session.dialogs.messages[0].detail, "Particulars of Development: Proposal Title"s);
+        QCOMPARE(session.dialogs.messages[0].detail, "Particulars of Development, page 1: Proposal Title"s);
         const Control* about = session.dialogs.messages[0].about;
         QCOMPARE(about, static_cast<const Control*>(&form.txtTitle));
         const QWidget& title = session.widget(form.txtTitle);

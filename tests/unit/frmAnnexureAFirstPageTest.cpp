@@ -71,6 +71,21 @@ TEST_F(FirstPageTest, TheFirstFailingLinkInChainOrderIsTold) {
     }
 }
 
+TEST_F(FirstPageTest, TheSecondLineTellsThePageWhatIsHeldAndWhatElseIsMissing) {
+    fillFirstPage();
+    empty("cboProposProj");
+    first().validateAnnexureFirstPage("Nothing was saved.");
+    EXPECT_EQ(machine.dialogs.take().at(0).detail,
+              "Particulars of Development, page 1: Proposed Project\nNothing was saved.");
+    empty("txtpltno txtFPNo txtCTSNo txtArchFirstName");
+    first().cmdFormNo[4].click();
+    EXPECT_EQ(machine.dialogs.take().at(0).detail,
+              "Particulars of Development, page 1: Proposed Project\nPage 5 opens when page 1 is complete.\n"
+              "Page 1 still lacks too: Survey No., Plot No. / CTS No., First Name.");
+    first().validateAnnexureFirstPage();
+    EXPECT_EQ(machine.dialogs.take().at(0).detail, "Particulars of Development, page 1: Proposed Project");
+}
+
 TEST_F(FirstPageTest, EachLinkHoldsTheFocusOfAUserWhoLeaves) {
     first().show();
     for (const Link& link : chain) {

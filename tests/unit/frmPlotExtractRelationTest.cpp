@@ -292,6 +292,23 @@ TEST_F(PlotExtractRelation, PrcPlotsAreDeletedWithoutAQuestion) {
     EXPECT_EQ(form.dgdPRCPlotRel.currentRow(), 0);
 }
 
+TEST_F(PlotExtractRelation, TheClosingMessageTellsHowAFormThatWasThereGetsTheNewNumber) {
+    const std::string written = "File, Save writes it to the proposal's file.";
+    user::showTab(form.SSTab1, 1);
+    enter(true, {1});
+    save(true);
+    EXPECT_EQ(boxes().at(0).detail, written);
+    proposal.forms.touch("frmPRCEXT");
+    save(true);
+    EXPECT_EQ(boxes().at(0).detail, written);
+    enter(true, {3});
+    save(true);
+    EXPECT_EQ(boxes().at(0).detail,
+              written +
+                  "\nThe form of the PRCs, which was there before, still shows 1: save the proposal and open it "
+                  "again to see 3.");
+}
+
 TEST_F(PlotExtractRelation, PrcNumbersStandBehindThe712ExtractsInTheOrderTables) {
     enter(false, {2});
     save();

@@ -35,6 +35,7 @@ LetterBlanks::LetterBlanks(Form& form, const Layout& sheet, std::string_view ans
 LetterForm::LetterForm(Proposal& proposal, std::string_view name, std::string_view head, std::string_view report,
                        const Layout& sheet, std::string_view answer)
     : DataForm(proposal, name, head), letter(sheet), blanks(*this, sheet, answer) {
+    Command5.toolTip = "Shows the letter, to be printed or saved as PDF: the proposal's file keeps nothing of it";
     Command5.click = [this, report] { this->proposal.commands.print(report); };
     Command9.click = [this] { hide(); };
 }
