@@ -14,7 +14,6 @@
 #include "controls/User.h"
 #include "desktop/Application.h"
 #include "desktop/ChildWindow.h"
-#include "desktop/KeyHelp.h"
 #include "desktop/LongText.h"
 #include "desktop/PreviewWindow.h"
 #include "desktop/QtText.h"
@@ -137,12 +136,6 @@ void MainWindow::makeMenu() {
     for (const Shortcut& shortcut : shortcuts())
         if (QAction* action = entry(shortcut.entry))
             action->setShortcut(shortcut.keys);
-    // No part of the system's menu, and nothing that the system knows of.
-    if (QAction* help = entry("mnuHelp")) {
-        QAction* keys = help->menu()->addAction(tr("&Keys"));
-        keys->setObjectName(QStringLiteral("keyHelp"));
-        connect(keys, &QAction::triggered, this, [this] { showKeyHelp(*this); });
-    }
 }
 
 void MainWindow::makeStatusBar() {

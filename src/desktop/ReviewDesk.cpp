@@ -15,6 +15,7 @@
 #include <utility>
 
 #include "base/Text.h"
+#include "desktop/KeyHelp.h"
 #include "desktop/LongText.h"
 #include "desktop/QtText.h"
 #include "desktop/ReviewComparison.h"
@@ -114,12 +115,12 @@ void ReviewDesk::makeMenu(QAction* before) {
         panel->beginSearch();
     });
     add(*menu, "reviewCompare", tr("&Compare with a file..."), {}, [this] { compare(); });
-    add(*menu, "reviewSave", tr("&Save the list..."), {}, [this] { saveList(); });
-    const std::string guide = guideFile(room.proposal.screen.ports.program.folder());
-    if (guide.empty())
-        return;
+    add(*menu, "reviewSave", tr("S&ave the list..."), {}, [this] { saveList(); });
     menu->addSeparator();
-    add(*menu, "reviewGuide", tr("&User guide"), {}, [this, guide] { openGuide(guide); });
+    if (const std::string guide = guideFile(room.proposal.screen.ports.program.folder()); !guide.empty())
+        add(*menu, "reviewGuide", tr("&User guide"), {}, [this, guide] { openGuide(guide); });
+    // The menu Help is the system's own and stays as it is.
+    add(*menu, "keyHelp", tr("&Sheet of keys"), {}, [this] { showKeyHelp(room.window); });
 }
 
 void ReviewDesk::openGuide(const std::string& file) {

@@ -283,10 +283,11 @@ private slots:
         QCOMPARE(session.window.focusWidget(), &session.widget(form.cboCaseType));
     }
 
-    void theKeysAreToldInTheHelpMenu() {
+    void theKeysAreToldInTheReviewMenuAndHelpStaysTheSystems() {
         Session session;
         auto* entry = session.window.findChild<QAction*>("keyHelp");
-        QVERIFY(entry && session.window.entry("mnuHelp")->menu()->actions().contains(entry));
+        QVERIFY(entry && session.window.findChild<QMenu*>("reviewMenu")->actions().contains(entry));
+        QCOMPARE(session.window.entry("mnuHelp")->menu()->actions().size(), 2);
         entry->trigger();
         entry->trigger();
         QCOMPARE(session.window.findChildren<QWidget*>("keyWindow").size(), 1);
