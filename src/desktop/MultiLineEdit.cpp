@@ -2,6 +2,7 @@
 
 #include <QMimeData>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <algorithm>
 #include <utility>
@@ -40,6 +41,14 @@ qsizetype placeInText(const QString& text, qsizetype shownPlace) {
 
 MultiLineEdit::MultiLineEdit(QWidget& parent) : FilteredEdit(&parent) {
     setTabChangesFocus(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // long words are broken
+    // In a narrow box the lines may fit with the bar and not without it, and it would come and go for ever: once needed
+    // it stays until the box has another size or text.
+    connect(verticalScrollBar(), &QScrollBar::rangeChanged, this, [this](int /*least*/, int most) {
+        if (most > 0)
+            setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    });
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded); });
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (editing)
             changed = true;
@@ -56,6 +65,12 @@ void MultiLineEdit::edit(const std::function<void()>& act) {
     }
     if (std::exchange(changed, false))
         typed();
+}
+
+void MultiLineEdit::resizeEvent(QResizeEvent* event) {
+    if (std::exchange(laidOut, size()) != size())
+        setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    FilteredEdit::resizeEvent(event);
 }
 
 void MultiLineEdit::keyPressEvent(QKeyEvent* event) {

@@ -21,6 +21,7 @@ public:
     std::function<void(const QString& text)> edited = [](const QString&) {};
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
@@ -33,6 +34,7 @@ private:
     void replace(qsizetype from, qsizetype to, const QString& piece);
 
     QString content;
+    QSize laidOut;  ///< size of the whole box that the scroll bar was last decided for
     bool showing = false;
     bool editing = false;
     bool changed = false;

@@ -15,6 +15,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QWheelEvent>
+#include <algorithm>
 #include <array>
 
 #include "desktop/QtText.h"
@@ -222,7 +223,8 @@ QWidget* RandomHands::controlOfAForm() {
 }
 
 QPoint RandomHands::placeIn(const QWidget& widget) {
-    return {dice.below(widget.width() + 1), dice.below(widget.height() + 1)};
+    // An editor that floats over a cell of no width may have less than none.
+    return {dice.below(std::max(widget.width(), 0) + 1), dice.below(std::max(widget.height(), 0) + 1)};
 }
 
 /// The button of a menu bar that is too narrow waits for a choice that nobody makes.
