@@ -1,7 +1,9 @@
 #include "proposal/Recordset.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <tuple>
 #include <utility>
@@ -22,18 +24,34 @@ Recordset::Recordset(std::span<const Column> columns) : columnList(columns) {
 
 std::shared_ptr<Recordset> Recordset::copy() const {
     auto copy = std::make_shared<Recordset>(columnList);
-    for (const auto& [id, row] : rows)
-        copy->rows.emplace_hint(copy->rows.end(), id, TableRow{id, std::pmr::vector<Value>(row.values, &copy->memory)});
+    copy->stored = stored;
     copy->nextId = nextId;
-    for (const KeyEntry& entry : keys)
-        copy->keys.insert(copy->keys.end(), {entry.key, &copy->rows.at(entry.row->id)});
     copy->conditions = conditions;
     copy->filterText = filterText;
     copy->order = order;
     copy->sortText = sortText;
-    copy->view = view.over(copy->rows);
+    copy->view = view;
     copy->changeCount = changeCount;
     return copy;
+}
+
+/// To be called before any change of a row: the rows that a copy shares stay as they are, and this table goes on with
+/// its own.
+void Recordset::ownRows() {
+    if (stored.use_count() == 1) {
+        std::atomic_thread_fence(std::memory_order_acquire);  // what the last other owner read, it has read by now
+        return;
+    }
+    auto own = std::make_shared<Rows>();
+    for (const auto& [id, row] : stored->rows) {
+        const auto added = own->rows.emplace_hint(own->rows.end(), id,
+                                                  TableRow{id, std::pmr::vector<Value>(row.values, &own->memory)});
+        if (const auto* key =
+                keyColumn < 0 ? nullptr : std::get_if<std::int32_t>(&row.values[static_cast<std::size_t>(keyColumn)]))
+            own->keys.insert(own->keys.end(), KeyEntry{*key, &added->second});
+    }
+    view = view.over(own->rows);
+    stored = std::move(own);
 }
 
 std::size_t Recordset::checked(int column) const {
@@ -64,12 +82,25 @@ const Value& Recordset::get(std::string_view column) {
 
 void Recordset::set(int column, Value value) {
     const std::size_t index = checked(column);
-    TableRow& row = currentRow();
+    currentRow();
     if (!isOfKind(value, columnList[index].kind))
         value = toKind(std::move(value), columnList[index].kind);
-    if (column == keyColumn)
+    ownRows();
+    change(currentRow(), index, std::move(value));
+}
+
+void Recordset::replace(int row, int column, Value value) {
+    const std::size_t index = checked(column);
+    if (row < 0 || row >= rowCount())
+        return;
+    ownRows();
+    change(std::next(stored->rows.begin(), row)->second, index, toKind(std::move(value), columnList[index].kind));
+}
+
+void Recordset::change(TableRow& row, std::size_t column, Value value) {
+    if (static_cast<int>(column) == keyColumn)
         setKey(row, value);
-    row.values[index] = std::move(value);
+    row.values[column] = std::move(value);
     ++changeCount;
 }
 
@@ -78,7 +109,8 @@ void Recordset::set(std::string_view column, Value value) {
 }
 
 void Recordset::setKey(TableRow& row, const Value& value) {
-    decltype(keys)::node_type entry;
+    auto& keys = stored->keys;
+    std::pmr::set<KeyEntry, KeyOrder>::node_type entry;
     const auto* old = std::get_if<std::int32_t>(&row.values[static_cast<std::size_t>(keyColumn)]);
     const auto* key = std::get_if<std::int32_t>(&value);
     if (old && key && *old == *key)
@@ -99,8 +131,10 @@ void Recordset::addNew() {
     admitAdded();
     if (!conditions.empty())
         listed();
-    const auto added =
-        rows.emplace_hint(rows.end(), nextId, TableRow{nextId, std::pmr::vector<Value>(columnList.size(), &memory)});
+    ownRows();
+    auto& rows = stored->rows;
+    const auto added = rows.emplace_hint(rows.end(), nextId,
+                                         TableRow{nextId, std::pmr::vector<Value>(columnList.size(), &stored->memory)});
     ++nextId;
     view.add(added->second);
     admitAdded();
@@ -122,11 +156,13 @@ void Recordset::admitAdded() {
 
 void Recordset::deleteRow() {
     listed();
+    currentRow();
+    ownRows();
     TableRow& row = currentRow();
     view.remove();
     if (keyColumn >= 0)
         setKey(row, Value());
-    rows.erase(row.id);
+    stored->rows.erase(row.id);
     ++changeCount;
 }
 
@@ -181,8 +217,8 @@ void Recordset::setBookmark(Bookmark bookmark) {
     admitAdded();
     if (bookmark.row == 0)
         return view.goToEnd();
-    const auto row = rows.find(bookmark.row);
-    if (row == rows.end() || !view.goToRow(row->second))
+    const auto row = stored->rows.find(bookmark.row);
+    if (row == stored->rows.end() || !view.goToRow(row->second))
         throw RuntimeError(ErrorNumber::NoCurrentRecord);
 }
 
@@ -225,6 +261,7 @@ std::vector<TableRow*> Recordset::rowsByKey(const ColumnCondition& condition) co
     std::vector<TableRow*> found;
     if (low > high)
         return found;
+    const auto& keys = stored->keys;
     const auto end = keys.upper_bound(static_cast<std::int32_t>(high));
     for (auto entry = keys.lower_bound(static_cast<std::int32_t>(low)); entry != end; ++entry)
         found.push_back(entry->row);
@@ -242,8 +279,8 @@ std::vector<TableRow*> Recordset::rowsLetThrough() {
         if (conditions.size() == 1 && onKey->excluded.empty())
             return found;
     } else {
-        found.reserve(rows.size());
-        for (auto& [id, row] : rows)
+        found.reserve(stored->rows.size());
+        for (auto& [id, row] : stored->rows)
             found.push_back(&row);
     }
     std::erase_if(found, [this](const TableRow* row) { return !letsThrough(*row); });
@@ -266,7 +303,7 @@ const Value& Recordset::valueAt(int position, int column) {
 
 std::vector<std::span<const Value>> Recordset::rowsOfKey(std::int32_t number) const {
     std::vector<std::span<const Value>> found;
-    const auto [begin, end] = keys.equal_range(number);
+    const auto [begin, end] = stored->keys.equal_range(number);
     for (auto entry = begin; entry != end; ++entry)
         found.emplace_back(entry->row->values);
     if (order && order->column != keyColumn)
@@ -276,8 +313,8 @@ std::vector<std::span<const Value>> Recordset::rowsOfKey(std::int32_t number) co
 
 std::vector<std::span<const Value>> Recordset::allRows() const {
     std::vector<std::span<const Value>> all;
-    all.reserve(rows.size());
-    for (const auto& [id, row] : rows)
+    all.reserve(stored->rows.size());
+    for (const auto& [id, row] : stored->rows)
         all.emplace_back(row.values);
     return all;
 }

@@ -46,7 +46,8 @@ public:
     Recordset(const Recordset&) = delete;
     Recordset& operator=(const Recordset&) = delete;
 
-    /// A second table with the same rows, filter, sort, visible rows and current row.
+    /// A second table with the same rows, filter, sort, visible rows and current row. Both share the rows until one of
+    /// them changes a row, and that one then pays for rows of its own. The two may live in two threads.
     std::shared_ptr<Recordset> copy() const;
 
     std::span<const Column> columns() const { return columnList; }
@@ -60,6 +61,9 @@ public:
     /// Takes effect at once. Converts as toKind does, with its errors; the cell keeps its value then.
     void set(int column, Value value);
     void set(std::string_view column, Value value);
+    /// The same in the row at that place among all rows, from 0, whatever the filter; the current row stays. Nothing
+    /// happens where there is no such row.
+    void replace(int row, int column, Value value);
 
     /// Appends a row with every cell null and makes it the current one.
     void addNew();
@@ -103,7 +107,7 @@ public:
     /// recordCount(), 3265 for an unknown column.
     const Value& valueAt(int position, int column);
     /// Number of all rows, whatever the filter.
-    int rowCount() const { return static_cast<int>(rows.size()); }
+    int rowCount() const { return static_cast<int>(stored->rows.size()); }
     /// All rows in table order, whatever filter and sort. Good until the table changes.
     std::vector<std::span<const Value>> allRows() const;
     /// The rows that filterByKey would show, in that order, while the filter and the current row stay as they are. Good
@@ -125,6 +129,13 @@ private:
         bool operator()(const KeyEntry& a, std::int32_t key) const { return a.key < key; }
         bool operator()(std::int32_t key, const KeyEntry& b) const { return key < b.key; }
     };
+    // Rows come by thousands and go all at once, with the table: one piece of memory for many of them.
+    struct Rows {
+        std::pmr::unsynchronized_pool_resource memory;
+        std::pmr::map<std::uint64_t, TableRow> rows{&memory};
+        std::pmr::set<KeyEntry, KeyOrder> keys{&memory};  // rows whose key is not null
+    };
+
     std::size_t checked(int column) const;
     TableRow* currentOrNull();
     TableRow& currentRow();
@@ -134,15 +145,14 @@ private:
     void resetView();
     RecordView& listed();
     void admitAdded();
+    void change(TableRow& row, std::size_t column, Value value);
     void setKey(TableRow& row, const Value& value);
+    void ownRows();
 
     std::span<const Column> columnList;
-    int keyColumn = -1;  // none
-    // Rows come by thousands and go all at once, with the table: one piece of memory for many of them.
-    std::pmr::unsynchronized_pool_resource memory;
-    std::pmr::map<std::uint64_t, TableRow> rows{&memory};
+    int keyColumn = -1;                                       // none
+    std::shared_ptr<Rows> stored = std::make_shared<Rows>();  // changed by its one owner alone
     std::uint64_t nextId = 1;
-    std::pmr::set<KeyEntry, KeyOrder> keys{&memory};  // rows whose key is not null
     RowFilter conditions;
     std::string filterText;
     std::optional<SortOrder> order;
