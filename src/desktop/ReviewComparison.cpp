@@ -41,8 +41,7 @@ std::optional<ReviewGroups> compareWithFile(const mdiInterface& running, const s
     ReviewCopy copy(running);
     for (const auto& [name, form] : saved.proposal.forms.all())
         copy.proposal().forms.touch(name);
-    return linesOf(differencesOf(carriedAnswers(copy.proposal()), carriedAnswers(saved.proposal)), copy.proposal(),
-                   saved.proposal);
+    return linesOf(differencesOf(copy.proposal(), saved.proposal), copy.proposal(), saved.proposal);
 }
 
 }  // namespace plandesk::desktop

@@ -261,8 +261,9 @@ void ReviewDesk::go(const ReviewTarget& target) {
         return panel->say(tr("This page opens when the first page is complete. It still needs \u201c%1\u201d.")
                               .arg(beginning(answer)));
     bool there = false;
-    room.forms.act(Qt::ShortcutFocusReason,
-                   [&] { there = goTo(room.proposal, target.form, target.control, target.row, target.column); });
+    room.forms.act(Qt::ShortcutFocusReason, [&] {
+        there = goTo(room.proposal, target.form, target.control, target.row, target.column, target.extract);
+    });
     if (!there)
         return panel->say(tr("This place cannot be reached now."));
     panel->say({});

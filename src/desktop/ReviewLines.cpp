@@ -97,7 +97,7 @@ ReviewGroups linesOf(const std::vector<Finding>& findings, const Proposal& propo
             {beginning(finding.question, longestPart),
              sentence(finding.sentence, finding.cause),
              words,
-             {finding.form, finding.control, finding.row, finding.column},
+             {finding.form, finding.control, finding.row, finding.column, finding.extract},
              page});
     }
     return groups;

@@ -20,6 +20,7 @@ struct ReviewTarget {
     std::string control;
     int row = -1;
     int column = -1;
+    int extract = 0;  ///< that the form has to show for it; 0 for none
 
     bool operator==(const ReviewTarget&) const = default;
 };

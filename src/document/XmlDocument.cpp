@@ -228,6 +228,8 @@ private:
 
 template <class Source>
 bool parse(const Source& source, XmlBuilder& builder) {
+    // Documents are read in several threads, and the library wants to be started in one of them alone.
+    [[maybe_unused]] static const bool started = (xmlInitParser(), true);
     // The parser would tell of broken encodings on the program's error output; the messages of the reader tell of them.
     xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
     xmlSAXHandler sax = handlers();

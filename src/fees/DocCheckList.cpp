@@ -92,7 +92,8 @@ DocCheckList::Fault DocCheckList::rowFault(DocumentRow& row) {
     const bool noFrom = trim(row.pageFrom.text()).empty();
     const bool noTo = trim(row.pageTo.text()).empty();
     if (row.enclosed.value() == 0)  // a page to alone is let pass
-        return noFrom ? Fault{} : Fault{"Select the document enclosed and provide the page No!!"};
+        return noFrom ? Fault{}
+                      : Fault{"Select the document enclosed and provide the page No!!", nullptr, &row.enclosed};
     if (noFrom)
         return {"Enter Document From Page No ! for : = " + row.enclosed.caption(), &row.pageFrom};
     if (noTo)

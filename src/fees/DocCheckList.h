@@ -61,10 +61,11 @@ public:
     Button Command5{*this, "Command5", "Print Particulars of Development"};
     Button cmdClose{*this, "cmdClose", "Close"};
 
-    /// Why a row cannot stand, and the box to go to; no text when it can.
+    /// Why a row cannot stand, and the box to go to, or the document that is not ticked; no text when it can.
     struct Fault {
         std::string text;
         TextBox* box = nullptr;
+        const CheckBox* unticked = nullptr;
     };
     /// Of every row that is saved and cannot stand. Tells and moves nothing.
     std::vector<Fault> faults();

@@ -1,6 +1,7 @@
 #include "review/GoTo.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/Numbers.h"
 #include "controls/User.h"
@@ -8,8 +9,10 @@
 #include "particulars/frmAnnexureA.h"
 #include "proposal/Grid.h"
 #include "proposal/LandRecordColumns.h"
+#include "proposal/OrderColumns.h"
 #include "review/AnswerCounts.h"
 #include "review/Questions.h"
+#include "ulc/frmScrutinyULC.h"
 
 namespace plandesk {
 
@@ -61,33 +64,71 @@ void chooseExtract(const Form& sheet, const Grid& grid, int row) {
         user::pick(*list, static_cast<int>(extract) - 1);
 }
 
-}  // namespace
+void goToControl(Form& sheet, Control& wanted, int row, int column) {
+    sheet.show();
+    auto* const strip = dynamic_cast<TabStrip*>(sheet.findKey(sheet.layout().tabs));
+    const int page = pageOf(sheet, wanted.key());
+    if (strip && page >= 0)
+        strip->setTab(page);
+    auto* const grid = dynamic_cast<Grid*>(&wanted);
+    const auto placeNow = [&] { return grid && grid->table() ? visiblePlace(*grid->table(), row) : -1; };
+    int place = placeNow();
+    if (grid && (place < 0 || grid->table()->filter().empty())) {
+        chooseExtract(sheet, *grid, row);
+        place = placeNow();
+    }
+    if (place >= 0)
+        grid->moveTo(place, std::max(column, 0));
+    if (wanted.takesFocus())
+        wanted.setFocus();
+}
 
-bool goTo(Proposal& proposal, std::string_view form, std::string_view control, int row, int column) {
-    Form* const sheet = proposal.forms.touch(form);
-    Control* const wanted = sheet ? sheet->findKey(control) : nullptr;
-    if (!wanted || !proposal.screen.inReach(*sheet))
-        return false;
-    const int page = pageOf(*sheet, wanted->key());
-    if (closed(proposal, *sheet, page))
+/// The forms of the orders, by their place in the list of orders, from 1.
+constexpr std::array orderForms = std::to_array<std::string_view>({"frmUS84", "frmULC20aDetails", "frmUS22"});
+
+/// The list of orders shows those of the extract.
+void showOrders(frmScrutinyULC& list, int extract) {
+    list.show();
+    if (extract <= list.cmbExtract.listCount() && list.cmbExtract.listIndex() != extract - 1)
+        user::pick(list.cmbExtract, extract - 1);
+}
+
+/// Opens the form of the extract's order from the list of orders; null when the order is another one.
+Form* openOrder(Proposal& proposal, frmScrutinyULC& list, std::string_view form, int extract) {
+    const auto rows = proposal.tables.ensure(&Tables::rsULCOrder).rowsOfKey(extract);
+    const auto order = 1 + (std::ranges::find(orderForms, form) - orderForms.begin());
+    if (!rows.empty() && valueNumber(rows.front()[ULCOrderColumn::ULCOrderSelection]) == static_cast<double>(order))
+        list.cmdDetails.press();
+    return proposal.forms.loaded(form);
+}
+
+bool goToOrder(Proposal& proposal, std::string_view form, std::string_view control, int row, int column, int extract) {
+    auto& list = proposal.forms.get<frmScrutinyULC>();
+    if (!proposal.screen.inReach(list))
         return false;
     proposal.screen.event([&] {
-        sheet->show();
-        auto* const strip = dynamic_cast<TabStrip*>(sheet->findKey(sheet->layout().tabs));
-        if (strip && page >= 0)
-            strip->setTab(page);
-        auto* const grid = dynamic_cast<Grid*>(wanted);
-        const auto placeNow = [&] { return grid && grid->table() ? visiblePlace(*grid->table(), row) : -1; };
-        int place = placeNow();
-        if (grid && (place < 0 || grid->table()->filter().empty())) {
-            chooseExtract(*sheet, *grid, row);
-            place = placeNow();
-        }
-        if (place >= 0)
-            grid->moveTo(place, std::max(column, 0));
-        if (wanted->takesFocus())
-            wanted->setFocus();
+        showOrders(list, extract);
+        Form* const sheet = form == list.name() ? &list : openOrder(proposal, list, form, extract);
+        Control* const wanted = sheet ? sheet->findKey(control) : nullptr;
+        if (wanted)
+            goToControl(*sheet, *wanted, row, column);
+        else
+            goToControl(list, list.dgdULCOrderDetails, -1, -1);
     });
+    return true;
+}
+
+}  // namespace
+
+bool goTo(Proposal& proposal, std::string_view form, std::string_view control, int row, int column, int extract) {
+    const bool order = std::ranges::find(orderForms, form) != orderForms.end() && !proposal.forms.loaded(form);
+    if (extract > 0 && (order || form == frmScrutinyULC::formName))
+        return goToOrder(proposal, form, control, row, column, extract);
+    Form* const sheet = proposal.forms.touch(form);
+    Control* const wanted = sheet ? sheet->findKey(control) : nullptr;
+    if (!wanted || !proposal.screen.inReach(*sheet) || closed(proposal, *sheet, pageOf(*sheet, wanted->key())))
+        return false;
+    proposal.screen.event([&] { goToControl(*sheet, *wanted, row, column); });
     return true;
 }
 

@@ -14,105 +14,200 @@ namespace {
 struct Mark {
     std::string_view text;
     std::string_view effect;
+    std::string_view forms{};  ///< how the names of the forms begin where it is one; empty: everywhere
+
+    bool countsOn(std::string_view form) const { return form.starts_with(forms); }
 };
 
-/// The longer ones first, where one begins another.
+constexpr std::string_view endsValue = "ends this value; what follows moves one place on";
+constexpr std::string_view unreadable = "is written as typed and makes the whole file unreadable";
+
+/// The longer ones first, where one holds another.
 constexpr std::array marks = std::to_array<Mark>({
     {"||", "ends its section; the answers of every section behind it move on"},
-    {"^#^", "ends this value; what follows moves one place on"},
-    {"$-$", "ends this value; what follows moves one place on"},
+    {"^#^", endsValue},
+    {"$-$", endsValue},
     {"@->", "ends this plot; what follows moves one place on"},
-    {"$$", "ends this value; what follows moves one place on"},
+    {"]]>", unreadable},
+    {"$$", endsValue},
+    {"$", endsValue},  // at the end of a value, where the list has "$$" between them
     {"@", "ends this value; every answer behind it in its section moves one place on"},
-    {"#", "ends this value; what follows moves one place on"},
+    {"#", endsValue},
     {"~", "ends this value; what follows is cut off or moves one place on"},
     {"\\", "comes back doubled, and again with every opening"},
-    {"^", "ends this value; what follows moves one place on"},
-    {"&", "is written as typed and makes the whole file unreadable"},
-    {"<", "is written as typed and makes the whole file unreadable"},
+    {"^", endsValue},
+    {"&", unreadable},
+    {"<", unreadable},
+    {"-", endsValue, "frmDocCheckList"},
+    {"\r", "is read as the end of a line alone"},
 });
 
-constexpr std::string_view foreignEffect = "is a character that the system's code page cannot hold";
-constexpr std::string_view controlEffect = "is no character of an XML file and makes it unreadable";
+/// Of each character whether it may be a mark or part of one.
+constexpr std::array<bool, 256> suspects = [] {
+    std::array<bool, 256> all{};
+    for (std::size_t character = 0; character < all.size(); ++character)
+        all[character] = character < 0x20 || character >= 0x80;
+    for (const Mark& mark : marks)
+        for (const char character : mark.text)
+            all[static_cast<unsigned char>(character)] = true;
+    return all;
+}();
 
-bool isControl(char character) {
-    return static_cast<unsigned char>(character) < 0x20 && character != '\t' && character != '\n' && character != '\r';
+/// Marks that are told by the kind of a character.
+enum class Kind { None, NoXml, NotHeld, NotUtf8 };
+struct KindMark {
+    Kind kind;
+    std::string_view mark;
+    std::string_view effect;
+};
+constexpr std::array kinds = std::to_array<KindMark>({
+    {Kind::NoXml, "a control character", "is no character of an XML file and makes it unreadable"},
+    {Kind::NotHeld, "a letter", "is a character that the system's code page cannot hold"},
+    {Kind::NotUtf8, "a letter",
+     "is written in the system's code page, which the file does not name, and makes it unreadable"},
+});
+
+bool inXml(char32_t point) {
+    if (point < 0x20)
+        return point == '\t' || point == '\n' || point == '\r';
+    return point != 0xFFFE && point != 0xFFFF && (point < 0xD800 || point > 0xDFFF);
 }
 
-/// The characters that the code page writes as they are.
-std::string heldBy(const std::string& codePage, std::string_view text) {
-    std::string held;
-    for (const char32_t codePoint : codePoints(text)) {
+/// Finds the marks of texts, for one code page.
+class Finder {
+public:
+    void examine(const Answered& answered, std::vector<Marked>& found) const {
+        const std::string& text = answered.text;
+        if (plain(text))
+            return;
+        const std::size_t before = found.size();
+        std::string rest = text;
+        for (const Mark& mark : marks)
+            if (mark.countsOn(answered.form) && rest.find(mark.text) != std::string::npos) {
+                rest = replaceAll(rest, mark.text, "");
+                found.push_back({answered, std::string(mark.text), std::string(mark.effect), "", only(mark, answered),
+                                 mark.effect == unreadable});
+            }
+        for (const KindMark& kind : kinds)
+            if (std::string without = dropped(rest, kind.kind); without != rest) {
+                rest = std::move(without);
+                found.push_back({answered, std::string(kind.mark), std::string(kind.effect), "",
+                                 only(kind.kind, answered), kind.kind != Kind::NotHeld});
+            }
+        for (std::size_t each = before; each < found.size(); ++each)
+            found[each].clean = rest;
+    }
+
+    /// Whether the text has nothing that may be a mark, which is quickly seen.
+    static bool plain(std::string_view text) {
+        return std::ranges::none_of(text, [](unsigned char character) { return suspects[character]; });
+    }
+
+private:
+    Kind kindOf(char32_t point) const {
+        if (!inXml(point))
+            return Kind::NoXml;
+        if (point < 0x80 || codePage == "UTF-8")
+            return Kind::None;
         std::string character;
-        appendUtf8(character, codePoint);
-        if (codePoint < 0x80 || (codePage == "UTF-8" && toCodePage(character, codePage) == character))
-            held += character;
+        appendUtf8(character, point);
+        return toCodePage(character, codePage) == "?" ? Kind::NotHeld : Kind::NotUtf8;
     }
-    return held;
+
+    std::string dropped(std::string_view text, Kind kind) const {
+        std::string kept;
+        for (const char32_t point : codePoints(text))
+            if (kindOf(point) != kind)
+                appendUtf8(kept, point);
+        return kept;
+    }
+
+    /// The text with this mark alone.
+    std::string only(const Mark& wanted, const Answered& answered) const {
+        constexpr std::string_view place = "\x01";
+        std::string rest = dropped(answered.text, Kind::NoXml);
+        for (const Mark& mark : marks)
+            if (mark.countsOn(answered.form))
+                rest = replaceAll(rest, mark.text, &mark == &wanted ? place : "");
+        rest = dropped(dropped(rest, Kind::NotHeld), Kind::NotUtf8);
+        return replaceAll(rest, place, wanted.text);
+    }
+    std::string only(Kind wanted, const Answered& answered) const {
+        std::string rest = answered.text;
+        for (const Mark& mark : marks)
+            if (mark.countsOn(answered.form))
+                rest = replaceAll(rest, mark.text, "");
+        for (const KindMark& kind : kinds)
+            if (kind.kind != wanted)
+                rest = dropped(rest, kind.kind);
+        return rest;
+    }
+
+    std::string codePage = systemCodePage();
+};
+
+bool holdsText(const Control& control) {
+    return control.kind() == ControlKind::TextBox || control.kind() == ControlKind::ComboBox;
 }
 
-Marked examine(const Answered& answered, const std::string& codePage) {
-    Marked found{answered, "", "", answered.text};
-    for (const Mark& mark : marks) {
-        if (found.mark.empty() && answered.text.find(mark.text) != std::string::npos) {
-            found.mark = mark.text;
-            found.effect = mark.effect;
+void examineTable(int place, const Recordset& table, const Finder& finder, std::vector<Marked>& found) {
+    const CarriedTable& carried = carriedTables()[static_cast<std::size_t>(place)];
+    const std::size_t key = keyColumnOf(table);
+    std::vector<RowKey> keys;
+    int number = 0;
+    for (const std::span<const Value> row : table.allRows()) {
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            const auto* text = std::get_if<std::string>(&row[column]);
+            if (!text || Finder::plain(*text) || meant(*text).empty() || !carried.carries(column, key))
+                continue;
+            if (keys.empty())
+                keys = rowKeysOf(table);
+            finder.examine({std::string(carried.form), std::string(carried.controlOf(column)), number,
+                            static_cast<int>(column), keys[static_cast<std::size_t>(number)].text(), *text, place},
+                           found);
         }
-        found.clean = replaceAll(found.clean, mark.text, "");
+        ++number;
     }
-    if (found.mark.empty() && std::ranges::any_of(answered.text, isControl)) {
-        found.mark = "control character";
-        found.effect = controlEffect;
-    }
-    std::erase_if(found.clean, isControl);
-    const bool plain = std::ranges::all_of(answered.text, [](unsigned char c) { return c < 0x80; });
-    if (!plain && codePage != "UTF-8") {
-        const std::string held = heldBy(codePage, found.clean);
-        if (found.mark.empty() && held != found.clean) {
-            found.mark = "a letter";
-            found.effect = foreignEffect;
-        }
-        found.clean = held;
-    }
-    return found;
 }
 
 }  // namespace
 
-std::vector<Marked> markedAnswers(const std::vector<Answered>& answers) {
-    const std::string codePage = systemCodePage();
-    std::vector<Marked> marked;
-    for (const Answered& answered : answers) {
-        if (answered.text.empty())
+std::vector<Marked> markedAnswers(const Proposal& proposal) {
+    const Finder finder;
+    std::vector<Marked> found;
+    for (const CarriedForm& carried : carriedForms()) {
+        const Form* form = proposal.forms.loaded(carried.name);
+        if (!form)
             continue;
-        if (Marked found = examine(answered, codePage); !found.mark.empty())
-            marked.push_back(std::move(found));
+        for (const Question& question : questionsOf(*form))
+            if (const std::string key = question.control().key(); holdsText(question.control()) && carried.carries(key))
+                finder.examine({form->name(), key, -1, -1, "", answerOf(question)}, found);
+        for (const std::string& key : split(carried.hidden, " "))
+            if (!key.empty())
+                finder.examine({form->name(), key, -1, -1, "", form->at<TextBox>(key).text()}, found);
     }
-    return marked;
+    int place = 0;
+    for (const CarriedTable& carried : carriedTables()) {
+        if (const Recordset* table = (proposal.tables.*carried.table).get())
+            examineTable(place, *table, finder, found);
+        ++place;
+    }
+    return found;
 }
 
 void replaceAnswer(Proposal& proposal, const Answered& answered, const std::string& text) {
-    if (!answered.isCell()) {
-        const Form* form = proposal.forms.loaded(answered.form);
-        if (auto* box = dynamic_cast<TextBox*>(form ? form->findKey(answered.control) : nullptr))
-            box->restoreText(text);
+    if (answered.isCell()) {
+        const CarriedTable& carried = carriedTables()[static_cast<std::size_t>(answered.table)];
+        if (Recordset* table = (proposal.tables.*carried.table).get())
+            table->replace(answered.row, answered.column, text);
         return;
     }
-    const auto carried = std::ranges::find_if(carriedTables(), [&](const CarriedTable& each) {
-        return each.form == answered.form && each.grid == answered.control;
-    });
-    Recordset* table = carried == carriedTables().end() ? nullptr : (proposal.tables.*carried->table).get();
-    if (!table || answered.row >= table->rowCount())
-        return;
-    const std::string filter = table->filter();
-    const std::string sort = table->sort();
-    table->setSort("");
-    table->setFilter("");
-    table->setAbsolutePosition(answered.row + 1);
-    table->set(answered.column, text);
-    table->setSort(sort);
-    table->setFilter(filter);
-    table->moveFirst();
+    const Form* form = proposal.forms.loaded(answered.form);
+    Control* control = form ? form->findKey(answered.control) : nullptr;
+    if (auto* box = dynamic_cast<TextBox*>(control))
+        box->restoreText(text);
+    else if (auto* list = dynamic_cast<ComboBox*>(control))
+        list->setText(text);
 }
 
 }  // namespace plandesk

@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <utility>
 
 #include "base/CodePage.h"
-#include "document/DocumentBlocks.h"
 #include "document/ProposalDocument.h"
 #include "document/SaveProposal.h"
 #include "particulars/frmAnnexureA.h"
-#include "review/Questions.h"
 
 namespace plandesk {
 
@@ -24,19 +23,53 @@ void runStep(Proposal& proposal, const SaveStep& step) {
         form->call(step.procedure);
 }
 
+/// Takes the texts of the blocks away for as long as the steps run that build them, and so finds out which of them are
+/// not built.
+class Blocks {
+public:
+    explicit Blocks(Proposal& proposal) : proposal(proposal) {
+        for (const DocumentBlock& block : documentBlocks())
+            kept.push_back(std::exchange(proposal.*block.fragment, ""));
+    }
+
+    /// Gives back the texts that were not built anew.
+    void settle(OfficeReading& reading) {
+        auto text = kept.begin();
+        for (const DocumentBlock& block : documentBlocks()) {
+            std::string& fragment = proposal.*block.fragment;
+            if (fragment.empty()) {
+                fragment = std::move(*text);
+                (fragment.empty() ? reading.absent : reading.earlier).push_back(&block);
+            }
+            ++text;
+        }
+    }
+
+private:
+    Proposal& proposal;
+    std::vector<std::string> kept;
+};
+
 /// Every step of a save, also those behind one that stops it, so that one gap does not hide all else.
-bool runSave(SilentSystem& system) {
+void runSave(SilentSystem& system, OfficeReading& reading) {
     Proposal& proposal = system.proposal;
-    bool stopped = false;
-    for (const SaveStep& step : saveSteps()) {
+    Blocks blocks(proposal);
+    const std::span<const SaveStep> steps = saveSteps();
+    for (const SaveStep& step : steps) {
+        if (&step == &steps.back())  // the one that joins the document
+            blocks.settle(reading);
         bool ended = false;
         proposal.screen.event([&] {
             runStep(proposal, step);
             ended = true;
         });
-        stopped = stopped || !ended || (step.needed && (proposal.*step.needed).empty());
+        reading.stopped = reading.stopped || !ended || (step.needed && (proposal.*step.needed).empty());
     }
-    return !stopped && system.machine.written.has_value();
+    reading.refusals = std::move(system.machine.told);
+    if (system.machine.written)
+        reading.refusals.pop_back();  // where it was written
+    else
+        reading.stopped = true;
 }
 
 /// What a form packs for the document, and the forms that are not in it without that.
@@ -52,49 +85,57 @@ constexpr std::array carriers = std::to_array<Carrier>({
 });
 
 /// A form whose answers were refused is told as missing; that nothing of it arrives goes without saying.
-void leaveOutRefused(std::vector<Answered>& answers, const Proposal& proposal) {
-    const Form* first = proposal.forms.loaded(frmAnnexureA::formName);
+void leaveOutRefused(std::vector<Difference>& differences, const Proposal& saved) {
+    const Form* first = saved.forms.loaded(frmAnnexureA::formName);
     for (const Carrier& carrier : carriers)
         if (first && first->at<TextBox>(carrier.box).text().empty())
-            std::erase_if(answers, [&](const Answered& answered) { return answered.form == carrier.form; });
+            std::erase_if(differences,
+                          [&](const Difference& difference) { return difference.first.form == carrier.form; });
+}
+
+/// What is left open and filled in by the save alone is as the user left it, and a zero that is not read, of the zeros
+/// that a save puts into the open boxes of the payment, is no loss.
+void leaveOutFillings(std::vector<Difference>& differences, const Proposal& typed, const Proposal& saved) {
+    std::erase_if(differences, [](const Difference& difference) {
+        return difference.first.form == "frmPayDetail" && difference.second.empty() &&
+               sameAnswer(difference.first.text, "0");
+    });
+    const bool open = std::ranges::any_of(differences, [](const Difference& difference) {
+        return difference.first.text.empty() && difference.row == Difference::Row::Both;
+    });
+    if (!open)
+        return;
+    const std::vector<Difference> filled = differencesOf(typed, saved);
+    std::map<Answered::Place, std::string_view> fillings;
+    for (const Difference& difference : filled)
+        fillings.emplace(difference.first.place(), difference.second);
+    std::erase_if(differences, [&fillings](const Difference& difference) {
+        if (!meant(difference.first.text).empty() || difference.row != Difference::Row::Both)
+            return false;
+        const auto found = fillings.find(difference.first.place());
+        return found != fillings.end() && found->second == difference.second;
+    });
 }
 
 }  // namespace
 
-OfficeReading readAsOffice(SilentSystem& system) {
-    Proposal& proposal = system.proposal;
-    std::vector<Answered> typed = carriedAnswers(proposal);
+OfficeReading readAsOffice(SilentSystem& copy, const Proposal& typed) {
+    Proposal& proposal = copy.proposal;
     OfficeReading reading;
-    system.machine.told.clear();
-    system.machine.written.reset();
-    reading.stopped = !runSave(system);
-    if (reading.stopped) {
-        reading.told = system.machine.told;
-        leaveOutRefused(typed, proposal);
-    }
-    reading.bytes = system.machine.written ? *system.machine.written
-                                           : toCodePage(joinDocument(proposal) + "\r\n", systemCodePage());
+    copy.machine.told.clear();
+    copy.machine.written.reset();
+    runSave(copy, reading);
+    reading.bytes =
+        copy.machine.written ? *copy.machine.written : toCodePage(joinDocument(proposal) + "\r\n", systemCodePage());
     SilentSystem office(proposal.screen.ports);
     reading.wellFormed = office.shell.openBytes(reading.bytes, SilentMachine::path);
     if (!reading.wellFormed)
         return reading;
-    const std::vector<Answered> saved = carriedAnswers(proposal);
-    reading.differences = differencesOf(typed, carriedAnswers(office.proposal));
-    // A save fills the open boxes of the payment with zeros; that such a zero is not read is no loss.
-    std::erase_if(reading.differences, [](const Difference& difference) {
-        return difference.first.form == "frmPayDetail" && difference.second.empty() &&
-               sameAnswer(difference.first.text, "0");
-    });
-    // What is left open and filled in by the save alone is as the user left it.
-    std::map<Answered::Place, std::string_view> after;
-    for (const Answered& answered : saved)
-        after.emplace(answered.place(), answered.text);
-    std::erase_if(reading.differences, [&after](const Difference& difference) {
-        if (!difference.first.text.empty() || difference.row != Difference::Row::Both)
-            return false;
-        const auto found = after.find(difference.first.place());
-        return found != after.end() && found->second == difference.second;
-    });
+    // Forms that were not loaded yet are saved with what they have from the start.
+    reading.differences = differencesOf(typed, office.proposal, &proposal);
+    if (reading.stopped)
+        leaveOutRefused(reading.differences, proposal);
+    leaveOutFillings(reading.differences, typed, proposal);
     return reading;
 }
 

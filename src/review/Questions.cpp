@@ -67,7 +67,8 @@ bool sameNumber(std::string_view a, std::string_view b) {
 }  // namespace
 
 bool Question::shown() const {
-    return std::ranges::any_of(controls, &Control::takesFocus);
+    const Control* frame = control().form().findKey(group->frame);
+    return (!frame || frame->visible()) && std::ranges::any_of(controls, &Control::takesFocus);
 }
 
 std::vector<Question> questionsOf(const Form& form) {

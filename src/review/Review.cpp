@@ -4,6 +4,7 @@
 #include <array>
 
 #include "review/Checks.h"
+#include "review/Words.h"
 
 namespace plandesk {
 
@@ -14,12 +15,12 @@ std::string_view kindWord(FindingKind kind) {
 
 std::vector<Finding> review(const mdiInterface& original) {
     std::vector<Finding> findings;
-    {
-        SilentSystem copy(original);
-        findMissing(copy, findings);
-        findDoubtful(copy.proposal, findings);
-    }
-    findChanged(original, findings);
+    SilentSystem copy(original);
+    Words words(original);
+    findMissing(copy, words, findings);
+    findDoubtful(copy.proposal, words, findings);
+    findChanged(original, copy, words, findings);
+    findUnsaved(copy, findings);
     std::stable_sort(findings.begin(), findings.end(),
                      [](const Finding& a, const Finding& b) { return a.kind < b.kind; });
     return findings;

@@ -24,6 +24,7 @@ struct Finding {
     std::string question;  ///< in the words of the page
     std::string sentence;
     std::string cause{};  ///< why, where it is known
+    int extract = 0;      ///< of a cell of the land records or orders: the extract that shows it; else 0
 };
 
 /// Looks a whole proposal through on copies of it; the proposal itself is not touched. What is missing comes first, in

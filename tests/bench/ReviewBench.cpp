@@ -1,8 +1,10 @@
 // What a review of a proposal costs, and a copy of it, with land records of many extracts.
 
+#include <memory>
 #include <string>
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include "controls/User.h"
 #include "proposal/LandRecordColumns.h"
@@ -48,6 +50,40 @@ void reviewProposal(benchmark::State& state) {
         benchmark::DoNotOptimize(review(world.shell));
 }
 
+/// What a key costs in a grid whose rows a copy shares: they are copied at the first change.
+void typeAfterACopy(benchmark::State& state) {
+    World world;
+    fill(world, static_cast<int>(state.range(0)));
+    Recordset& extracts = *world.proposal.tables.rsExtract712;
+    int number = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto copy = std::make_unique<SilentSystem>(world.shell);
+        state.ResumeTiming();
+        extracts.replace(0, ExtractColumn::SurveyNo, std::to_string(++number));
+        state.PauseTiming();
+        copy.reset();
+        state.ResumeTiming();
+    }
+}
+
+/// Memory of a proposal and of its copy: what is allocated and still there, in KB.
+void copyMemory(benchmark::State& state) {
+    const auto inUse = [] { return static_cast<double>(mallinfo2().uordblks + mallinfo2().hblkhd) / 1024; };
+    const double before = inUse();
+    auto world = std::make_unique<World>();
+    fill(*world, static_cast<int>(state.range(0)));
+    const double filled = inUse();
+    const SilentSystem copy(world->shell);
+    const double copied = inUse();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(&copy);
+    state.counters["proposalKB"] = filled - before;
+    state.counters["copyKB"] = copied - filled;
+}
+
+BENCHMARK(typeAfterACopy)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond)->Iterations(100);
+BENCHMARK(copyMemory)->Arg(0)->Arg(1000)->Arg(10000)->Iterations(1);
 BENCHMARK(copyProposal)->Arg(0)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(reviewProposal)->Arg(0)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
 

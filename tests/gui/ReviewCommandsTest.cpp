@@ -70,7 +70,7 @@ private slots:
                 }
             QFAIL(qPrintable(part + " is not among\n" + lines.join('\n')));
         };
-        goToLine("Name Of Owner (no. 2)");
+        goToLine("Name Of Owner (no. 2, row 2)");
         QVERIFY(form.front());
         QCOMPARE(form.cmbExtract.listIndex(), 1);
         QVERIFY(form.dgdOwner.focused());

@@ -20,12 +20,14 @@ struct ReviewProgram : testing::Test {
     ScratchFolder folder;
 
     /// A proposal with these answers on its first page, saved.
-    std::string saved(const std::string& name, const std::string& title, const std::string& area = "1") const {
+    std::string saved(const std::string& name, const std::string& title, const std::string& area = "1",
+                      const std::string& remark = "") const {
         World world;
         world.shell.press("mnuNew");
         world.fillFirstPage();
         world.box("frmAnnexureA", "txtTitle").setText(title);
         world.box("frmAnnexureA", "txtPltArea").setText(area);
+        world.box("frmNaOrder", "txtNARemark").setText(remark);
         world.ports.dialogs.answers.emplace_back("/home/saved.xml");
         world.proposal.screen.event([&] { world.shell.run("mnuSaveAs_Click"); });
         return folder.write(name, world.ports.files.contents.at("/home/saved.xml"));
@@ -38,15 +40,19 @@ bool tells(const Result& result, const std::string& line) {
 }
 
 TEST_F(ReviewProgram, TellsWhatIsMissingInOneLineEach) {
-    const Result result = review("'" + saved("a.xml", "Bungalow") + "'");
+    const Result result = review("'" + saved("a.xml", "Bungalow", "1", "begun") + "'");
     EXPECT_EQ(result.first, 1);
     EXPECT_TRUE(tells(result, "missing frmNaOrder.txtLandArea \"Land Area\": This question is marked with *"))
         << result.second;
     EXPECT_FALSE(tells(result, "missing frmAnnexureA.")) << result.second;
 }
 
+TEST_F(ReviewProgram, TellsNothingOfACompleteProposal) {
+    EXPECT_EQ(review("'" + saved("a.xml", "Bungalow") + "'"), Result(0, ""));
+}
+
 TEST_F(ReviewProgram, TellsTheSameAsJson) {
-    const Result result = review("--json '" + saved("a.xml", "Bungalow") + "'");
+    const Result result = review("--json '" + saved("a.xml", "Bungalow", "1", "begun") + "'");
     EXPECT_EQ(result.first, 1);
     EXPECT_TRUE(result.second.starts_with("[\n  {\n    \"kind\": \"missing\"")) << result.second;
     EXPECT_TRUE(tells(result, "    \"control\": \"txtLandArea\"")) << result.second;

@@ -13,39 +13,14 @@
 #include "review/GoTo.h"
 #include "review/OfficeReading.h"
 #include "review/Questions.h"
+#include "unit/ReviewFixture.h"
 #include "unit/StateText.h"
 #include "unit/World.h"
 
 namespace plandesk::test {
 namespace {
 
-struct ReviewTest : ::testing::Test {
-    World world;
-
-    /// A new proposal with the answers that a save needs.
-    void begin() {
-        world.shell.press("mnuNew");
-        world.fillFirstPage();
-        // What the office reads as a number alone, and a payment that carries its bank.
-        world.proposal.forms.touch("AnnexureACont");
-    }
-    std::vector<Finding> found(FindingKind kind) {
-        std::vector<Finding> findings = review(world.shell);
-        std::erase_if(findings, [kind](const Finding& finding) { return finding.kind != kind; });
-        return findings;
-    }
-    const Finding* at(const std::vector<Finding>& findings, std::string_view form, std::string_view control) {
-        const auto finding = std::ranges::find_if(
-            findings, [&](const Finding& each) { return each.form == form && each.control == control; });
-        return finding == findings.end() ? nullptr : &*finding;
-    }
-    static std::string lines(const std::vector<Finding>& findings) {
-        std::string text;
-        for (const Finding& finding : findings)
-            text += lineOf(finding) + '\n';
-        return text;
-    }
-};
+using ReviewTest = ReviewFixture;
 
 TEST_F(ReviewTest, AllFifteenTestsOfAnEmptyFirstPageAreToldAtOnce) {
     world.shell.press("mnuNew");
@@ -56,35 +31,9 @@ TEST_F(ReviewTest, AllFifteenTestsOfAnEmptyFirstPageAreToldAtOnce) {
         EXPECT_NE(at(missing, "frmAnnexureA", field), nullptr) << field << "\n" << lines(missing);
 }
 
-TEST_F(ReviewTest, EachTestOfTheFirstPageIsAFindingAlone) {
-    begin();
-    const auto& form = world.proposal.forms.get<frmAnnexureA>();
-    ASSERT_TRUE(form.firstPageFaults().empty());
-    for (const std::string_view field : {"txtTitle", "txtApplicantNm", "txtRegNm", "txtActualArea"}) {
-        const std::string before = world.box("frmAnnexureA", field).text();
-        world.box("frmAnnexureA", field).setText("");
-        const std::vector<Finding> missing = found(FindingKind::Missing);
-        EXPECT_NE(at(missing, "frmAnnexureA", field), nullptr) << field;
-        EXPECT_EQ(form.firstPageFaults().size(), 1U);
-        world.box("frmAnnexureA", field).setText(before);
-    }
-}
-
-TEST_F(ReviewTest, EveryStarredQuestionThatIsShownIsMissingUntilItIsAnswered) {
-    world.shell.press("mnuNew");
-    const std::vector<Finding> missing = found(FindingKind::Missing);
-    int starred = 0;
-    for (const Question& question : questionsOf(*world.proposal.forms.touch("frmAnnexureA")))
-        if (question.mandatory() && question.shown() && answerOf(question).empty()) {
-            ++starred;
-            EXPECT_NE(at(missing, "frmAnnexureA", question.control().key()), nullptr) << wordsOf(question);
-        }
-    EXPECT_GE(starred, 10);
-}
-
 TEST_F(ReviewTest, ADocumentThatIsTickedWithoutPagesIsMissing) {
     begin();
-    world.control<CheckBox>("frmDocCheckList", "Check1(2)").setValue(1);
+    control<CheckBox>("frmDocCheckList", "Check1(2)").setValue(1);
     const std::vector<Finding> missing = found(FindingKind::Missing);
     EXPECT_NE(at(missing, "frmDocCheckList", "txtDocPageNo(4)"), nullptr) << lines(missing);
     // That a file was written on the way is nothing that is missing.
@@ -160,7 +109,7 @@ TEST_F(ReviewTest, TheBoxThatMakesTheFileUnreadableComesFirst) {
 
 TEST_F(ReviewTest, AStoppedSaveIsMissingWithWhatItTells) {
     begin();
-    world.control<OptionButton>("frmPayDetail", "OptCheque").setValue(true);
+    control<OptionButton>("frmPayDetail", "OptCheque").setValue(true);
     world.box("frmPayDetail", "txtChqDraftNo").setText("#");
     const std::vector<Finding> missing = found(FindingKind::Missing);
     EXPECT_TRUE(std::ranges::any_of(missing, [](const Finding& each) { return each.cause == "It stops the save."; }))
@@ -196,7 +145,32 @@ TEST_F(ReviewTest, AFindingsControlIsReachedUnlessItsPageIsClosedYet) {
     world.fillFirstPage();
     EXPECT_TRUE(goTo(world.proposal, "frmAnnexureA", "txtBuildingHgt"));
     EXPECT_TRUE(world.box("frmAnnexureA", "txtBuildingHgt").focused());
-    EXPECT_EQ(world.control<TabStrip>("frmAnnexureA", "PropTab").tab(), 2);
+    EXPECT_EQ(control<TabStrip>("frmAnnexureA", "PropTab").tab(), 2);
+}
+
+TEST_F(ReviewTest, ACellOfAnExtractThatIsNotShownIsReachedByChoosingIt) {
+    beginWhole();
+    world.list("frmMain712", "cmbExtract").pick(0);
+    EXPECT_TRUE(goTo(world.proposal, "frmMain712", "dgdInfoOfExtract", 1, ExtractColumn::HissaNo, 2));
+    EXPECT_EQ(world.list("frmMain712", "cmbExtract").listIndex(), 1);
+    const Grid& grid = world.grid("frmMain712", "dgdInfoOfExtract");
+    EXPECT_EQ(grid.currentRow(), 0);
+    EXPECT_EQ(grid.currentColumn(), ExtractColumn::HissaNo);
+    EXPECT_TRUE(grid.focused());
+}
+
+TEST_F(ReviewTest, AnAnswerOfAnOrderIsReachedThroughTheListOfOrders) {
+    beginWhole();
+    for (const std::string_view form : {"frmUS84", "frmULC20aDetails", "frmUS22"})
+        world.proposal.forms.unload(form);
+    table(&Tables::rsULCOrder).replace(0, ULCOrderColumn::ULCOrderSelection, "1");
+    EXPECT_TRUE(goTo(world.proposal, "frmUS84", "txtCaseNumber", 0, US84OrderColumn::CaseNo, 1));
+    EXPECT_TRUE(world.box("frmUS84", "txtCaseNumber").focused());
+    EXPECT_EQ(world.box("frmUS84", "txtCaseNumber").text(), "7");
+    // The order of the extract is another one.
+    EXPECT_TRUE(goTo(world.proposal, "frmUS22", "txtAreaExistingStruct", 0, US22OrderColumn::FLD1, 1));
+    EXPECT_EQ(world.proposal.forms.loaded("frmUS22"), nullptr);
+    EXPECT_TRUE(world.grid("frmScrutinyULC", "dgdULCOrderDetails").focused());
 }
 
 TEST_F(ReviewTest, AQuestionIsFoundByItsNumberItsWordsAndItsAnswer) {
@@ -219,15 +193,17 @@ TEST_F(ReviewTest, TwoProposalsAreComparedByTheirAnswersAndTheRowsByTheirNumbers
     other.shell.press("mnuNew");
     other.fillFirstPage();
     other.proposal.forms.touch("AnnexureACont");
-    EXPECT_TRUE(differencesOf(carriedAnswers(world.proposal), carriedAnswers(other.proposal)).empty());
+    EXPECT_TRUE(differencesOf(world.proposal, other.proposal).empty());
     other.box("frmAnnexureA", "txtTitle").setText("Another");
     for (const int number : {1, 2}) {
         other.proposal.tables.rsOwner712->addNew();
         other.proposal.tables.rsOwner712->set(OwnerColumn::ExtNo, number);
+        other.proposal.tables.rsOwner712->set(OwnerColumn::Name, "Sham");
     }
     world.proposal.tables.rsOwner712->addNew();
     world.proposal.tables.rsOwner712->set(OwnerColumn::ExtNo, 2);
-    const auto differences = differencesOf(carriedAnswers(world.proposal), carriedAnswers(other.proposal));
+    world.proposal.tables.rsOwner712->set(OwnerColumn::Name, "Sham");
+    const auto differences = differencesOf(world.proposal, other.proposal);
     ASSERT_EQ(differences.size(), 2U);
     EXPECT_EQ(differences[0].first.control, "txtTitle");
     EXPECT_EQ(differences[0].second, "Another");

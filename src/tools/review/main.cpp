@@ -114,7 +114,7 @@ std::string_view rowWord(Difference::Row row) {
 int tellDifferences(const Options& options) {
     const Opened first(options.files[0]);
     const Opened second(options.files[1]);
-    const auto differences = differencesOf(carriedAnswers(first.proposal), carriedAnswers(second.proposal));
+    const auto differences = differencesOf(first.proposal, second.proposal);
     Json all = Json::array();
     for (const Difference& difference : differences) {
         const Answered& answered = difference.first;
