@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QDateEdit>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -168,12 +169,21 @@ public:
         if (event->type() == QEvent::MouseButtonRelease)
             QMetaObject::invokeMethod(
                 this, [this] { edit.setSelectedSection(edit.currentSection()); }, Qt::QueuedConnection);
+        if (event->type() == QEvent::KeyPress && isSeparatorAfterAdvance(*static_cast<QKeyEvent*>(event)))
+            return true;
         return ControlView::filterEvent(watched, event);
     }
 
 private:
     QPalette::ColorRole backRole() const override { return QPalette::Base; }
     bool changesByWheel() const override { return true; }
+    /// After the second digit of day or month the box goes on by itself; a separator typed then, as in 15/12/2030,
+    /// would lead past the next part.
+    bool isSeparatorAfterAdvance(const QKeyEvent& key) const {
+        const auto* line = edit.findChild<QLineEdit*>();
+        return !key.text().isEmpty() && QStringLiteral("/-.").contains(key.text()) && edit.currentSectionIndex() > 0 &&
+               line && line->hasSelectedText();
+    }
     void syncContent() override {
         const Date date = static_cast<DatePicker&>(*subject).date();
         edit.setDate({date.year, date.month, date.day});

@@ -152,6 +152,31 @@ private slots:
         QCOMPARE(stage.form().date.date().text(), "21/12/2025"s);
     }
 
+    void aDateIsTypedWithOrWithoutItsSeparators_data() {
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("date");
+        QTest::newRow("two digits") << "15/12/2030"
+                                    << "15/12/2030";
+        QTest::newRow("one digit") << "5/4/2030"
+                                   << "05/04/2030";
+        QTest::newRow("a digit that can be the only one") << "9/12/2030"
+                                                          << "09/12/2030";
+        QTest::newRow("hyphens") << "15-12-2030"
+                                 << "15/12/2030";
+        QTest::newRow("points") << "15.12.2030"
+                                << "15/12/2030";
+    }
+    void aDateIsTypedWithOrWithoutItsSeparators() {
+        QFETCH(QString, keys);
+        Stage stage;
+        stage.form().date.setDate({2024, 3, 15});
+        stage.view.act(Qt::TabFocusReason, [&] { stage.form().date.setFocus(); });
+        auto& edit = stage.widget<QDateEdit>(stage.form().date);
+        edit.setSelectedSection(QDateTimeEdit::DaySection);
+        QTest::keyClicks(&edit, keys);
+        QTEST(QString::fromStdString(stage.form().date.date().text()), "date");
+    }
+
     void aClickChoosesThePartOfTheDateThatIsTypedNext() {
         Stage stage;
         stage.form().date.setDate({2024, 3, 15});
