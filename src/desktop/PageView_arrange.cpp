@@ -265,13 +265,18 @@ int PageView::placeUnder(const Row& row, int top) {
     ControlView& view = *row.controls.front();
     const std::optional<QRect> stretch = row.above->stretchAbove(*view.control());
     view.setOnPage(row.shown && stretch);
-    const int left = row.above->widget().x();
-    const int room = stretch ? stretch->left() - gap() - left : 0;
-    if (stretch)
-        view.widget().setGeometry(stretch->left(), top, stretch->width(), lineHeight());
+    const QRect grid = row.above->widget().geometry();
+    int start = grid.left();
+    if (stretch) {
+        // A column that is narrow, or seen in part, still has its figure shown in full.
+        const int width = std::max(stretch->width(), view.widget().sizeHint().width());
+        start = std::max(grid.left(), std::min(stretch->left(), grid.right() + 1 - width));
+        view.widget().setGeometry(start, top, width, lineHeight());
+    }
+    const int room = start - gap() - grid.left();
     if (row.question) {
         row.question->setVisible(row.shown && row.question->sizeHint().width() <= room);
-        row.question->setGeometry(left, top, room, lineHeight());
+        row.question->setGeometry(grid.left(), top, room, lineHeight());
     }
     return top + lineHeight();
 }

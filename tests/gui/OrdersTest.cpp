@@ -64,6 +64,29 @@ private slots:
         QVERIFY(!total.visibleRegion().isEmpty());
     }
 
+    void theTotalIsShownInFullUnderANarrowColumnAndOneSeenInPart() {
+        OrderWindows windows;
+        enterUS84(windows);
+        windows.settle();
+        auto& form = windows.form<frmUS84>();
+        desktop::GridTable& table = windows.table(form.dgdTableAB);
+        auto& total = windows.widget<QLabel>(form.lblTotalArea);
+        const auto inFull = [&] {
+            return total.isVisible() && total.width() >= total.sizeHint().width() &&
+                   total.geometry().right() <= table.geometry().right() && total.x() >= table.x();
+        };
+        table.horizontalHeader()->resizeSection(US84PlotColumn::TotalArea, 12);
+        QTRY_VERIFY(windows.stretch(form.dgdTableAB, US84PlotColumn::TotalArea).width() < total.sizeHint().width());
+        QVERIFY(inFull());
+        // Its column begins 10 points before the right edge.
+        const QRect column = windows.stretch(form.dgdTableAB, US84PlotColumn::TotalArea);
+        const int wider = table.geometry().right() - 10 - column.x();
+        table.horizontalHeader()->resizeSection(US84PlotColumn::TotalArea, 120);
+        table.horizontalHeader()->resizeSection(US84PlotColumn::Village,
+                                                table.horizontalHeader()->sectionSize(US84PlotColumn::Village) + wider);
+        QTRY_VERIFY(inFull());
+    }
+
     void theTotalGoesWithItsColumnWhenThatIsScrolledAway() {
         OrderWindows windows;
         enterUS84(windows);
