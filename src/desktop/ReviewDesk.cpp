@@ -115,12 +115,12 @@ void ReviewDesk::makeMenu(QAction* before) {
         panel->beginSearch();
     });
     add(*menu, "reviewCompare", tr("&Compare with a file..."), {}, [this] { compare(); });
-    add(*menu, "reviewSave", tr("S&ave the list..."), {}, [this] { saveList(); });
+    add(*menu, "reviewSave", tr("&Save the list..."), {}, [this] { saveList(); });
     menu->addSeparator();
     if (const std::string guide = guideFile(room.proposal.screen.ports.program.folder()); !guide.empty())
         add(*menu, "reviewGuide", tr("&User guide"), {}, [this, guide] { openGuide(guide); });
     // The menu Help is the system's own and stays as it is.
-    add(*menu, "keyHelp", tr("&Sheet of keys"), {}, [this] { showKeyHelp(room.window); });
+    add(*menu, "keyHelp", tr("S&heet of keys"), {}, [this] { showKeyHelp(room.window); });
 }
 
 void ReviewDesk::openGuide(const std::string& file) {
