@@ -14,7 +14,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "desktop/Theme.h"
+#include "bench/BenchApplication.h"
 #include "drc/frmDRCUtilisationForm.h"
 #include "gui/GridForm.h"
 #include "gui/SampleForm.h"
@@ -30,20 +30,9 @@ using test::Session;
 constexpr int pageCount = 9;
 constexpr std::array menuForms = {"mnuMandatoryDocument", "mnuOptionalMandatoryDoc", "mnuContent", "mnuAbout"};
 
-void needApplication() {
-    if (qApp)
-        return;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "plandesk-bench";
-    static char* arguments[] = {name, nullptr};
-    new QApplication(count, arguments);  // lives as long as the process
-    desktop::useTheme();
-}
-
 /// A session with a new proposal whose first page passes its checks.
 std::unique_ptr<Session> newProposal() {
-    needApplication();
+    bench::needApplication();
     auto session = std::make_unique<Session>();
     session->press("mnuNew");
     auto& form = session->form<frmAnnexureA>();
@@ -74,7 +63,7 @@ void timeFirstShowing(benchmark::State& state, const std::function<std::unique_p
 }
 
 std::unique_ptr<Session> emptyWindow() {
-    needApplication();
+    bench::needApplication();
     return std::make_unique<Session>();
 }
 
@@ -157,7 +146,7 @@ BENCHMARK(keyPressToRepaint)->DenseRange(0, pageCount - 1)->Unit(benchmark::kMil
 
 /// A key in a figure of a development-rights form, whose words are written anew.
 void keyPressInAFigureToItsWords(benchmark::State& state) {
-    needApplication();
+    bench::needApplication();
     Session session;
     session.press("mnuDCRUtilization");
     auto& form = session.form<frmDRCUtilisationForm>();
@@ -202,7 +191,7 @@ BENCHMARK(answerThatMovesThePageToRepaint)->Unit(benchmark::kMillisecond);
 constexpr std::array gridRows = std::to_array<std::int64_t>({100, 50'000});
 
 void timeGrid(benchmark::State& state, const std::function<void(test::GridStage&, int round)>& act) {
-    needApplication();
+    bench::needApplication();
     test::GridStage stage(static_cast<int>(state.range(0)));
     stage.table->setAbsolutePosition(static_cast<int>(state.range(0)) / 2);
     stage.form().grid.moveTo(stage.form().grid.currentRow(), test::GridForm::Name);
@@ -255,7 +244,7 @@ BENCHMARK(keyInACellToRepaint)->ArgsProduct({{gridRows.begin(), gridRows.end()}}
 constexpr std::size_t longWord = 10'000'000;
 
 void keyInALongWordToRepaint(benchmark::State& state) {
-    needApplication();
+    bench::needApplication();
     test::Stage stage;
     TextBox& box = state.range(0) == 0 ? stage.form().title : stage.form().notes;
     box.setText(std::string(longWord, 'w'));
@@ -274,7 +263,7 @@ void keyInALongWordToRepaint(benchmark::State& state) {
 BENCHMARK(keyInALongWordToRepaint)->DenseRange(0, 1)->Unit(benchmark::kMillisecond);
 
 void cellsWithLongWordsToRepaint(benchmark::State& state) {
-    needApplication();
+    bench::needApplication();
     test::GridStage stage(4);
     for (int row = 0; row < 4; ++row) {
         stage.table->setAbsolutePosition(row + 1);

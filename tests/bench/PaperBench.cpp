@@ -6,11 +6,11 @@
 
 #include <benchmark/benchmark.h>
 
+#include "bench/BenchApplication.h"
 #include "desktop/PaperPages.h"
 #include "desktop/PaperPdf.h"
 #include "desktop/PreviewPage.h"
 #include "desktop/PreviewWindow.h"
-#include "desktop/Theme.h"
 #include "gui/Session.h"
 #include "reports/ReportCatalogue.h"
 #include "reports/ReportDesk.h"
@@ -20,20 +20,9 @@ namespace {
 using namespace plandesk;
 using test::Session;
 
-void needApplication() {
-    if (qApp)
-        return;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1;
-    static char name[] = "plandesk-bench";
-    static char* arguments[] = {name, nullptr};
-    new QApplication(count, arguments);  // lives as long as the process
-    desktop::useTheme();
-}
-
 /// What the print button of the particulars does, in a system that has shown no report yet.
 void firstPreview(benchmark::State& state) {
-    needApplication();
+    bench::needApplication();
     for (auto round : state) {
         Session session;
         session.press("mnuNew");
@@ -48,7 +37,7 @@ void firstPreview(benchmark::State& state) {
 BENCHMARK(firstPreview)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void turnPage(benchmark::State& state) {
-    needApplication();
+    bench::needApplication();
     Session session;
     session.window.forms().act(Qt::OtherFocusReason, [&] { session.shell.reports().show("rptDocChecklist"); });
     session.settle();
@@ -61,7 +50,7 @@ void turnPage(benchmark::State& state) {
 BENCHMARK(turnPage)->Unit(benchmark::kMillisecond);
 
 void layOutAllPapers(benchmark::State& state) {
-    needApplication();
+    bench::needApplication();
     for (auto round : state)
         for (const Paper& paper : reportLayouts())
             benchmark::DoNotOptimize(desktop::PaperPages(paper).count());
@@ -69,7 +58,7 @@ void layOutAllPapers(benchmark::State& state) {
 BENCHMARK(layOutAllPapers)->Unit(benchmark::kMillisecond);
 
 void allPapersAsPdf(benchmark::State& state) {
-    needApplication();
+    bench::needApplication();
     for (auto round : state)
         for (const Paper& paper : reportLayouts())
             benchmark::DoNotOptimize(desktop::pdfOf(paper).size());

@@ -12,8 +12,8 @@
 #include <benchmark/benchmark.h>
 
 #include "FirstPage.h"
+#include "bench/BenchApplication.h"
 #include "desktop/ReviewLook.h"
-#include "desktop/Theme.h"
 #include "gui/LandRecords.h"
 #include "gui/Session.h"
 #include "particulars/frmAnnexureA.h"
@@ -31,14 +31,7 @@ double seconds(Clock::duration duration) {
 
 /// A window with a proposal of so many 7/12 extracts, each of which lacks its survey number, and the panel open.
 std::unique_ptr<Session> reviewed(int extracts) {
-    if (!qApp) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        static int count = 1;
-        static char name[] = "plandesk-bench";
-        static char* arguments[] = {name, nullptr};
-        new QApplication(count, arguments);  // lives as long as the process
-        desktop::useTheme();
-    }
+    bench::needApplication();
     auto session = std::make_unique<Session>(QSize(1366, 768));
     session->press("mnuNew");
     test::fillFirstPage(session->form<frmAnnexureA>());
