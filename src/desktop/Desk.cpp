@@ -37,6 +37,7 @@ QRect Desk::hintPlace() const {
 }
 
 void Desk::paintEvent(QPaintEvent* event) {
+    painted();
     QPainter painter(this);
     if (!place.isEmpty() && !hint.isEmpty() && event->rect().intersects(hintPlace()))
         painter.drawText(hintPlace(), Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint);

@@ -22,6 +22,7 @@ public:
     QRect hintPlace() const;
 
     std::function<void()> resized = [] {};
+    std::function<void()> painted = [] {};
 
 protected:
     void paintEvent(QPaintEvent* event) override;

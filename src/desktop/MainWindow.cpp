@@ -15,6 +15,7 @@
 #include "desktop/Application.h"
 #include "desktop/ChildWindow.h"
 #include "desktop/LongText.h"
+#include "desktop/Pictures.h"
 #include "desktop/PreviewWindow.h"
 #include "desktop/QtText.h"
 #include "shell/mdiInterface.h"
@@ -70,6 +71,29 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
                       }}) {
     setObjectName(QStringLiteral("mdiInterface"));
     setCentralWidget(desk);
+    desk->resized = [this] {
+        screenView.guarded([this] {
+            screenView.fitWindows();
+            previewWindows.fit();
+            this->shell.resized();
+            timer2.start(tick);
+        });
+    };
+    // By a timer: it comes after the events that wait, so that the window answers to what the user did meanwhile.
+    desk->painted = [this] { QTimer::singleShot(0, this, [this] { furnish(); }); };
+    shell.paintBackground = [this] { desk->paintBackground(); };
+    shell.minimised = [this] { return isMinimized(); };
+    if (auto* application = dynamic_cast<Application*>(qApp))
+        application->failed = [this] { screenView.failed(); };
+    showFrame();
+    ownSize = framedWithin(screen()->availableGeometry(), usualFrame, {{0, 0}, firstSize}).size();
+    resize(ownSize);
+}
+
+void MainWindow::furnish() {
+    desk->painted = [] {};
+    if (review)
+        return;
     makeMenu();
     makeStatusBar();
     review = std::make_unique<ReviewDesk>(ReviewDesk::Room{*this, proposal, shell, screenView}, entry("mnuHelp"));
@@ -79,16 +103,6 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
         previewWindows.sync();
         tellHowToBegin();
     };
-    desk->resized = [this] {
-        screenView.guarded([this] {
-            screenView.fitWindows();
-            previewWindows.fit();
-            this->shell.resized();
-            timer2.start(tick);
-        });
-    };
-    shell.paintBackground = [this] { desk->paintBackground(); };
-    shell.minimised = [this] { return isMinimized(); };
     makeShortcuts();
     connect(qApp, &QApplication::focusChanged, this, [this](const QWidget* /*before*/, const QWidget* now) {
         if (now && desk->isAncestorOf(now))
@@ -96,10 +110,7 @@ MainWindow::MainWindow(Proposal& proposal, mdiInterface& shell)
     });
     showState();
     screenView.refresh();
-    if (auto* application = dynamic_cast<Application*>(qApp))
-        application->failed = [this] { screenView.failed(); };
-    ownSize = framedWithin(screen()->availableGeometry(), usualFrame, {{0, 0}, firstSize}).size();
-    resize(ownSize);
+    QApplication::setWindowIcon(programIcon());
 }
 
 MainWindow::~MainWindow() {
@@ -189,10 +200,14 @@ void MainWindow::makeTimers() {
     });
 }
 
-void MainWindow::showState() {
+void MainWindow::showFrame() {
     if (const QString title = asTitle(proposal.screen.caption()); windowTitle() != title)
         setWindowTitle(title);
     desk->setBackColor(toQt(shell.backColor()));
+}
+
+void MainWindow::showState() {
+    showFrame();
     for (const auto& [name, action] : entries)
         action->setEnabled(shell.available(name));
     tellHowToBegin();
@@ -213,9 +228,11 @@ void MainWindow::tellHowToBegin() {
 void MainWindow::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     // The desktop puts its frame around the window a little later, and tells nobody.
-    if (!event->spontaneous())
-        for (const int pause : {2 * tick, 10 * tick})
-            QTimer::singleShot(pause, this, [this] { fitScreen(); });
+    if (event->spontaneous())
+        return;
+    QTimer::singleShot(tick, this, [this] { furnish(); });
+    for (const int pause : {2 * tick, 10 * tick})
+        QTimer::singleShot(pause, this, [this] { fitScreen(); });
 }
 
 void MainWindow::fitScreen() {

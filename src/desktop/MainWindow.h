@@ -26,11 +26,17 @@ namespace plandesk::desktop {
 /// The place, without frame, of a window that stands at `wanted` as far as it is inside `available` with its frame.
 QRect framedWithin(const QRect& available, const QMargins& frame, const QRect& wanted);
 
-/// The picture of the main window: menu, desk with the forms, status bar, and the beat of the two timers.
+/// The picture of the main window: menu, desk with the forms, status bar, and the beat of the two timers. It comes onto
+/// the screen as a bare desk and furnishes itself when that is painted, since reading the fonts and drawing the icon
+/// take longer than all else of the start.
 class MainWindow : public QMainWindow {
 public:
     MainWindow(Proposal& proposal, mdiInterface& shell);
     ~MainWindow() override;
+
+    /// Makes what the first paint does not need: menu, status bar, keys, review, timers, icon. Once; later calls do
+    /// nothing. A window that nobody paints furnishes itself a moment after it was shown.
+    void furnish();
 
     ScreenView& forms() { return screenView; }
     PreviewWindows& previews() { return previewWindows; }
@@ -51,6 +57,8 @@ private:
     void makeStatusBar();
     void makeShortcuts();
     void makeTimers();
+    /// Title and colour of the desk: what an empty window shows.
+    void showFrame();
     void showState();
     /// Tells on the empty desk what to do, to whoever has not begun or has closed all forms.
     void tellHowToBegin();

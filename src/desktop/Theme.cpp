@@ -100,7 +100,6 @@ void useTheme() {
     palette.setColor(QPalette::Highlight, QColor(0x2F, 0x5D, 0x8C));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     QApplication::setPalette(palette);
-    QApplication::setWindowIcon(programIcon());
     installAccessibility();
 }
 

@@ -23,6 +23,32 @@ using namespace plandesk;
 using namespace plandesk::test;
 using namespace std::string_literals;
 
+/// Sees the first paint of a main window's desk, or keeps all paint from it.
+class FirstPaint : public QObject {
+public:
+    explicit FirstPaint(desktop::MainWindow& window) : window(window) {
+        window.centralWidget()->installEventFilter(this);
+    }
+
+    bool hidden = false;  ///< the desk is never painted
+    bool painted = false;
+    bool bare = false;  ///< it had no menu then
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint && hidden)
+            return true;
+        if (event->type() == QEvent::Paint && !painted) {
+            painted = true;
+            bare = !window.entry("mnuSave");
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    desktop::MainWindow& window;
+};
+
 class MainWindowTest : public QObject {
     Q_OBJECT
 
@@ -91,6 +117,48 @@ private slots:
         Session session({1500, 1300});
         QTest::qWait(1200);
         QCOMPARE(session.window.size(), QSize(1500, 1300));
+    }
+
+    void theWindowIsPaintedBeforeItIsFurnished() {
+        TestPorts machine;
+        Proposal proposal{machine};
+        mdiInterface shell{proposal};
+        desktop::MainWindow window{proposal, shell};
+        const QString title = window.windowTitle();
+        FirstPaint first(window);
+        window.show();
+        QTRY_VERIFY(window.entry("mnuSave"));
+        QVERIFY(first.painted);
+        QVERIFY(first.bare);
+        QCOMPARE(window.windowTitle(), title);
+        QVERIFY(!title.trimmed().isEmpty());
+        const auto entries = window.menuBar()->actions().size();
+        window.furnish();
+        QCOMPARE(window.menuBar()->actions().size(), entries);
+    }
+
+    void aWindowThatNobodyPaintsFurnishesItself() {
+        TestPorts machine;
+        Proposal proposal{machine};
+        mdiInterface shell{proposal};
+        desktop::MainWindow window{proposal, shell};
+        FirstPaint first(window);
+        first.hidden = true;
+        window.show();
+        QCoreApplication::processEvents();
+        QVERIFY(!window.entry("mnuSave"));
+        QTRY_VERIFY(window.entry("mnuSave"));
+    }
+
+    void aWindowThatIsNotFurnishedYetCloses() {
+        TestPorts machine;
+        machine.dialogs.answers = {"yes"};
+        Proposal proposal{machine};
+        mdiInterface shell{proposal};
+        desktop::MainWindow window{proposal, shell};
+        window.show();
+        QVERIFY(window.close());
+        QVERIFY(proposal.screen.ended());
     }
 
     void theProgramHasAnIconInEverySize() {

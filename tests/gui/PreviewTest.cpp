@@ -37,6 +37,7 @@ struct PreviewSession {
     desktop::MainWindow window{proposal, shell};
 
     explicit PreviewSession(QSize size = {1100, 760}) {
+        window.furnish();
         window.resize(size);
         window.show();
         QApplication::setActiveWindow(&window);

@@ -122,6 +122,7 @@ void RandomDialogs::answer() {
 
 RandomHands::RandomHands(Dice& dice, const std::filesystem::path& folder) : dice(dice), dialogs(program, dice, folder) {
     dialogs.parent = &window;
+    window.furnish();
     window.resize(1024, 700);
     window.show();
     begin();

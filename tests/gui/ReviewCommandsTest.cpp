@@ -213,6 +213,7 @@ private slots:
         Proposal proposal{{dialogs, clock, files, program, Progress::unheard(), printer}};
         mdiInterface shell{proposal};
         desktop::MainWindow window{proposal, shell};
+        window.furnish();
         window.show();
         window.forms().act(Qt::OtherFocusReason, [&] { shell.press("mnuNew"); });
         QCoreApplication::processEvents();
@@ -235,7 +236,8 @@ private slots:
             OwnFolder program(folder.path().toStdString());
             Proposal proposal{{machine.dialogs, machine.clock, machine.files, program}};
             mdiInterface shell{proposal};
-            const desktop::MainWindow window{proposal, shell};
+            desktop::MainWindow window{proposal, shell};
+            window.furnish();
             auto* entry = window.findChild<QAction*>("reviewGuide");
             QCOMPARE(entry != nullptr, installed);
             if (!entry)

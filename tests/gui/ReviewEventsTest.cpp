@@ -23,6 +23,7 @@ struct Shown {
     desktop::MainWindow window{world.proposal, world.shell};
 
     explicit Shown(bool reviewed) {
+        window.furnish();
         window.resize(1366, 768);
         window.show();
         QCoreApplication::processEvents();

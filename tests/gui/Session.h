@@ -31,6 +31,7 @@ struct Session {
     desktop::MainWindow window{proposal, shell};
 
     explicit Session(QSize size = {1024, 700}) {
+        window.furnish();
         window.resize(size);
         window.show();
         settle();

@@ -115,6 +115,7 @@ public:
         settle();
     }
     void show(QSize size) {
+        window.furnish();
         window.resize(size);
         window.show();
         settle();

@@ -40,6 +40,7 @@ int main(int argc, char* argv[]) {
     Proposal proposal({dialogs, clock, files, program, progress});
     mdiInterface shell(proposal);
     desktop::MainWindow window(proposal, shell);
+    window.furnish();
     dialogs.parent = progress.parent = &window;
     window.resize(1024, 700);
     window.show();

@@ -1,7 +1,8 @@
-// plandesk-startup RUNS TIMES MEMORY REFERENCE PROGRAM: starts the two programs in turn on the present display and
-// tells how long each takes from its start until its window is on the screen, painted, and answers, and how much memory
-// of its own (anonymous pages) it then has. Fails when the median of PROGRAM is more than TIMES that of REFERENCE in
-// time, or more than MEMORY times it in memory.
+// plandesk-startup MOMENT RUNS TIMES MEMORY REFERENCE PROGRAM: starts the two programs in turn on the present display,
+// which has to be empty, and tells how long each takes from its start to the moment, and how much memory of its own
+// (anonymous pages) it then has. MOMENT is "painted", when the window is seen on the screen for the first time, or
+// "answers", when it has then answered twice, so that all stands that it makes at once. Fails when the median of
+// PROGRAM is more than TIMES that of REFERENCE in time, or more than MEMORY times it in memory.
 
 #include <algorithm>
 #include <chrono>
@@ -15,6 +16,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <thread>
 #include <vector>
 
 #include <poll.h>
@@ -60,6 +62,23 @@ public:
         }
     }
 
+    /// Waits until a window that came onto the screen is seen there.
+    void waitForPaint() {
+        for (const auto start = Clock::now(); Clock::now() - start < patience;) {
+            if (look() != ground)
+                return;
+            std::this_thread::sleep_for(std::chrono::microseconds(100));
+        }
+        throw std::runtime_error("the window is not painted");
+    }
+
+    /// Takes what is on the screen now for its ground.
+    void clear() {
+        // The window of the program before goes a moment after its end.
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        ground = look();
+    }
+
     /// Asks the window for a sign of life and waits for it.
     void ping(xcb_window_t window) {
         xcb_client_message_event_t question{};
@@ -91,6 +110,20 @@ private:
         return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
     }
 
+    /// The colour at a place that lies inside any of the windows.
+    std::uint32_t look() {
+        constexpr std::int16_t place = 300;
+        const auto request =
+            xcb_get_image(connection.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, root, place, place, 1, 1, ~std::uint32_t{0});
+        const std::unique_ptr<xcb_get_image_reply_t, Release> reply(
+            xcb_get_image_reply(connection.get(), request, nullptr));
+        std::uint32_t colour = 0;
+        if (!reply || xcb_get_image_data_length(reply.get()) < static_cast<int>(sizeof colour))
+            throw std::runtime_error("the screen cannot be looked at");
+        std::memcpy(&colour, xcb_get_image_data(reply.get()), sizeof colour);
+        return colour;
+    }
+
     Event next() {
         for (const auto start = Clock::now(); Clock::now() - start < patience;) {
             if (Event event{xcb_poll_for_event(connection.get())})
@@ -103,6 +136,7 @@ private:
 
     std::unique_ptr<xcb_connection_t, Release> connection;
     xcb_window_t root = 0;
+    std::uint32_t ground = 0;
     xcb_atom_t protocols = 0;
     xcb_atom_t pingAtom = 0;
 };
@@ -121,18 +155,23 @@ double anonymousMegabytes(pid_t process) {
     throw std::runtime_error("the memory of the program cannot be read");
 }
 
-Start startToUsableWindow(Display& display, const std::string& program) {
+enum class Moment { Painted, Answers };
+
+Start startUntil(Moment moment, Display& display, const std::string& program) {
     std::string name = program;
     char* arguments[] = {name.data(), nullptr};
+    display.clear();
     const auto start = Clock::now();
     pid_t process = 0;
     if (posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments, environ) != 0)
         throw std::runtime_error("cannot start " + program);
     const xcb_window_t window = display.waitForWindow();
-    // The first answer can come before the window is painted, the second only after.
-    display.ping(window);
-    display.ping(window);
+    display.waitForPaint();
+    if (moment == Moment::Answers)
+        for (int answers = 0; answers < 2; ++answers)
+            display.ping(window);
     const Milliseconds taken = Clock::now() - start;
+    kill(process, SIGSTOP);  // it is to grow no further while its memory is counted
     const double memory = anonymousMegabytes(process);
     kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
@@ -150,20 +189,21 @@ double median(const std::vector<Start>& starts, double Start::*figure) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 6) {
-        std::cerr << "usage: plandesk-startup RUNS TIMES MEMORY REFERENCE PROGRAM\n";
+    if (argc != 7) {
+        std::cerr << "usage: plandesk-startup painted|answers RUNS TIMES MEMORY REFERENCE PROGRAM\n";
         return 2;
     }
     try {
-        const int runs = std::atoi(argv[1]);
+        const Moment moment = std::string_view(argv[1]) == "painted" ? Moment::Painted : Moment::Answers;
+        const int runs = std::atoi(argv[2]);
         std::vector<Start> reference;
         std::vector<Start> program;
         Display display;
-        startToUsableWindow(display, argv[4]);  // the first of each only brings the files into memory
-        startToUsableWindow(display, argv[5]);
+        startUntil(moment, display, argv[5]);  // the first of each only brings the files into memory
+        startUntil(moment, display, argv[6]);
         for (int run = 0; run < runs; ++run) {
-            reference.push_back(startToUsableWindow(display, argv[4]));
-            program.push_back(startToUsableWindow(display, argv[5]));
+            reference.push_back(startUntil(moment, display, argv[5]));
+            program.push_back(startUntil(moment, display, argv[6]));
         }
         const auto compare = [&](double Start::*figure, const char* unit, double allowed) {
             const double given = median(reference, figure);
@@ -173,8 +213,8 @@ int main(int argc, char* argv[]) {
                       << " times, allowed " << allowed << '\n';
             return own / given <= allowed;
         };
-        const bool quick = compare(&Start::milliseconds, " ms", std::atof(argv[2]));
-        const bool small = compare(&Start::megabytes, " MB", std::atof(argv[3]));
+        const bool quick = compare(&Start::milliseconds, " ms", std::atof(argv[3]));
+        const bool small = compare(&Start::megabytes, " MB", std::atof(argv[4]));
         return quick && small ? 0 : 1;
     } catch (const std::exception& error) {
         std::cerr << error.what() << '\n';
