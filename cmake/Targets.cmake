@@ -31,6 +31,15 @@ function(plandesk_library folder)
     plandesk_precompile(plandesk_${folder})
 endfunction()
 
+# Code that only tests: it is compiled more often than it pays to optimise it, and it is not what is fuzzed.
+function(plandesk_test_code target)
+    if(PLANDESK_SANITIZERS)
+        target_compile_options(${target} PRIVATE -O0 -fno-sanitize=fuzzer-no-link)
+    else()
+        target_compile_options(${target} PRIVATE -Og)
+    endif()
+endfunction()
+
 # CMake does not look into a file that was added for what the toolkit's code generator has to do; it looks into all of
 # them when its mark of the last time is gone.
 function(plandesk_generated target)

@@ -1,11 +1,9 @@
 // The schemas of docs/contract take what the system writes and refuse what it does not. PLANDESK_CONTRACT_DOCUMENTS=N
 // tries that many random proposals.
 
-#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <memory>
-#include <random>
 
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
@@ -14,6 +12,7 @@
 #include "ProposalFile.h"
 #include "base/Text.h"
 #include "document/DocumentBlocks.h"
+#include "unit/RandomRounds.h"
 #include "unit/roundtrip/RandomProposal.h"
 
 namespace plandesk::test {
@@ -21,18 +20,6 @@ namespace plandesk::test {
 namespace {
 
 const std::string sources = PLANDESK_SOURCES;
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr int usualDocuments = 50;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-constexpr int usualDocuments = 50;
-#else
-constexpr int usualDocuments = 300;
-#endif
-#else
-constexpr int usualDocuments = 300;
-#endif
 
 std::string bytesOf(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
@@ -182,10 +169,7 @@ TEST(Contract, theSchemaTakesWhatPartsThatAreSavedAloneLeave) {
 }
 
 TEST(Contract, theSchemaTakesRandomProposals) {
-    const char* many = std::getenv("PLANDESK_CONTRACT_DOCUMENTS");
-    const int wanted = many ? std::atoi(many) : usualDocuments;
-    std::uint64_t seed = std::random_device{}();
-    std::cout << "seeds from " << seed << std::endl;
+    auto [wanted, seed] = RandomRounds(300, 50);
     const ScratchFolder folder;
     Counts first;
     Counts second;

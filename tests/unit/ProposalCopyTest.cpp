@@ -1,11 +1,9 @@
 // A copy of a running system is the same as its original, and does the same from then on.
-// PLANDESK_COPY_SEED=N repeats the one sequence of that seed, PLANDESK_COPIES=N tries that many.
+// PLANDESK_SEED=N repeats the one sequence of that seed, PLANDESK_ROUNDS=N tries that many.
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <random>
 #include <regex>
 #include <set>
@@ -15,6 +13,7 @@
 
 #include "shell/FormCatalogue.h"
 #include "unit/FormEvents.h"
+#include "unit/RandomRounds.h"
 #include "unit/Sources.h"
 #include "unit/StateText.h"
 
@@ -212,13 +211,10 @@ std::string compareOneSequence(std::uint32_t seed) {
 }
 
 TEST(ProposalCopy, DoesTheSameAsItsOriginalFromThenOn) {
-    const char* one = std::getenv("PLANDESK_COPY_SEED");
-    const char* wanted = std::getenv("PLANDESK_COPIES");
-    const int rounds = one ? 1 : wanted ? std::atoi(wanted) : 1000;
-    std::uint32_t seed = one ? static_cast<std::uint32_t>(std::strtoul(one, nullptr, 10)) : std::random_device{}();
+    auto [rounds, seed] = RandomRounds(1000, 150);
     for (int round = 0; round < rounds; ++round, ++seed) {
-        const std::string differs = compareOneSequence(seed);
-        ASSERT_EQ(differs, "") << "PLANDESK_COPY_SEED=" << seed;
+        const std::string differs = compareOneSequence(static_cast<std::uint32_t>(seed));
+        ASSERT_EQ(differs, "") << "PLANDESK_SEED=" << seed;
     }
 }
 

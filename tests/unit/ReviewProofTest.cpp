@@ -1,12 +1,11 @@
 // Random proposals are reviewed, then saved and opened as a user would. What the review foretold is what differs
 // between the two, place by place and word by word: nothing is left out, and nothing is told that does not happen.
-// PLANDESK_REVIEW_SEED=N repeats the one proposal of that seed, PLANDESK_REVIEWS=N tries that many.
+// PLANDESK_SEED=N repeats the one proposal of that seed, PLANDESK_ROUNDS=N tries that many.
 
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <map>
-#include <random>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -19,6 +18,7 @@
 #include "proposal/OrderColumns.h"
 #include "review/OfficeReading.h"
 #include "review/Review.h"
+#include "unit/RandomRounds.h"
 #include "unit/roundtrip/RandomProposal.h"
 
 namespace plandesk::test {
@@ -419,16 +419,12 @@ std::string proveOne(const ScratchFolder& folder, std::uint64_t seed, Tally& tal
 }
 
 TEST(ReviewProof, WhatIsForetoldIsWhatHappensAndNothingElse) {
-    const char* one = std::getenv("PLANDESK_REVIEW_SEED");
-    const char* many = std::getenv("PLANDESK_REVIEWS");
-    const int rounds = many ? std::atoi(many) : one ? 1 : 300;
-    std::uint64_t seed = one ? std::strtoull(one, nullptr, 10) : std::random_device{}();
-    std::cout << "seeds from " << seed << std::endl;
+    auto [rounds, seed] = RandomRounds(300, 60);
     const ScratchFolder folder;
     Tally tally;
     for (int round = 0; round < rounds; ++round, ++seed) {
         const std::string differs = proveOne(folder, seed, tally);
-        ASSERT_EQ(differs, "") << "PLANDESK_REVIEW_SEED=" << seed;
+        ASSERT_EQ(differs, "") << "PLANDESK_SEED=" << seed;
     }
     std::cout << tally.reviewed << " reviewed, " << tally.unreadable << " of them unreadable, " << tally.refused
               << " refused; " << tally.changes << " changes foretold, the cause of " << tally.withoutCause

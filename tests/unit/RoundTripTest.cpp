@@ -1,33 +1,20 @@
 // Random proposals with everything in them are saved, opened and saved again; boxes, tables and the second file are
-// what the rules foretell from the first file alone. PLANDESK_ROUND_TRIP_SEED=N repeats the one proposal of that seed,
-// PLANDESK_ROUND_TRIPS=N tries that many, from that seed on if one is given.
+// what the rules foretell from the first file alone. PLANDESK_SEED=N repeats the one proposal of that seed,
+// PLANDESK_ROUNDS=N tries that many, from that seed on if one is given.
 
-#include <cstdlib>
 #include <iostream>
-#include <random>
 
 #include <gtest/gtest.h>
 
 #include "ProposalFile.h"
 #include "RoundTripModel.h"
 #include "base/CodePage.h"
+#include "unit/RandomRounds.h"
 #include "unit/roundtrip/RandomProposal.h"
 
 namespace plandesk::test {
 
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr int usualRounds = 300;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-constexpr int usualRounds = 300;
-#else
-constexpr int usualRounds = 2000;
-#endif
-#else
-constexpr int usualRounds = 2000;
-#endif
 
 /// Each tells its failure in one box; without a root all of them do.
 constexpr std::size_t blockProcedures = 6;
@@ -112,11 +99,7 @@ bool emptyAfterReading(std::string_view table) {
 }  // namespace
 
 TEST(RoundTrip, theSecondFileIsWhatTheRulesForetellFromTheFirst) {
-    const char* one = std::getenv("PLANDESK_ROUND_TRIP_SEED");
-    const char* many = std::getenv("PLANDESK_ROUND_TRIPS");
-    const int rounds = many ? std::atoi(many) : one ? 1 : usualRounds;
-    std::uint64_t seed = one ? std::strtoull(one, nullptr, 10) : std::random_device{}();
-    std::cout << "seeds from " << seed << std::endl;
+    auto [rounds, seed] = RandomRounds(2000, 300);
     const ScratchFolder folder;
     std::map<Outcome, int> outcomes;
     std::map<std::string, std::size_t> rows;

@@ -10,17 +10,11 @@
 #include <unistd.h>
 
 #include "driver/Session.h"
+#include "unit/RandomRounds.h"
 #include "unit/ScratchFolder.h"
 
 namespace plandesk {
 namespace {
-
-// Sanitizers keep memory of their own beside the program's.
-#if defined(__has_feature)
-constexpr bool sanitized = __has_feature(address_sanitizer);
-#else
-constexpr bool sanitized = false;
-#endif
 
 class VillageFileTest : public testing::Test {
 protected:
@@ -56,7 +50,7 @@ long statusOf(std::string_view name) {
 }
 
 TEST_F(VillageFileTest, AHugeFileIsReadWithinThreeTimesItsSize) {
-    if (sanitized)
+    if (test::sanitized)
         GTEST_SKIP() << "the sanitizers' own memory cannot be told apart";
     constexpr int villages = 1000000;
     const std::string line = "Tervale#1#TRV\n";
