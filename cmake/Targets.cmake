@@ -28,7 +28,11 @@ function(plandesk_library folder)
     add_library(plandesk_${folder} STATIC ${sources})
     target_link_libraries(plandesk_${folder} PUBLIC ${ARGN})
     target_include_directories(plandesk_${folder} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-    plandesk_precompile(plandesk_${folder})
+    if(PLANDESK_PRECOMPILE AND TARGET plandesk_base AND NOT folder STREQUAL "base")
+        target_precompile_headers(plandesk_${folder} REUSE_FROM plandesk_base)
+    else()
+        plandesk_precompile(plandesk_${folder})
+    endif()
 endfunction()
 
 # Code that only tests: it is compiled more often than it pays to optimise it, and it is not what is fuzzed.
