@@ -167,11 +167,15 @@ void FormView::scrollTo(const QWidget& widget) {
     if (!page.view->isAncestorOf(&widget))
         return;
     QCoreApplication::sendPostedEvents(page.view, QEvent::LayoutRequest);
+    // What comes next is seen too, so that one knows where one is going.
+    constexpr int linesAhead = 3;
+    const int height = page.area->viewport()->height();
+    const int ahead = std::min(linesAhead * fontMetrics().lineSpacing(), height / 4);
     const auto show = [&](const QRect& part) {
         QScrollBar& bar = *page.area->verticalScrollBar();
         // Where not all of it fits, its beginning is what one wants to see.
-        bar.setValue(std::max(bar.value(), part.bottom() + gap() - page.area->viewport()->height()));
-        bar.setValue(std::min(bar.value(), part.top() - gap()));
+        bar.setValue(std::max(bar.value(), part.bottom() + ahead - height));
+        bar.setValue(std::min(bar.value(), part.top() - ahead));
     };
     show(page.view->rowOf(widget));
     show(QRect(widget.mapTo(page.view, QPoint(0, 0)), widget.size()));

@@ -2,7 +2,9 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScrollBar>
+#include <QStyleOption>
 #include <algorithm>
 #include <array>
 #include <numeric>
@@ -220,6 +222,18 @@ std::optional<QModelIndex> GridTable::target(const QKeyEvent& key) {
         if (move.key == key.key())
             return moveCursor(move.action, key.modifiers());
     return {};
+}
+
+void GridTable::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (!hasFocus() || grid->rowCount() > 0)
+        return;
+    // There is no current cell that could show it.
+    QPainter painter(viewport());
+    QStyleOptionFocusRect mark;
+    mark.initFrom(viewport());
+    mark.rect = viewport()->rect().adjusted(1, 1, -1, -1);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &mark, &painter, this);
 }
 
 void GridTable::keyPressEvent(QKeyEvent* event) {

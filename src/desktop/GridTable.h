@@ -47,6 +47,7 @@ public:
     std::function<void()> cellsMoved = [] {};  ///< after scrolling and arranging
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void updateGeometries() override;

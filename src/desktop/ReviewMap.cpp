@@ -67,6 +67,8 @@ void ReviewMap::show(std::vector<ReviewPage> shown) {
     }
     if (!same)
         expandAll();
+    // The names have the room where nothing is missing.
+    setColumnHidden(Missing, std::ranges::all_of(pages, [](const ReviewPage& page) { return page.missing == 0; }));
 }
 
 QTreeWidgetItem* ReviewMap::addForm(const QString& name) {

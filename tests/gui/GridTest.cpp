@@ -294,14 +294,18 @@ private slots:
         GridStage stage(0);
         QCOMPARE(stage.shown().model()->rowCount(), 0);
         QVERIFY(!stage.shown().isColumnHidden(GridForm::Name));
+        const auto corner = [&] { return stage.shown().viewport()->grab().toImage().pixelColor(2, 2); };
+        const QColor quiet = corner();
         stage.clickAt({20, 10});
         QCOMPARE(&stage.keyboard(), &stage.shown());
+        QVERIFY(corner() != quiet);
         stage.type("x");
         for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Delete, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_Backspace})
             stage.press(key);
         QVERIFY(!stage.line());
         stage.press(Qt::Key_Tab);
         QCOMPARE(&stage.keyboard(), &stage.widget(stage.form().behind));
+        QCOMPARE(corner(), quiet);
     }
 
     void anUnboundGridIsEmpty() {

@@ -307,6 +307,37 @@ private slots:
         QWidget& box = session.widget(form.txtActualArea);
         QCOMPARE(box.visibleRegion().boundingRect().size(), box.size());
     }
+
+    void whatComesAfterTheFocusIsSeenToo() {
+        Session session({1024, 420});
+        session.press("mnuNew");
+        auto& form = session.form<frmAnnexureA>();
+        form.forEach<TextBox>([](TextBox& box) { box.setText("1"); });  // what is empty would hold the focus
+        form.forEach<ComboBox>([](ComboBox& list) { list.setListIndex(0); });
+        session.window.forms().act(Qt::OtherFocusReason, [&] { form.txtTitle.setFocus(); });
+        auto& view = *session.window.forms().viewOf(form);
+        const QWidget& seen = *visibleArea(view).viewport();
+        const QScrollBar& bar = *visibleArea(view).verticalScrollBar();
+        QVERIFY(bar.maximum() > 0);
+        const int lines = 2 * session.window.fontMetrics().lineSpacing();
+        int scrolled = 0;
+        for (const bool back : {false, true})
+            for (int step = 0; step < 14; ++step) {
+                const int before = bar.value();
+                QTest::keyClick(session.window.focusWidget(), Qt::Key_Tab, back ? Qt::ShiftModifier : Qt::NoModifier);
+                session.settle();
+                const QWidget& now = *session.window.focusWidget();
+                if (!seen.isAncestorOf(&now) || bar.value() == before)
+                    continue;
+                ++scrolled;
+                const QRect place(now.mapTo(&seen, QPoint(0, 0)), now.size());
+                if (back)
+                    QVERIFY(place.top() >= lines || bar.value() == bar.minimum());
+                else
+                    QVERIFY(seen.height() - place.bottom() >= lines || bar.value() == bar.maximum());
+            }
+        QVERIFY2(scrolled > 2, session.dialogs.messages.empty() ? "" : session.dialogs.messages[0].text.c_str());
+    }
 };
 
 static const Registered<LayoutTest> registered;

@@ -5,6 +5,7 @@
 #include <QTemporaryDir>
 
 #include "desktop/ReviewLook.h"
+#include "desktop/ReviewMap.h"
 #include "gui/LandRecords.h"
 #include "gui/Registry.h"
 #include "gui/ReviewSession.h"
@@ -209,6 +210,17 @@ private slots:
         session.key(Qt::Key_Return);
         QCOMPARE(session.form<frmAnnexureA>().PropTab.tab(), 2);
         QVERIFY(session.keyboardInForm());
+    }
+
+    void theMapGivesNamesTheRoomWhereNothingIsMissing() {
+        QWidget panel;
+        desktop::ReviewMap map(panel);
+        desktop::ReviewPage page{.form = "Fees", .page = "", .count = {}, .missing = 0};
+        map.show({page});
+        QVERIFY(map.isColumnHidden(2));
+        page.missing = 1;
+        map.show({page});
+        QVERIFY(!map.isColumnHidden(2));
     }
 
     void behindAModalFormNothingOfItIsReached() {
