@@ -1,5 +1,4 @@
 #include <QCheckBox>
-#include <QDateEdit>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
@@ -14,6 +13,7 @@
 #include "controls/Form.h"
 #include "controls/User.h"
 #include "desktop/ControlView.h"
+#include "desktop/DateEdit.h"
 #include "desktop/FormNames.h"
 #include "desktop/GridView.h"
 #include "desktop/Keys.h"
@@ -152,7 +152,7 @@ private:
 
 class DateView : public ControlView {
 public:
-    DateView(DatePicker& picker, QDateEdit& edit, ScreenView& screen) : ControlView(picker, edit, screen), edit(edit) {
+    DateView(DatePicker& picker, DateEdit& edit, ScreenView& screen) : ControlView(picker, edit, screen), edit(edit) {
         constexpr int firstYear = 100;
         constexpr int lastYear = 9999;
         edit.setLocale(QLocale::c());
@@ -168,28 +168,24 @@ public:
         // A click chooses day, month or year, so that what is typed next takes its place.
         if (event->type() == QEvent::MouseButtonRelease)
             QMetaObject::invokeMethod(
-                this, [this] { edit.setSelectedSection(edit.currentSection()); }, Qt::QueuedConnection);
-        if (event->type() == QEvent::KeyPress && isSeparatorAfterAdvance(*static_cast<QKeyEvent*>(event)))
-            return true;
+                this,
+                [this] {
+                    edit.forgetTypedDay();
+                    edit.setSelectedSection(edit.currentSection());
+                },
+                Qt::QueuedConnection);
         return ControlView::filterEvent(watched, event);
     }
 
 private:
     QPalette::ColorRole backRole() const override { return QPalette::Base; }
     bool changesByWheel() const override { return true; }
-    /// After the second digit of day or month the box goes on by itself; a separator typed then, as in 15/12/2030,
-    /// would lead past the next part.
-    bool isSeparatorAfterAdvance(const QKeyEvent& key) const {
-        const auto* line = edit.findChild<QLineEdit*>();
-        return !key.text().isEmpty() && QStringLiteral("/-.").contains(key.text()) && edit.currentSectionIndex() > 0 &&
-               line && line->hasSelectedText();
-    }
     void syncContent() override {
         const Date date = static_cast<DatePicker&>(*subject).date();
         edit.setDate({date.year, date.month, date.day});
     }
 
-    QDateEdit& edit;
+    DateEdit& edit;
 };
 
 class ButtonView : public ControlView {
@@ -297,7 +293,7 @@ ControlView& makeControlView(Control& control, QWidget& parent, ScreenView& scre
     case ControlKind::ComboBox:
         return *new ListView(static_cast<ComboBox&>(control), *new ListBox(parent), screen);
     case ControlKind::DatePicker:
-        return *new DateView(static_cast<DatePicker&>(control), *new QDateEdit(&parent), screen);
+        return *new DateView(static_cast<DatePicker&>(control), *new DateEdit(parent), screen);
     case ControlKind::Button:
         return *new ButtonView(static_cast<Button&>(control), *new QPushButton(&parent), screen);
     case ControlKind::Image:

@@ -13,6 +13,7 @@
 #include "base/Text.h"
 #include "controls/User.h"
 #include "desktop/GridView.h"
+#include "desktop/Keys.h"
 #include "desktop/ListBox.h"
 #include "desktop/LongText.h"
 #include "desktop/QtText.h"
@@ -27,11 +28,6 @@ constexpr std::array keysOutOfLine = {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, 
 bool isMouse(QEvent::Type type) {
     return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove ||
            type == QEvent::MouseButtonRelease;
-}
-
-/// The keys that open a list everywhere on the desktop.
-bool opensList(const QKeyEvent& event) {
-    return event.key() == Qt::Key_F4 || (event.key() == Qt::Key_Down && event.modifiers() & Qt::AltModifier);
 }
 
 }  // namespace

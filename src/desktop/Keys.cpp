@@ -51,6 +51,10 @@ std::string_view arrowKeyName(const QKeyEvent& event) {
     }
 }
 
+bool opensList(const QKeyEvent& event) {
+    return event.key() == Qt::Key_F4 || (event.key() == Qt::Key_Down && event.modifiers() & Qt::AltModifier);
+}
+
 QString typedText(const QKeyEvent& event) {
     const QString text = event.text();
     if (text.isEmpty() || event.modifiers() & Qt::ControlModifier)

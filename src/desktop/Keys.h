@@ -15,6 +15,9 @@ std::string_view systemKeyName(const QKeyEvent& event);
 /// other key.
 std::string_view arrowKeyName(const QKeyEvent& event);
 
+/// The keys that open a list everywhere on the desktop: F4 and Alt+Down.
+bool opensList(const QKeyEvent& event);
+
 /// The characters that an editor would put in for this key; empty when the key types nothing.
 QString typedText(const QKeyEvent& event);
 

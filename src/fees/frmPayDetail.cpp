@@ -99,7 +99,7 @@ frmPayDetail::frmPayDetail(Proposal& proposal)
     cmdPrint.click = [this] { cmdPrint_Click(); };
     cmdSave.toolTip = keepsAnswersTip;
     cmdSaveALL.toolTip = savesAllTip;
-    cmdPrint.toolTip = printsTip;
+    cmdPrint.toolTip = "Prepares the chalan; the list of papers prints it: Ctrl+P, Chalan Payment";
     cmdClose.toolTip = closesProgramTip;
     cmdClose.click = [this] { closeAllForms(this->proposal); };
     procedure("SaveData", [this] { SaveData(); });

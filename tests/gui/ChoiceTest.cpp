@@ -177,6 +177,69 @@ private slots:
         QTEST(QString::fromStdString(stage.form().date.date().text()), "date");
     }
 
+    void aDateIsTakenAsItIsTyped_data() {
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("date");
+        QTest::newRow("a day that the month before has not") << "31122025"
+                                                             << "31/12/2025";
+        QTest::newRow("with separators") << "31/5/2026"
+                                         << "31/05/2026";
+        QTest::newRow("a leap day") << "29022028"
+                                    << "29/02/2028";
+        QTest::newRow("a leap day of a year without one") << "29022027"
+                                                          << "28/02/2027";
+        QTest::newRow("a day that no April has") << "31042025"
+                                                 << "30/04/2025";
+        QTest::newRow("two digits of this century") << "5/6/21"
+                                                    << "05/06/2021";
+        QTest::newRow("two digits of the last") << "5/6/89"
+                                                << "05/06/1989";
+    }
+    void aDateIsTakenAsItIsTyped() {
+        QFETCH(QString, keys);
+        Stage stage;
+        stage.form().date.setDate({2026, 4, 15});
+        stage.view.act(Qt::TabFocusReason, [&] { stage.form().date.setFocus(); });
+        auto& edit = stage.widget<QDateEdit>(stage.form().date);
+        edit.setSelectedSection(QDateTimeEdit::DaySection);
+        QTest::keyClicks(&edit, keys);
+        QTest::keyClick(&edit, Qt::Key_Tab);
+        QTEST(QString::fromStdString(stage.form().date.date().text()), "date");
+    }
+
+    void aDateOfWhichOnePartIsTypedKeepsTheOthers() {
+        Stage stage;
+        stage.form().date.setDate({2026, 4, 15});
+        stage.view.act(Qt::TabFocusReason, [&] { stage.form().date.setFocus(); });
+        auto& edit = stage.widget<QDateEdit>(stage.form().date);
+        edit.setSelectedSection(QDateTimeEdit::DaySection);
+        QTest::keyClicks(&edit, "31");
+        edit.setSelectedSection(QDateTimeEdit::DaySection);
+        QTest::keyClick(&edit, Qt::Key_Down);
+        edit.setSelectedSection(QDateTimeEdit::MonthSection);
+        QTest::keyClicks(&edit, "12");
+        QCOMPARE(stage.form().date.date().text(), "29/12/2026"s);
+    }
+
+    void theKeysOfListsOpenTheCalendar_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("with");
+        QTest::newRow("F4") << int(Qt::Key_F4) << int(Qt::NoModifier);
+        QTest::newRow("Alt+Down") << int(Qt::Key_Down) << int(Qt::AltModifier);
+    }
+    void theKeysOfListsOpenTheCalendar() {
+        QFETCH(int, key);
+        QFETCH(int, with);
+        Stage stage;
+        stage.form().date.setDate({2026, 4, 15});
+        stage.view.act(Qt::TabFocusReason, [&] { stage.form().date.setFocus(); });
+        auto& edit = stage.widget<QDateEdit>(stage.form().date);
+        QTest::keyClick(&edit, Qt::Key(key), Qt::KeyboardModifiers(with));
+        QTRY_VERIFY(QApplication::activePopupWidget());
+        QApplication::activePopupWidget()->close();
+        QCOMPARE(stage.form().date.date().text(), "15/04/2026"s);
+    }
+
     void aClickChoosesThePartOfTheDateThatIsTypedNext() {
         Stage stage;
         stage.form().date.setDate({2024, 3, 15});
