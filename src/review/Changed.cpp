@@ -198,7 +198,7 @@ private:
 
     std::string causeOf(const Marked& mark, const Answered& affected) const {
         const std::string who = mark.answered.samePlace(affected) ? "" : " in \"" + words.of(mark.answered) + "\"";
-        return mark.mark + who + " " + mark.effect + ".";
+        return (mark.mark == "\r" ? "Its line break" : mark.mark) + who + " " + mark.effect + ".";
     }
 
     /// Of the marks that move the answer, its own before others.

@@ -128,7 +128,7 @@ constexpr std::array unreadBlocks = std::to_array<UnreadBlock>({
 void blocks(const Proposal& proposal, Findings& findings) {
     for (const UnreadBlock& block : unreadBlocks)
         if (!(proposal.*block.fragment).empty())
-            findings.push_back({FindingKind::Consider, std::string(block.form), "", -1, -1, "",
+            findings.push_back({FindingKind::Consider, std::string(block.form), "", -1, -1, std::string(block.words),
                                 std::string(block.words) +
                                     " is in the next file, and lost when that is opened and saved again after a new "
                                     "start."});

@@ -39,7 +39,7 @@ constexpr std::array marks = std::to_array<Mark>({
     {"&", unreadable},
     {"<", unreadable},
     {"-", endsValue, "frmDocCheckList"},
-    {"\r", "is read as the end of a line alone"},
+    {"\r", "comes back as one character of two, which no form shows"},
 });
 
 /// Of each character whether it may be a mark or part of one.

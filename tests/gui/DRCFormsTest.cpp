@@ -101,7 +101,9 @@ private slots:
         QTest::newRow("short") << "RecodCOunt 1" << false;
         QTest::newRow("one long word") << "<ISSUEOFDRC>" + QString(12'000, '#') + "</ISSUEOFDRC>" << true;
         QTest::newRow("many words") << QString("Patil & Sons#").repeated(1'000) << true;
-        QTest::newRow("at the limit") << QString(600, 'W') << false;
+        QTest::newRow("at the limit") << QString("Patil and Sons ").repeated(32) << false;
+        QTest::newRow("a word of one line") << QString(50, 'W') << false;
+        QTest::newRow("a word longer than a line") << QString(51, 'W') << true;
     }
     void aLongTextScrollsInItsMessageAndTheButtonStaysOnTheScreen() {
         QFETCH(QString, text);

@@ -164,8 +164,10 @@ TEST_F(ReviewConsiderTest, CertificatesThatTheNextFileDoesNotCarryOrCarriesFromE
     const auto sentences = [&] {
         std::string all;
         for (const Finding& finding : found(FindingKind::Consider))
-            if (finding.form == "frmIssuOfDRc")
+            if (finding.form == "frmIssuOfDRc") {
+                EXPECT_NE(finding.question, "") << finding.sentence;
                 all += finding.sentence + "\n";
+            }
         return all;
     };
     EXPECT_EQ(sentences(), "The application for a certificate is not in the file until its own Save was pressed.\n");
