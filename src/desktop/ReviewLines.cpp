@@ -139,11 +139,12 @@ ReviewGroups linesOf(const std::vector<Difference>& differences, const Proposal&
     Places places(proposal);
     for (const Difference& difference : differences) {
         const Answered& answered = difference.first;
+        const Spot spot = spotOf(answered);
         const bool onlyThere = difference.row == Difference::Row::SecondOnly;
         ReviewLine line{beginning(questionOf(onlyThere ? other : proposal, answered), longestPart),
                         {},
                         places.of(answered.form, answered.control).words,
-                        {answered.form, answered.control, onlyThere ? -1 : answered.row, answered.column}};
+                        {answered.form, answered.control, onlyThere ? -1 : spot.row, spot.column, spot.extract}};
         if (difference.row == Difference::Row::Both)
             line.text = translated("Here %1, in the file %2.").arg(quoted(answered.text), quoted(difference.second));
         groups[static_cast<std::size_t>(difference.row)].lines.push_back(std::move(line));

@@ -232,4 +232,19 @@ std::string questionOf(const Proposal& proposal, const Answered& answered) {
     return words + " (no. " + number + (place.empty() || place == "1" ? "" : ", row " + place) + ")";
 }
 
+Spot spotOf(const Answered& answered) {
+    Spot spot{answered.row, answered.column, 0};
+    if (!answered.isCell())
+        return spot;
+    const Tables::Member table = tables.at(static_cast<std::size_t>(answered.table)).table;
+    if (table != &Tables::rsPlot712 && table != &Tables::rsPlotPRC)
+        spot.extract = answered.number();
+    if (table == &Tables::rsSchemeBuilt || table == &Tables::rsSchemeSold) {
+        // A column of the figures is a row of the grid that shows them.
+        spot.row = answered.column;
+        spot.column = table == &Tables::rsSchemeBuilt ? SchemeGridColumn::FLD2 : SchemeGridColumn::FLD3;
+    }
+    return spot;
+}
+
 }  // namespace plandesk

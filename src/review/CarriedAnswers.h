@@ -101,4 +101,12 @@ std::vector<Difference> differencesOf(const Proposal& first, const Proposal& sec
 /// The words of the question, or the head of the cell's column, as `proposal` shows them.
 std::string questionOf(const Proposal& proposal, const Answered& answered);
 
+/// Which cell of its control shows an answer, and under which extract.
+struct Spot {
+    int row;  ///< of the control's table; -1 for a question
+    int column;
+    int extract;  ///< of a cell of the land records or orders; else 0
+};
+Spot spotOf(const Answered& answered);
+
 }  // namespace plandesk

@@ -12,6 +12,8 @@
 #include "proposal/OrderColumns.h"
 #include "review/AnswerCounts.h"
 #include "review/Questions.h"
+#include "ulc/OrderForm.h"
+#include "ulc/OrderRows.h"
 #include "ulc/frmScrutinyULC.h"
 
 namespace plandesk {
@@ -86,44 +88,78 @@ void goToControl(Form& sheet, Control& wanted, int row, int column) {
 /// The forms of the orders, by their place in the list of orders, from 1.
 constexpr std::array orderForms = std::to_array<std::string_view>({"frmUS84", "frmULC20aDetails", "frmUS22"});
 
-/// The list of orders shows those of the extract.
-void showOrders(frmScrutinyULC& list, int extract) {
-    list.show();
-    if (extract <= list.cmbExtract.listCount() && list.cmbExtract.listIndex() != extract - 1)
-        user::pick(list.cmbExtract, extract - 1);
+bool isOrderForm(std::string_view form) {
+    return std::ranges::find(orderForms, form) != orderForms.end();
 }
 
-/// Opens the form of the extract's order from the list of orders; null when the order is another one.
-Form* openOrder(Proposal& proposal, frmScrutinyULC& list, std::string_view form, int extract) {
-    const auto rows = proposal.tables.ensure(&Tables::rsULCOrder).rowsOfKey(extract);
-    const auto order = 1 + (std::ranges::find(orderForms, form) - orderForms.begin());
-    if (!rows.empty() && valueNumber(rows.front()[ULCOrderColumn::ULCOrderSelection]) == static_cast<double>(order))
-        list.cmdDetails.press();
-    return proposal.forms.loaded(form);
+/// The order's own form while the user sees it.
+OrderForm* openOrderForm(const Proposal& proposal, std::string_view form) {
+    auto* const sheet = dynamic_cast<OrderForm*>(proposal.forms.loaded(form));
+    return sheet && sheet->visible() ? sheet : nullptr;
 }
 
-bool goToOrder(Proposal& proposal, std::string_view form, std::string_view control, int row, int column, int extract) {
-    auto& list = proposal.forms.get<frmScrutinyULC>();
-    if (!proposal.screen.inReach(list))
-        return false;
-    proposal.screen.event([&] {
-        showOrders(list, extract);
-        Form* const sheet = form == list.name() ? &list : openOrder(proposal, list, form, extract);
-        Control* const wanted = sheet ? sheet->findKey(control) : nullptr;
-        if (wanted)
-            goToControl(*sheet, *wanted, row, column);
-        else
-            goToControl(list, list.dgdULCOrderDetails, -1, -1);
+/// The extract whose order the Save of an order's own form replaces; 0 when there is none.
+int currentExtract(Proposal& proposal) {
+    return proposal.tables.ensure(&Tables::rsULCOrder).eof() ? 0 : orderExtract(proposal);
+}
+
+/// The order's own form, when its Save writes the order that was opened in it, and that is the one wanted. In any other
+/// state it would lead the user to replace one order by another, or by nothing.
+OrderForm* boundForm(Proposal& proposal, std::string_view form, int extract) {
+    OrderForm* const sheet = openOrderForm(proposal, form);
+    if (!sheet || sheet->openedFor == 0 || sheet->openedFor != currentExtract(proposal))
+        return nullptr;
+    return extract == 0 || extract == sheet->openedFor ? sheet : nullptr;
+}
+
+/// Whether some order's own form is open for another extract: it would save its order as this one's, were this extract
+/// chosen now.
+bool otherIsOpen(const Proposal& proposal, int extract) {
+    return std::ranges::any_of(orderForms, [&](std::string_view form) {
+        const OrderForm* sheet = openOrderForm(proposal, form);
+        return sheet && sheet->openedFor != extract;
     });
-    return true;
+}
+
+/// Opens the order of the extract that the list of orders shows, when it is an order of that form.
+void openOrder(Proposal& proposal, frmScrutinyULC& list, std::string_view form, int extract) {
+    const auto order = 1 + (std::ranges::find(orderForms, form) - orderForms.begin());
+    if (currentExtract(proposal) == extract &&
+        valueNumber(proposal.tables.rsULCOrder->get(ULCOrderColumn::ULCOrderSelection)) == static_cast<double>(order))
+        list.cmdDetails.press();
+}
+
+/// To an answer of an order: in its own form while that is bound, or else as far as the list of orders leads.
+void goToOrder(Proposal& proposal, frmScrutinyULC& list, std::string_view form, std::string_view control, int row,
+               int column, int extract) {
+    Form* sheet = boundForm(proposal, form, extract);
+    if (!sheet) {
+        list.show();
+        if (extract > 0 && extract <= list.cmbExtract.listCount()) {
+            if (otherIsOpen(proposal, extract))
+                return goToControl(list, list.cmbExtract, -1, -1);
+            user::pick(list.cmbExtract, extract - 1);
+            if (isOrderForm(form))
+                openOrder(proposal, list, form, extract);
+        }
+        sheet = isOrderForm(form) ? boundForm(proposal, form, extract) : static_cast<Form*>(&list);
+    }
+    if (Control* const wanted = sheet ? sheet->findKey(control) : nullptr)
+        goToControl(*sheet, *wanted, row, column);
+    else
+        goToControl(list, list.dgdULCOrderDetails, -1, -1);
 }
 
 }  // namespace
 
 bool goTo(Proposal& proposal, std::string_view form, std::string_view control, int row, int column, int extract) {
-    const bool order = std::ranges::find(orderForms, form) != orderForms.end() && !proposal.forms.loaded(form);
-    if (extract > 0 && (order || form == frmScrutinyULC::formName))
-        return goToOrder(proposal, form, control, row, column, extract);
+    if (isOrderForm(form) || (extract > 0 && form == frmScrutinyULC::formName)) {
+        auto& list = proposal.forms.get<frmScrutinyULC>();
+        if (!proposal.screen.inReach(list))
+            return false;
+        proposal.screen.event([&] { goToOrder(proposal, list, form, control, row, column, extract); });
+        return true;
+    }
     Form* const sheet = proposal.forms.touch(form);
     Control* const wanted = sheet ? sheet->findKey(control) : nullptr;
     if (!wanted || !proposal.screen.inReach(*sheet) || closed(proposal, *sheet, pageOf(*sheet, wanted->key())))

@@ -11,8 +11,9 @@ namespace plandesk {
 /// current, the control focused; of a land record the extract of the row is chosen first. An act of the user, with the
 /// reactions that such acts have. False, and nothing happens, when there is no such control, or when it stands on a
 /// page that opens once the first page is complete. `row` counts all rows of the grid's table. `extract`: the extract
-/// of an answer about an order, else 0; the order's own form is opened from the list of orders, as a user does, and
-/// where the order is another one the list is where the way ends.
+/// of an answer about an order, else 0. An order's own form is entered only while its Save writes the order that it was
+/// opened for; the list of orders opens it, as for a user, where the extract's order is of that form. Otherwise the
+/// list is where the way ends, and it goes on showing what it shows while an order of another extract is open.
 bool goTo(Proposal& proposal, std::string_view form, std::string_view control, int row = -1, int column = -1,
           int extract = 0);
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "proposal/OrderColumns.h"
 namespace plandesk {
 
 std::string Words::of(const Answered& answered) {
@@ -18,19 +17,9 @@ std::string Words::of(const Answered& answered) {
 }
 
 Finding Words::finding(FindingKind kind, const Answered& answered, std::string sentence, std::string cause) {
-    Finding finding{kind,         answered.form,       answered.control, answered.row, answered.column,
-                    of(answered), std::move(sentence), std::move(cause)};
-    if (!answered.isCell())
-        return finding;
-    const Tables::Member table = carriedTables()[static_cast<std::size_t>(answered.table)].table;
-    if (table != &Tables::rsPlot712 && table != &Tables::rsPlotPRC)
-        finding.extract = answered.number();
-    if (table == &Tables::rsSchemeBuilt || table == &Tables::rsSchemeSold) {
-        // A column of the figures is a row of the grid that shows them.
-        finding.row = answered.column;
-        finding.column = table == &Tables::rsSchemeBuilt ? SchemeGridColumn::FLD2 : SchemeGridColumn::FLD3;
-    }
-    return finding;
+    const Spot spot = spotOf(answered);
+    return {kind,         answered.form,       answered.control, spot.row,    spot.column,
+            of(answered), std::move(sentence), std::move(cause), spot.extract};
 }
 
 Answered Words::cell(Tables::Member table, int row, int column) {

@@ -249,9 +249,10 @@ void frmScrutinyULC::cmdDetails_Click() {
     if (orders.recordCount() == 0)
         return;
     orders.moveFirst();
-    const auto open = [this]<class OrderForm>(void (OrderForm::*loadOrder)()) {
-        auto& form = proposal.forms.get<OrderForm>();
+    const auto open = [this]<class Own>(void (Own::*loadOrder)()) {
+        auto& form = proposal.forms.get<Own>();
         form.show();
+        form.openedFor = orderExtract(proposal);
         (form.*loadOrder)();
     };
     const double selection = valueNumber(orders.get(ULCOrderColumn::ULCOrderSelection));

@@ -46,7 +46,7 @@ void answer(YesNo& question, std::string_view code) {
 }  // namespace
 
 frmULC20aDetails::frmULC20aDetails(Proposal& proposal)
-    : DataForm(proposal, formName, "ULC Order Under Section  20 (a) (1)") {
+    : OrderForm(proposal, formName, "ULC Order Under Section  20 (a) (1)") {
     dgdSchemeDetails.allowDelete = false;
     DTPAppllication.setDate(screen().ports.clock.today());
     for (Control* later : {static_cast<Control*>(&lblDetails), static_cast<Control*>(&txtDetails),

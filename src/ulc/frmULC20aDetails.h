@@ -4,14 +4,14 @@
 #include <string_view>
 
 #include "controls/Controls.h"
-#include "proposal/DataForm.h"
 #include "proposal/Grid.h"
+#include "ulc/OrderForm.h"
 
 namespace plandesk {
 
 /// The exemption scheme under section 20(a)(1) of the Urban Land (Ceiling and Regulation) Act, 1976, for one extract:
 /// the type of scheme, the particulars that all schemes share, the scheme's fixed rows and a closing figure.
-class frmULC20aDetails : public DataForm {
+class frmULC20aDetails : public OrderForm {
 public:
     static constexpr std::string_view formName = "frmULC20aDetails";
 

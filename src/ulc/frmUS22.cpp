@@ -20,7 +20,7 @@ constexpr Layout sheet{.questionWidth = 30, .pages = pages, .buttons = "cmdSave 
 
 }  // namespace
 
-frmUS22::frmUS22(Proposal& proposal) : DataForm(proposal, formName, "ULC Order Under Section  22") {
+frmUS22::frmUS22(Proposal& proposal) : OrderForm(proposal, formName, "ULC Order Under Section  22") {
     txtAreaExistingStruct.keyPress = txtLandAppurantArea.keyPress = keyFilterDecimal;
     cmdSave.click = [this] { saveUS22Order(); };
     cmdClose.click = [this] { pressClose(); };

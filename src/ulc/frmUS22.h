@@ -3,13 +3,13 @@
 #include <string_view>
 
 #include "controls/Controls.h"
-#include "proposal/DataForm.h"
+#include "ulc/OrderForm.h"
 
 namespace plandesk {
 
 /// Two areas of the order under section 22 of the Urban Land (Ceiling and Regulation) Act, 1976, for one extract: the
 /// one that the first row of `rsULCOrder` stands for.
-class frmUS22 : public DataForm {
+class frmUS22 : public OrderForm {
 public:
     static constexpr std::string_view formName = "frmUS22";
 

@@ -66,7 +66,7 @@ double areaOf(const TextBox& box) {
 
 }  // namespace
 
-frmUS84::frmUS84(Proposal& proposal) : DataForm(proposal, formName, "ULC Order Under Section 8 (4)") {
+frmUS84::frmUS84(Proposal& proposal) : OrderForm(proposal, formName, "ULC Order Under Section 8 (4)") {
     dgdTableAB.allowDelete = false;
     dtpResultDate.setDate(screen().ports.clock.today());
     for (TextBox* area : {&txtTotAreaOwnerShip, &txtAreaDeduction, &txtGreenBelt, &txtSurplusArea})

@@ -3,15 +3,15 @@
 #include <string_view>
 
 #include "controls/Controls.h"
-#include "proposal/DataForm.h"
 #include "proposal/Grid.h"
+#include "ulc/OrderForm.h"
 
 namespace plandesk {
 
 /// The order of the competent authority under section 8(4) of the Urban Land (Ceiling and Regulation) Act, 1976, for
 /// one extract: the case, the applicant, the plots under development and the surplus area that results. Areas are in
 /// square metres.
-class frmUS84 : public DataForm {
+class frmUS84 : public OrderForm {
 public:
     static constexpr std::string_view formName = "frmUS84";
 

@@ -7,6 +7,7 @@
 
 #include "desktop/ReviewDesk.h"
 #include "gui/LandRecords.h"
+#include "gui/Orders.h"
 #include "gui/Registry.h"
 #include "gui/ReviewSession.h"
 #include "proposal/LandRecordColumns.h"
@@ -43,6 +44,31 @@ struct LandSession : ReviewSession {
     }
 };
 
+/// Enter on the first line that holds these words; false when none does.
+bool enterOnLine(ReviewSession& session, const QString& words) {
+    for (int group = 0; group < session.list().model()->rowCount(); ++group) {
+        const QStringList lines = session.lines(group);
+        const auto line = std::ranges::find_if(lines, [&](const QString& each) { return each.contains(words); });
+        if (line == lines.end())
+            continue;
+        session.list().setCurrentIndex(session.list().model()->index(static_cast<int>(line - lines.begin()), 0,
+                                                                     session.list().model()->index(group, 0)));
+        session.list().setFocus();
+        session.key(Qt::Key_Return);
+        return true;
+    }
+    return false;
+}
+
+/// The order under section 8 (4) of that extract, as one text.
+std::string orderOf(ReviewSession& session, int extract) {
+    std::string text;
+    for (const auto& row : session.proposal.tables.rsULCOrderUS84->rowsOfKey(extract))
+        for (const Value& cell : row)
+            text += valueText(cell) + "|";
+    return text;
+}
+
 std::string bytesOf(const QString& file) {
     std::ifstream stream(file.toStdString(), std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};
@@ -58,18 +84,7 @@ private slots:
         LandSession session;
         session.open();
         auto& form = session.form<frmMain712>();
-        const auto goToLine = [&](const QString& part) {
-            const QStringList lines = session.lines(0);
-            for (int row = 0; row < lines.size(); ++row)
-                if (lines[row].contains(part)) {
-                    session.list().setCurrentIndex(
-                        session.list().model()->index(row, 0, session.list().model()->index(0, 0)));
-                    session.list().setFocus();
-                    session.key(Qt::Key_Return);
-                    return;
-                }
-            QFAIL(qPrintable(part + " is not among\n" + lines.join('\n')));
-        };
+        const auto goToLine = [&](const QString& part) { QVERIFY(enterOnLine(session, part)); };
         goToLine("Name Of Owner (no. 2, row 2)");
         QVERIFY(form.front());
         QCOMPARE(form.cmbExtract.listIndex(), 1);
@@ -159,6 +174,55 @@ private slots:
         session.key(Qt::Key_F6);
         session.key(Qt::Key_Escape);
         QTRY_VERIFY(session.title(0).startsWith("Missing"));
+    }
+
+    /// An order's own form saves what it shows as the order of the extract that is chosen.
+    void aLineAboutAnOrderNeverLeadsIntoAFormOfAnotherOrder() {
+        QTemporaryDir folder;
+        LandSession session;
+        enterCards(session);
+        enterScrutiny(session);
+        enterUS84(session);
+        const auto closeOrder = [&] { user::click(session.form<frmUS84>().cmdClose); };
+        closeOrder();
+        const std::string file = folder.filePath("earlier.xml").toStdString();
+        session.dialogs.answers = {file};
+        session.press("mnuSave");
+        session.press("mnuUlcOrder");
+        auto& scrutiny = session.form<frmScrutinyULC>();
+        user::pick(scrutiny.cmbExtract, 1);
+        user::pick(scrutiny.cmbULCORDERDetails, 1);
+        user::click(scrutiny.cmdDetails);
+        user::type(session.form<frmUS84>().txtCaseNumber, "ULC/84/205");
+        user::click(session.form<frmUS84>().cmdSave);
+        closeOrder();
+        user::pick(scrutiny.cmbULCORDERDetails, 3);
+        user::pick(scrutiny.cmbExtract, 0);
+        const std::string first = orderOf(session, 1);
+        const std::string second = orderOf(session, 2);
+        QVERIFY(first.find("ULC/84/112") != std::string::npos);
+        QVERIFY(second.find("ULC/84/205") != std::string::npos);
+        session.open();
+        session.dialogs.take();
+        session.dialogs.answers = {file};
+        session.entry("reviewCompare").trigger();
+        session.settle();
+
+        QVERIFY(enterOnLine(session, "CaseNo (no. 2)"));
+        QVERIFY(!session.proposal.forms.loaded("frmUS84"));
+        QVERIFY(scrutiny.front());
+        QCOMPARE(scrutiny.cmbExtract.listIndex(), 1);
+        QVERIFY(scrutiny.dgdULCOrderDetails.focused());
+
+        // The order of the first extract is open: its form stays with it.
+        user::pick(scrutiny.cmbExtract, 0);
+        user::click(scrutiny.cmdDetails);
+        QVERIFY(enterOnLine(session, "CaseNo (no. 2)"));
+        QVERIFY(scrutiny.front());
+        user::click(session.form<frmUS84>().cmdSave);
+        QCOMPARE(orderOf(session, 1), first);
+        QCOMPARE(orderOf(session, 2), second);
+        QVERIFY(session.dialogs.messages.empty());
     }
 
     void whatIsNoProposalIsToldAndComparedWithNothing() {

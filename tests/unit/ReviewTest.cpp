@@ -13,6 +13,7 @@
 #include "review/GoTo.h"
 #include "review/OfficeReading.h"
 #include "review/Questions.h"
+#include "ulc/frmScrutinyULC.h"
 #include "unit/ReviewFixture.h"
 #include "unit/StateText.h"
 #include "unit/World.h"
@@ -171,6 +172,42 @@ TEST_F(ReviewTest, AnAnswerOfAnOrderIsReachedThroughTheListOfOrders) {
     EXPECT_TRUE(goTo(world.proposal, "frmUS22", "txtAreaExistingStruct", 0, US22OrderColumn::FLD1, 1));
     EXPECT_EQ(world.proposal.forms.loaded("frmUS22"), nullptr);
     EXPECT_TRUE(world.grid("frmScrutinyULC", "dgdULCOrderDetails").focused());
+}
+
+TEST_F(ReviewTest, AnOrdersOwnFormIsEnteredOnlyWhileItsSaveWritesTheOrderThatIsWanted) {
+    beginWhole();
+    struct OwnForm {
+        std::string_view name, box;
+    };
+    constexpr std::array forms = std::to_array<OwnForm>(
+        {{"frmUS84", "txtCaseNumber"}, {"frmULC20aDetails", "txtDetails"}, {"frmUS22", "txtAreaExistingStruct"}});
+    for (const OwnForm& form : forms)
+        world.proposal.forms.unload(form.name);
+    auto& scrutiny = world.proposal.forms.get<frmScrutinyULC>();
+    int order = 0;
+    for (const OwnForm& form : forms) {
+        const auto reached = [&](int extract) {
+            EXPECT_TRUE(goTo(world.proposal, form.name, form.box, -1, -1, extract));
+            const Form* sheet = world.proposal.forms.loaded(form.name);
+            return sheet && sheet->front();
+        };
+        table(&Tables::rsULCOrder).replace(0, ULCOrderColumn::ULCOrderSelection, std::to_string(++order));
+        table(&Tables::rsULCOrder).replace(1, ULCOrderColumn::ULCOrderSelection, "0");
+        EXPECT_FALSE(reached(0)) << form.name;
+        EXPECT_FALSE(reached(2)) << form.name;
+        EXPECT_EQ(world.proposal.forms.loaded(form.name), nullptr);
+        EXPECT_TRUE(reached(1)) << form.name;
+        EXPECT_TRUE(reached(0)) << form.name;
+        // The form holds the first extract's order: the list goes on showing that extract.
+        EXPECT_FALSE(reached(2)) << form.name;
+        EXPECT_EQ(scrutiny.cmbExtract.listIndex(), 0);
+        // The user chooses another extract himself.
+        user::pick(scrutiny.cmbExtract, 1);
+        EXPECT_FALSE(reached(0)) << form.name;
+        EXPECT_FALSE(reached(2)) << form.name;
+        EXPECT_TRUE(reached(1)) << form.name;
+        world.proposal.forms.unload(form.name);
+    }
 }
 
 TEST_F(ReviewTest, AQuestionIsFoundByItsNumberItsWordsAndItsAnswer) {
